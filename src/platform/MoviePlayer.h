@@ -7,6 +7,9 @@
 
 namespace orvanta {
 
+/// What a player is for: sound alone, or sound and picture.
+enum class MovieKind { Sound, Film };
+
 /// What a player is doing. The numbers are those that `ActiveMovie::CurrentState` gives.
 enum class MovieState { NoFile = -1, Stopped = 0, Paused = 1, Running = 2 };
 
@@ -20,34 +23,34 @@ class MoviePlayer {
 
   /// Loads `file` in place of what was loaded and plays it from its beginning. A file that cannot be played
   /// leaves `NoFile` if there was none before, else `Stopped`.
-  virtual void open(const std::filesystem::path& file) = 0;
+  virtual void Open(const std::filesystem::path& file) = 0;
   /// Plays on from the present position, from the beginning after the end.
-  virtual void run() = 0;
+  virtual void Run() = 0;
   /// Holds the position of a loaded file.
-  virtual void pause() = 0;
+  virtual void Pause() = 0;
   /// Stops; the file stays loaded.
-  virtual void stop() = 0;
+  virtual void Stop() = 0;
 
   /// Falls to `Stopped` by itself at the end of the last repetition.
-  virtual MovieState state() = 0;
-  /// The file is completely loaded and can be relied on. False after a failed `open`.
-  virtual bool loaded() = 0;
-  virtual double position() = 0;
-  virtual void setPosition(double seconds) = 0;
+  virtual MovieState State() = 0;
+  /// The file is completely loaded and can be relied on. False after a failed `Open`.
+  virtual bool Loaded() = 0;
+  virtual double Position() = 0;
+  virtual void SetPosition(double seconds) = 0;
   /// Length of the file, 0 while it is unknown.
-  virtual double length() = 0;
+  virtual double Length() = 0;
   /// Hundredths of a decibel, -10000 (silent) to 0 (loudest).
-  virtual int volume() = 0;
-  virtual void setVolume(int hundredthsOfDecibel) = 0;
+  virtual int Volume() = 0;
+  virtual void SetVolume(int hundredthsOfDecibel) = 0;
   /// How many times the file is played in all, at least 1. May be set while the file plays.
-  virtual void setPlayCount(int count) = 0;
+  virtual void SetPlayCount(int count) = 0;
 
   /// Size of the film in square pixels once it is loaded; empty for sound.
-  virtual Size filmSize() = 0;
+  virtual Size FilmSize() = 0;
   /// The film's present picture, null before the first one and for sound.
-  virtual PicturePtr frame() = 0;
-  /// Called on the program's thread, while it takes in input, after `frame` has changed.
-  std::function<void()> onFrame;
+  virtual PicturePtr Frame() = 0;
+  /// Called on the program's thread, while it takes in input, after `Frame` has changed.
+  std::function<void()> OnFrame;
 };
 
 }  // namespace orvanta

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/Geometry.h"
+
+namespace orvanta {
+
+class Canvas;
+class Control;
+class Form;
+
+/// The unit of a container's child controls.
+enum class ScaleMode { Pixels, Twips };
+
+inline constexpr int kTwipsPerPixel = 15;
+
+/// A form or a picture box: controls stacked in the order of their creation, the elements of one array together.
+class Container {
+ public:
+  explicit Container(ScaleMode scale) : scale_(scale) {}
+  Container(const Container&) = delete;
+  Container& operator=(const Container&) = delete;
+
+  virtual Form& OwnerForm() = 0;
+  /// Marks a part, in pixels of this container, to be painted again. A hidden container ignores it.
+  virtual void Invalidate(const Rect& area) = 0;
+  /// The whole of the container in its own pixels.
+  virtual Rect ClientArea() const = 0;
+
+  /// A length or place of a child control in whole pixels: nearest, ties to even.
+  int ToPixels(double units) const;
+  double FromPixels(int pixels) const { return scale_ == ScaleMode::Twips ? pixels * kTwipsPerPixel : pixels; }
+
+  void Attach(Control& child);
+  void Detach(Control& child);
+
+ protected:
+  ~Container() = default;
+  void PaintChildren(Canvas& canvas, Point origin, const Rect& area) const;
+  /// The topmost control at `p`, in pixels of this container, that takes the mouse; null if there is none.
+  Control* ChildAt(Point p) const;
+
+ private:
+  const ScaleMode scale_;
+  std::vector<Control*> stack_;  // bottom to top
+};
+
+}  // namespace orvanta

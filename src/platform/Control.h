@@ -1,0 +1,80 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "platform/Container.h"
+#include "platform/Property.h"
+
+namespace orvanta {
+
+enum class Pointer { Default, Hourglass, Hand, OpenHand, ClosedHand };
+
+/// Bits of the buttons that are held, and the number of the one that a press or release is about.
+enum MouseButton : int { kLeftButton = 1, kRightButton = 2, kMiddleButton = 4 };
+
+struct MouseEvent {
+  int Button = 0;
+  int Shift = 0;
+  double X = 0;  ///< In the control's own pixels.
+  double Y = 0;
+};
+
+/// Anything that stands on a form. `Index` is -1 outside a control array.
+class Control : public PropertyOwner {
+ public:
+  Control(Container& parent, std::string name, std::int16_t index = -1);
+  virtual ~Control();
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  const std::string Name;
+  const std::int16_t Index;
+  Property<bool> Visible;
+
+  /// Puts the control on the screen at once, before anything that blocks.
+  void Refresh();
+
+  /// In pixels of the parent.
+  virtual Rect Bounds() const = 0;
+  virtual void Paint(Canvas& canvas, Point origin, const Rect& area) const = 0;
+  /// The control at `p`, in pixels of the parent, that takes the mouse: this one, one inside it or null.
+  virtual Control* Hit(Point) { return nullptr; }
+  virtual Pointer PointerHere() const { return Pointer::Default; }
+
+  Container& Parent() const { return parent_; }
+  void PropertyChanged(const void* property) override;
+
+  std::function<void()> Click;
+  std::function<void(const MouseEvent&)> MouseDown, MouseMove, MouseUp;
+
+ protected:
+  /// Marks what the control covered and what it covers now.
+  void Touch();
+
+ private:
+  Container& parent_;
+  Rect extent_;  // what it covered at the last Touch, empty while hidden
+};
+
+/// A control with a place and a size, in the scale of its parent.
+class BoxControl : public Control {
+ public:
+  BoxControl(Container& parent, std::string name, std::int16_t index = -1);
+
+  Property<double> Left, Top, Width, Height;
+  /// A disabled control lets the mouse through to what lies below it.
+  Property<bool> Enabled;
+  Property<Pointer> MouseIcon;
+
+  void Move(double left, double top, double width, double height);
+  Rect Bounds() const override;
+  Control* Hit(Point p) override;
+  Pointer PointerHere() const override { return MouseIcon; }
+
+ protected:
+  void CopyLook(const BoxControl& from);
+};
+
+}  // namespace orvanta

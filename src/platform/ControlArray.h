@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/Control.h"
+
+namespace orvanta {
+
+/// Controls of one name, told apart by `Index`. Element 0 (and more, if the design has them) is there for ever;
+/// further ones are loaded and unloaded by number. An element's address stays the same while it is loaded.
+template <class T>
+class ControlArray {
+ public:
+  ControlArray(Container& parent, std::string name, int designed = 1) : parent_(parent), name_(std::move(name)) {
+    for (int i = 0; i < designed; ++i) Add(i);
+  }
+
+  /// The element `i`, which must be loaded.
+  T& operator()(int i) { return *elements_.at(static_cast<std::size_t>(i)); }
+  const T& operator()(int i) const { return *elements_.at(static_cast<std::size_t>(i)); }
+  /// Highest index.
+  int UBound() const { return static_cast<int>(elements_.size()) - 1; }
+
+  /// Adds the next element: the look of element 0, not visible.
+  void LoadNext() {
+    Add(UBound() + 1);
+    elements_.back()->CopyLook(*elements_.front());
+  }
+  /// Unloads every element above 0.
+  void UnloadAbove0() { elements_.resize(1); }
+
+  template <class Action>
+  void ForEach(Action action) {
+    for (auto& element : elements_) action(*element);
+  }
+  void Show(bool visible) {
+    ForEach([&](T& element) { element.Visible = visible; });
+  }
+
+  /// Handlers of all elements, with the element's index first.
+  std::function<void(std::int16_t)> Click, MouseDown, MouseUp;
+
+ private:
+  void Add(int i) {
+    const auto index = static_cast<std::int16_t>(i);
+    elements_.push_back(std::make_unique<T>(parent_, name_, index));
+    T& added = *elements_.back();
+    added.Click = [this, index] { if (Click) Click(index); };
+    added.MouseDown = [this, index](const MouseEvent&) { if (MouseDown) MouseDown(index); };
+    added.MouseUp = [this, index](const MouseEvent&) { if (MouseUp) MouseUp(index); };
+  }
+
+  Container& parent_;
+  std::string name_;
+  std::vector<std::unique_ptr<T>> elements_;
+};
+
+}  // namespace orvanta

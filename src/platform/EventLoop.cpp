@@ -1,0 +1,82 @@
+#include "platform/EventLoop.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/Form.h"
+#include "platform/Timer.h"
+
+namespace orvanta {
+
+EventLoop::Delivery::~Delivery() {
+  if (--loop_.depth_ > 0) return;
+  // A form's end may bury another (the whole-screen window of a film), so the list is taken first.
+  while (!loop_.graveyard_.empty()) std::exchange(loop_.graveyard_, {}).clear();
+}
+
+EventLoop::~EventLoop() = default;
+
+void EventLoop::Post(const FormEvent& event) {
+  if (event.kind == FormEvent::Kind::MouseMove && !queue_.empty()) {
+    FormEvent& last = queue_.back().event;
+    if (last.kind == event.kind && last.form == event.form && last.button == event.button) {
+      last.place = event.place;
+      return;
+    }
+  }
+  queue_.push_back({++lastNumber_, event});
+}
+
+void EventLoop::Pump() {
+  source_.TakeInput();
+  const Milliseconds now = source_.Now();
+  DeliverInput(lastNumber_);
+  DeliverTicks(now);
+}
+
+void EventLoop::PumpOrWait(Milliseconds deadline) {
+  for (const Timer* timer : timers_) deadline = std::min(deadline, timer->Due());
+  if (queue_.empty() && source_.Now() < deadline) source_.WaitForInput(deadline);
+  Pump();
+}
+
+void EventLoop::RunUntil(const std::function<bool()>& done) {
+  while (!done()) PumpOrWait(kNever);
+}
+
+void EventLoop::DeliverInput(std::uint64_t last) {
+  while (!queue_.empty() && queue_.front().number <= last) {
+    const FormEvent event = queue_.front().event;
+    queue_.pop_front();
+    if (Blocked(event)) continue;
+    Delivery delivery(*this);
+    event.form->Deliver(event);
+  }
+}
+
+void EventLoop::DeliverTicks(Milliseconds now) {
+  std::vector<Timer*> due;
+  std::copy_if(timers_.begin(), timers_.end(), std::back_inserter(due),
+               [now](const Timer* timer) { return timer->Due() <= now; });
+  std::stable_sort(due.begin(), due.end(), [](Timer* a, Timer* b) { return a->Due() < b->Due(); });
+  for (Timer* timer : due) {
+    // A handler before this one may have removed the timer, or pumped and so delivered its tick.
+    if (std::find(timers_.begin(), timers_.end(), timer) == timers_.end() || timer->Due() > now) continue;
+    Delivery delivery(*this);
+    timer->Tick(now);
+  }
+}
+
+bool EventLoop::Blocked(const FormEvent& event) const {
+  if (modal_.empty() || !event.IsInput()) return false;
+  return modal_.back() == nullptr || (event.form != modal_.back() && event.form->Owner() != modal_.back());
+}
+
+void EventLoop::Forget(const Form& form) {
+  std::erase_if(queue_, [&](const Queued& queued) { return queued.event.form == &form; });
+  std::erase_if(timers_, [&](const Timer* timer) { return &timer->OwnerForm() == &form; });
+}
+
+void EventLoop::Bury(std::unique_ptr<Form> form) { graveyard_.push_back(std::move(form)); }
+
+}  // namespace orvanta

@@ -1,0 +1,111 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/Canvas.h"
+#include "platform/FormEvent.h"
+#include "platform/FormWindow.h"
+#include "platform/Property.h"
+
+namespace orvanta {
+
+class Host;
+
+/// How a form is before its `Form_Load`. Width and height in twips.
+struct FormDesign {
+  std::string name;
+  double width = 0;
+  double height = 0;
+  ScaleMode scale = ScaleMode::Pixels;
+  WindowKind window = WindowKind::Main;
+  /// Stands in the centre of the screen when it first appears.
+  bool centred = true;
+};
+
+/// A window of the program. It is loaded hidden, by a `FormSlot`, and destroyed after `Unload`.
+class Form : public PropertyOwner, public Container {
+ public:
+  static constexpr int kNormal = 0, kMinimised = 1;               ///< of WindowState
+  static constexpr int kDefaultPointer = 0, kHourglassPointer = 11;  ///< of MousePointer
+
+  Form(Host& host, const FormDesign& design);
+  virtual ~Form();
+
+  Property<double> Left, Top, Width, Height;  ///< in twips, whatever the scale of the controls
+  Property<std::string> Caption;
+  Property<PicturePtr> Picture;
+  Property<bool> Visible;
+  Property<int> WindowState;
+  Property<int> MousePointer;
+
+  /// Every control, in the order of creation.
+  const std::vector<Control*>& Controls() const { return controls_; }
+
+  /// Shows the form; one that is visible comes to the front and is activated.
+  void Show();
+  /// Shows the form and pumps until it has been unloaded. The other forms get no input meanwhile.
+  void ShowModal(Form& owner);
+  void Refresh();
+  /// Runs `Form_Unload` and closes the window. The object lives on until the outermost delivery has returned.
+  void Unload();
+
+  virtual void Form_Load() {}
+  virtual void Form_Activate() {}
+  virtual void Form_Resize() {}
+  virtual void Form_Unload() {}
+
+  // For the toolkit and the hosts.
+  Host& TheHost() const { return host_; }
+  Form* Owner() const { return owner_; }
+  FormWindow& Window() { return *window_; }
+  /// The window's place on the screen, in pixels.
+  Rect Place() const;
+  void Deliver(const FormEvent& event);
+  virtual void Paint(Canvas& canvas, const Rect& area) const;
+  void PaintNow();
+  /// Brings the pointer up to date with what lies under the cursor.
+  void Settle();
+  void Adopt(Control& control) { controls_.push_back(&control); }
+  void Forget(Control& control);
+  std::function<void()> Released;  ///< set by the slot: the form is unloaded
+
+  Form& OwnerForm() override { return *this; }
+  void Invalidate(const Rect& area) override;
+  Rect ClientArea() const override;
+  void PropertyChanged(const void* property) override;
+
+ protected:
+  /// The user asked the window manager to close the window. Nothing happens unless a form wants it.
+  virtual void CloseRequested() {}
+  /// A click that no control took.
+  virtual void Form_Click() {}
+  void SetOwner(Form& owner);
+
+ private:
+  void Centre();
+  void VisibleChanged();
+  void MouseMoved(Point place, int held);
+  void MousePressed(Point place, int button);
+  void MouseReleased(Point place, int button);
+  void SetWindowState(int state);
+  Control* ControlAt(Point place) { return ChildAt(place); }
+
+  Host& host_;
+  const FormDesign design_;
+  std::vector<Control*> controls_;
+  std::unique_ptr<FormWindow> window_;
+  Form* owner_ = nullptr;
+  Control* captured_ = nullptr;  // gets the mouse until every button is released
+  int held_ = 0;
+  Point cursor_;
+  bool cursorInside_ = false;
+  bool shownBefore_ = false;
+  bool unloading_ = false;
+  bool pointerStale_ = false;
+  Pointer pointer_ = Pointer::Default;
+};
+
+}  // namespace orvanta

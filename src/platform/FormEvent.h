@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/Geometry.h"
+
+namespace orvanta {
+
+class Form;
+
+/// What a host tells of one form's window.
+struct FormEvent {
+  enum class Kind {
+    MouseMove,     ///< `place` is the cursor in the form, `button` the bits of the held buttons
+    MousePress,    ///< `button` is the one that was pressed; a double click is a second press
+    MouseRelease,  ///< the same for a release
+    MouseLeave,
+    Activate,
+    Minimise,
+    Restore,
+    Moved,  ///< `place` is the window's new place on the screen, not asked for by the program
+    Close,  ///< the user asks the window manager to close the window
+  };
+  Kind kind;
+  Form* form;
+  Point place{};
+  int button = 0;
+
+  bool IsInput() const { return kind <= Kind::MouseLeave || kind == Kind::Close; }
+};
+
+}  // namespace orvanta

@@ -1,0 +1,106 @@
+// What a form does with the events of its window.
+
+#include <utility>
+
+#include "platform/Form.h"
+#include "platform/Host.h"
+
+namespace orvanta {
+
+namespace {
+
+/// Where a control's own pixels begin, in pixels of the form.
+Point OriginOf(const Control& control) {
+  Point origin{control.Bounds().left, control.Bounds().top};
+  if (const auto* box = dynamic_cast<const Control*>(&control.Parent())) origin = origin + OriginOf(*box);
+  return origin;
+}
+
+/// Calls a copy, since the handler may unload the control that holds it.
+template <class Handler, class... Arguments>
+void Call(const Handler& handler, const Arguments&... arguments) {
+  if (const Handler copy = handler) copy(arguments...);
+}
+
+}  // namespace
+
+void Form::Deliver(const FormEvent& event) {
+  using Kind = FormEvent::Kind;
+  switch (event.kind) {
+    case Kind::MouseMove: MouseMoved(event.place, event.button); break;
+    case Kind::MousePress: MousePressed(event.place, event.button); break;
+    case Kind::MouseRelease: MouseReleased(event.place, event.button); break;
+    case Kind::MouseLeave: cursorInside_ = false; break;
+    case Kind::Activate: Form_Activate(); break;
+    case Kind::Minimise: SetWindowState(kMinimised); break;
+    case Kind::Restore: SetWindowState(kNormal); break;
+    case Kind::Moved:
+      Left.SetQuietly(event.place.x * kTwipsPerPixel);
+      Top.SetQuietly(event.place.y * kTwipsPerPixel);
+      break;
+    case Kind::Close: CloseRequested(); break;
+  }
+  Settle();
+}
+
+void Form::MouseMoved(Point place, int held) {
+  cursor_ = place;
+  cursorInside_ = true;
+  pointerStale_ = true;
+  Control* target = captured_ ? captured_ : ControlAt(place);
+  if (!target) return;
+  const Point inside = place - OriginOf(*target);
+  Call(target->MouseMove, MouseEvent{held, 0, static_cast<double>(inside.x), static_cast<double>(inside.y)});
+}
+
+void Form::MousePressed(Point place, int button) {
+  cursor_ = place;
+  if (held_ == 0) captured_ = ControlAt(place);
+  held_ |= button;
+  if (!captured_) return;
+  const Point inside = place - OriginOf(*captured_);
+  Call(captured_->MouseDown, MouseEvent{button, 0, static_cast<double>(inside.x), static_cast<double>(inside.y)});
+}
+
+void Form::MouseReleased(Point place, int button) {
+  cursor_ = place;
+  const bool wasHeld = (held_ & button) != 0;
+  held_ &= ~button;
+  Control* target = captured_;
+  if (held_ == 0) captured_ = nullptr;
+  pointerStale_ = true;
+  if (!target) {
+    if (wasHeld && button == kLeftButton && ClientArea().Contains(place) && !ControlAt(place)) Form_Click();
+    return;
+  }
+  const Point inside = place - OriginOf(*target);
+  const Rect box = target->Bounds();
+  const bool clicked = wasHeld && button == kLeftButton && Rect{0, 0, box.width, box.height}.Contains(inside);
+  // Copied before the release is told of, since that handler may unload the control.
+  const auto click = target->Click;
+  Call(target->MouseUp, MouseEvent{button, 0, static_cast<double>(inside.x), static_cast<double>(inside.y)});
+  if (clicked) Call(click);
+}
+
+void Form::SetWindowState(int state) {
+  if (WindowState == state) return;
+  WindowState.SetQuietly(state);
+  Form_Resize();
+}
+
+void Form::Settle() {
+  if (!std::exchange(pointerStale_, false)) return;
+  Pointer wanted = Pointer::Default;
+  if (MousePointer == kHourglassPointer) {
+    wanted = Pointer::Hourglass;
+  } else if (captured_) {
+    wanted = captured_->PointerHere();
+  } else if (const Control* control = cursorInside_ ? ControlAt(cursor_) : nullptr) {
+    wanted = control->PointerHere();
+  }
+  if (wanted == pointer_) return;
+  pointer_ = wanted;
+  window_->SetPointer(wanted);
+}
+
+}  // namespace orvanta

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <memory>
+#include <utility>
+
+#include "platform/Form.h"
+#include "platform/Host.h"
+
+namespace orvanta {
+
+/// A form by its name: loaded at its first use, and afresh at the first use after it was unloaded.
+template <class FormType, class Owner>
+class FormSlot {
+ public:
+  explicit FormSlot(Owner& owner) : owner_(owner) {}
+  FormSlot(const FormSlot&) = delete;
+  FormSlot& operator=(const FormSlot&) = delete;
+
+  FormType* operator->() { return &Load(); }
+  FormType& operator*() { return Load(); }
+
+  /// The form if it is loaded; it is not loaded by asking.
+  FormType* Loaded() const { return form_.get(); }
+
+  void Unload() {
+    if (form_) form_->Unload();
+  }
+
+ private:
+  FormType& Load() {
+    if (!form_) {
+      form_ = std::make_unique<FormType>(owner_);
+      form_->Released = [this] { form_->TheHost().Loop().Bury(std::move(form_)); };
+      form_->Form_Load();
+    }
+    return *form_;
+  }
+
+  Owner& owner_;
+  std::unique_ptr<FormType> form_;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,116 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "platform/Host.h"
+#include "platform/headless/HeadlessWindow.h"
+
+namespace orvanta {
+
+/// The program would wait for ever, or longer than `HeadlessHost::deadline`.
+struct VirtualTimeOut : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+/// A host without a screen: a clock that moves only when the program waits or sleeps, a mouse that follows a
+/// script, and plain lists of what it was asked for.
+class HeadlessHost : public Host {
+ public:
+  explicit HeadlessHost(std::filesystem::path discFolder) : driveRoot(std::move(discFolder)) {}
+
+  // How the machine is.
+  std::filesystem::path driveRoot;
+  std::string appPath = "D:\\";
+  bool prevInstance = false;
+  Size screen{1024, 768};
+  bool soundCard = true;
+  int startResult = 33;
+  /// How long the user leaves a message box open; the loop is pumped meanwhile.
+  Milliseconds messageHold = 0;
+  struct Media {
+    double seconds = 1;
+    Size film{};
+    Milliseconds loadDelay = 0;
+  };
+  std::map<std::string, Media> media;  ///< what a file of this name plays, whatever it holds
+  Milliseconds deadline = 3600 * 1000;
+
+  // What happened.
+  std::vector<HeadlessWindow*> windows;  ///< from the bottom of the screen to its top
+  Form* active = nullptr;
+  struct Message {
+    std::string text;
+    int style;
+    std::string title;
+  };
+  std::vector<Message> messages;
+  struct PlayerCall {
+    Milliseconds time;
+    const void* player;
+    std::string file, call;
+  };
+  std::vector<PlayerCall> playerCalls;
+  std::vector<StartRequest> started;
+  std::vector<std::string> fonts, pictures;  ///< fonts with "+" or "-" before the name; pictures as loaded
+  struct Pause {
+    Milliseconds at, duration;
+  };
+  std::vector<Pause> sleeps;
+
+  // The script. Places are pixels of the screen.
+  void At(Milliseconds time, std::function<void()> action);
+  void After(Milliseconds delay, std::function<void()> action) { At(now_ + delay, std::move(action)); }
+  void MoveMouse(Point to);
+  void Press(int button = kLeftButton);
+  void Release(int button = kLeftButton);
+  void Click(Point at);
+  void ActivateOther() { SetActive(nullptr); }
+  void Activate(Form& form);
+  void Minimise(Form& form);
+  void Restore(Form& form);
+  void RequestClose(Form& form) { Loop().Post({FormEvent::Kind::Close, &form}); }
+  /// Lets the program run for so long.
+  void RunFor(Milliseconds duration);
+
+  HeadlessWindow& WindowOf(const Form& form) const;
+  /// For the windows: order and activation.
+  void PutOnTop(HeadlessWindow& window, bool activate);
+  void Lost(HeadlessWindow& window);
+
+  Milliseconds Now() override { return now_; }
+  void TakeInput() override;
+  void WaitForInput(Milliseconds until) override;
+  std::string AppPath() const override { return appPath; }
+  std::filesystem::path DriveRoot() const override { return driveRoot; }
+  bool PrevInstance() const override { return prevInstance; }
+  Size ScreenSize() const override { return screen; }
+  Point CursorPos() const override { return mouse_; }
+  Form* ActiveForm() const override { return active; }
+  std::unique_ptr<FormWindow> MakeWindow(Form& form, WindowKind kind) override;
+  void MsgBox(const std::string& text, int style, const std::string& title) override;
+  void Sleep(Milliseconds duration) override;
+  PicturePtr LoadPicture(const std::filesystem::path& file) override;
+  void AddFont(const std::filesystem::path& file) override { fonts.push_back("+" + file.filename().string()); }
+  void RemoveFont(const std::filesystem::path& file) override { fonts.push_back("-" + file.filename().string()); }
+  bool IsSoundCardEnabled() override { return soundCard; }
+  std::unique_ptr<MoviePlayer> MakePlayer(MovieKind kind) override;
+  int StartFile(const StartRequest& request) override;
+
+ private:
+  void SetActive(Form* form);
+  HeadlessWindow* UnderMouse() const;
+  void Advance(Milliseconds to);
+  void PostMouse(FormEvent::Kind kind, int button);
+
+  Milliseconds now_ = 0;
+  std::multimap<Milliseconds, std::function<void()>> script_;
+  Point mouse_;
+  int held_ = 0;
+  Form* capture_ = nullptr;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/EventLoop.h"
+#include "platform/MoviePlayer.h"
+
+namespace orvanta {
+
+class HeadlessHost;
+
+/// A player on the virtual clock. It knows how long a file plays from the header of a WAV file, or from the
+/// host's `media`; any other file cannot be played.
+class HeadlessPlayer : public MoviePlayer {
+ public:
+  HeadlessPlayer(HeadlessHost& host, MovieKind kind) : host_(host), kind_(kind) {}
+
+  void Open(const std::filesystem::path& file) override;
+  void Run() override;
+  void Pause() override;
+  void Stop() override;
+  MovieState State() override;
+  bool Loaded() override;
+  double Position() override;
+  void SetPosition(double seconds) override;
+  double Length() override { return length_; }
+  int Volume() override { return volume_; }
+  void SetVolume(int hundredthsOfDecibel) override;
+  void SetPlayCount(int count) override { playCount_ = count; }
+  Size FilmSize() override { return filmSize_; }
+  PicturePtr Frame() override { return frame_; }
+
+ private:
+  void Note(const std::string& call) const;
+  /// Seconds played since the start of the first repetition.
+  double Played() const;
+  void Settle();
+
+  HeadlessHost& host_;
+  const MovieKind kind_;
+  std::string name_;
+  MovieState state_ = MovieState::NoFile;
+  double length_ = 0;
+  double from_ = 0;            // played up to the last change of state
+  Milliseconds since_ = 0;     // when it last began to run
+  Milliseconds loadedAt_ = 0;
+  bool playable_ = false;
+  int volume_ = 0;
+  int playCount_ = 1;
+  Size filmSize_;
+  PicturePtr frame_;
+};
+
+/// Length in seconds by the header of a WAV file; nothing if it is none.
+std::optional<double> WavLength(const std::filesystem::path& file);
+
+}  // namespace orvanta

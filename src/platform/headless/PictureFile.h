@@ -1,0 +1,25 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "platform/Picture.h"
+
+namespace orvanta {
+
+/// A picture of which only the name of its file and its size are known.
+class PictureFile : public Picture {
+ public:
+  PictureFile(std::string ofName, Size size) : name(std::move(ofName)), size_(size) {}
+  Size PixelSize() const override { return size_; }
+
+  const std::string name;
+
+ private:
+  Size size_;
+};
+
+/// Reads the size from the header of a GIF or PNG file. Null if it is no such file or ends before its header.
+PicturePtr ReadPictureFile(const std::filesystem::path& file);
+
+}  // namespace orvanta
