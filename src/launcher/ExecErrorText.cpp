@@ -1,0 +1,59 @@
+#include "launcher/ExecErrorText.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace orvanta {
+namespace {
+
+/// The greatest number with which the document-open call reports a failure.
+constexpr std::int32_t LastFailure = 32;
+/// Failures without a number of their own show their code above this base, always a negative number.
+constexpr std::int32_t ObjectErrorBase = -2147220456;
+
+struct Failure {
+  std::int32_t code;
+  std::int32_t number;
+  std::string_view message;
+};
+
+constexpr std::array Failures = {
+    Failure{0, 7, "Brak pamięci."},
+    Failure{2, 53, "Nie znaleziono podanego pliku."},
+    Failure{3, 76, "Nie znaleziono podanej ścieżki."},
+    Failure{5, 75, "Błąd dostępu do ścieżki lub pliku."},
+    Failure{8, 7, "Brak pamięci."},
+    Failure{11, ObjectErrorBase + 11,
+            "Program, który miał być uruchomiony, jest nieprawidłowy lub uszkodzony."},
+    Failure{26, 75, "Błąd prawa dostępu do pliku."},
+    Failure{27, ObjectErrorBase + 27, "Podany typ pliku nie posiada przyporządkowanej aplikacji."},
+    Failure{28, 286, "Przekroczono limit czasu dla próby otwarcia pliku. Spróbuj uruchomić go za chwilę."},
+    // The two blanks after "DDE." belong to the message.
+    Failure{29, 285,
+            "Plik nie może być otwarty, z powodu błędu transakcji DDE.  Spróbuj uruchomić go za chwilę."},
+    // So does the spelling "aplkacja".
+    Failure{
+        30, 285,
+        "Plik nie może być otwarty, bowiem przyporządkowana aplkacja jest zajęta. Spróbuj uruchomić go za "
+        "chwilę."},
+    Failure{31, ObjectErrorBase + 31, "Podany typ pliku nie posiada przyporządkowanej aplikacji."},
+    Failure{32, 48, "Wskazana biblioteka DLL nie została znaleziona."},
+};
+
+Failure FailureOf(std::int32_t code) {
+  const auto known = std::ranges::find(Failures, code, &Failure::code);
+  if (known != Failures.end()) return *known;
+  return {code, ObjectErrorBase + code, "Przy próbie otwarcia pliku wystąpił nieznany błąd."};
+}
+
+}  // namespace
+
+std::optional<std::string> ExecErrorText(std::int32_t code) {
+  if (code < 0 || code > LastFailure) return std::nullopt;
+  const Failure failure = FailureOf(code);
+  return "UWAGA: wystąpił błąd numer " + std::to_string(failure.number) + "\r\n\r\n" +
+         std::string(failure.message);
+}
+
+}  // namespace orvanta

@@ -1,0 +1,81 @@
+#include "startup/ControlFiles.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <limits>
+
+namespace orvanta {
+namespace {
+
+constexpr std::array ControlNames = {"COMCT232.OCX", "COMCTL32.OCX"};
+constexpr std::int32_t LastFailure = 32;
+
+std::string_view Trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+/// As everywhere in the program: no number reads as 0, one beyond the range is clamped to it.
+std::int16_t Number(std::string_view text) {
+  using Limits = std::numeric_limits<std::int16_t>;
+  text = Trimmed(text);
+  std::int64_t value = 0;
+  const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (read.ec == std::errc::result_out_of_range) return text.front() == '-' ? Limits::min() : Limits::max();
+  return static_cast<std::int16_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
+}
+
+std::string Half(std::uint32_t half) { return std::to_string(static_cast<std::int16_t>(half & 0xFFFFU)); }
+
+}  // namespace
+
+std::string GetSysDir(ControlFilesHost& host) { return host.systemDirectory() + "\\"; }
+
+bool FileExists(ControlFilesHost& host, const std::string& path) { return host.canRead(path); }
+
+std::string FileVersionText(ControlFilesHost& host, const std::string& path) {
+  const auto version = host.version(path);
+  if (!version) return {};
+  return Half(version->most >> 16) + "." + Half(version->most) + "." + Half(version->least >> 16) + "." +
+         Half(version->least);
+}
+
+std::int16_t VersionPart(std::string_view text, std::uint8_t part) {
+  text = Trimmed(text);
+  std::int16_t number = 0;
+  for (int i = 0; i < part; ++i) {
+    const auto point = text.find('.');
+    number = Number(text.substr(0, point));
+    if (point == std::string_view::npos) break;
+    text.remove_prefix(point + 1);
+  }
+  return number;
+}
+
+bool IsNewerOnDisc(ControlFilesHost& host, const ControlFolders& folders, const std::string& name) {
+  const std::string installed = FileVersionText(host, folders.winSysDir + name);
+  const std::string disc = FileVersionText(host, folders.discSysDir + name);
+  bool newer = false;
+  // A smaller first number does not settle the matter: 4.70 on the disc is newer than an installed 5.0.
+  for (const std::uint8_t part : {std::uint8_t{1}, std::uint8_t{2}})
+    if (VersionPart(disc, part) > VersionPart(installed, part)) newer = true;
+  return newer;
+}
+
+void RegisterControl(ControlFilesHost& host, const ControlFolders& folders, const std::string& path) {
+  const std::int32_t result = host.start(folders.discSysDir + "REGOCX32.EXE", path);
+  if (result >= 0 && result <= LastFailure) host.message("Blad");
+}
+
+void CheckControls(ControlFilesHost& host, const ControlFolders& folders) {
+  for (const std::string name : ControlNames) {
+    const std::string installed = folders.winSysDir + name;
+    if (!FileExists(host, installed)) host.copy(folders.discSysDir + name, installed);
+    if (IsNewerOnDisc(host, folders, name)) host.copy(folders.discSysDir + name, installed);
+    RegisterControl(host, folders, installed);
+  }
+}
+
+}  // namespace orvanta
