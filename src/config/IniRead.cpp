@@ -1,0 +1,50 @@
+#include "config/IniRead.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "config/ProfileString.h"
+#include "config/Windows1250.h"
+
+namespace orvanta {
+namespace {
+
+constexpr std::string_view kSecondFile = "Param.ini";
+
+std::size_t CharacterLength(std::string_view utf8) {
+  std::size_t length = std::min<std::size_t>(1, utf8.size());
+  while (length < utf8.size() && (static_cast<unsigned char>(utf8[length]) & 0xC0) == 0x80) ++length;
+  return length;
+}
+
+}  // namespace
+
+INI_Read::INI_Read(std::string discRoot, DiscDrive drive)
+    : discRoot_(std::move(discRoot)), drive_(std::move(drive)) {}
+
+std::string INI_Read::IniRead(std::string_view section, std::string_view key, std::string_view file) const {
+  const auto sectionBytes = ToWindows1250(section);
+  const auto keyBytes = ToWindows1250(key);
+  if (!sectionBytes || !keyBytes) return {};
+  std::string bytes = ReadFile(*sectionBytes, *keyBytes, file);
+  if (bytes.empty()) bytes = ReadFile(*sectionBytes, *keyBytes, kSecondFile);
+  std::string value = FromWindows1250(bytes);
+  if (value.starts_with("%:")) value.replace(0, 1, discRoot_, 0, CharacterLength(discRoot_));
+  return value;
+}
+
+std::string INI_Read::ReadFile(std::string_view section, std::string_view key, std::string_view file) const {
+  const HostPath found = drive_.Find(PicturePath(file));
+  return found ? ProfileString(found.path, section, key) : std::string();
+}
+
+std::string INI_Read::PicturePath(std::string_view value) const {
+  return (discRoot_ + "Data\\").append(value);
+}
+
+std::string INI_Read::SoundPath(std::string_view value) const {
+  if (value.substr(CharacterLength(value)).starts_with(':')) return std::string(value);
+  return (discRoot_ + "Data\\Sound\\").append(value);
+}
+
+}  // namespace orvanta

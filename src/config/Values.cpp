@@ -1,0 +1,70 @@
+#include "config/Values.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <string>
+
+#include "config/Windows1250.h"
+
+namespace orvanta {
+namespace {
+
+template <class Whole>
+Whole Rounded(double value) {
+  if (std::isnan(value)) return 0;
+  value = std::clamp<double>(value, std::numeric_limits<Whole>::min(), std::numeric_limits<Whole>::max());
+  // Spelled out, since std::nearbyint follows a rounding mode that anybody can change.
+  const double below = std::floor(value);
+  const double rest = value - below;
+  const bool up = rest > 0.5 || (rest == 0.5 && std::fmod(below, 2.0) != 0.0);
+  return static_cast<Whole>(up ? below + 1 : below);
+}
+
+std::string_view Trimmed(std::string_view text) {
+  constexpr std::string_view kBlanks = " \t\v\f";
+  const auto first = text.find_first_not_of(kBlanks);
+  if (first == text.npos) return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+/// Too small for its type rather than too large; std::from_chars tells the two not apart.
+bool IsTiny(std::string_view number) {
+  const auto exponent = number.find_first_of("eE");
+  if (exponent != number.npos) return number.substr(exponent + 1).starts_with('-');
+  const auto first = number.find_first_not_of("-0");
+  return first != number.npos && number[first] == '.';
+}
+
+template <class Real>
+Real NumberOf(std::string_view text) {
+  std::string number(Trimmed(text));
+  // Keeps out the words and the hexadecimal digits that std::from_chars would take.
+  if (number.find_first_not_of("0123456789+-.,eE") != number.npos) return 0;
+  std::replace(number.begin(), number.end(), ',', '.');
+  if (number.starts_with('+') && !number.starts_with("+-")) number.erase(0, 1);
+  Real value = 0;
+  const char* end = number.data() + number.size();
+  const auto [stop, error] = std::from_chars(number.data(), end, value);
+  if (stop != end || error == std::errc::invalid_argument) return 0;
+  if (error != std::errc::result_out_of_range) return value;
+  if (IsTiny(number)) return 0;
+  return number.starts_with('-') ? std::numeric_limits<Real>::lowest() : std::numeric_limits<Real>::max();
+}
+
+}  // namespace
+
+std::int16_t CInt(double value) { return Rounded<std::int16_t>(value); }
+std::int32_t CLng(double value) { return Rounded<std::int32_t>(value); }
+
+std::int16_t WholeOf(std::string_view text) { return CInt(NumberOf<double>(text)); }
+float SingleOf(std::string_view text) { return NumberOf<float>(text); }
+double DoubleOf(std::string_view text) { return NumberOf<double>(text); }
+std::int32_t ColourOf(std::string_view text) { return CLng(NumberOf<double>(text)); }
+
+bool BooleanOf(std::string_view text) {
+  return EqualNoCase(Trimmed(text), "True") || NumberOf<double>(text) != 0.0;
+}
+
+}  // namespace orvanta
