@@ -24,11 +24,11 @@ class Canvas {
   /// Narrows the clip until the matching `PopClip`.
   virtual void PushClip(const Rect& area) = 0;
   virtual void PopClip() = 0;
-  virtual void Fill(const Rect& area, Colour colour) = 0;
+  virtual void Fill(const Rect& area, ColourValue colour) = 0;
   /// Paints the whole picture, scaled to `target` where the sizes differ.
   virtual void Draw(const Picture& picture, const Rect& target) = 0;
   /// Paints UTF-8 text wrapped at the width of `area`, from its top. Nothing in the text is markup.
-  virtual void Text(const std::string& text, const Rect& area, const Font& font, Colour colour,
+  virtual void Text(const std::string& text, const Rect& area, const Font& font, ColourValue colour,
                     Alignment alignment) = 0;
 };
 

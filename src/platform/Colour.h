@@ -5,10 +5,10 @@
 namespace orvanta {
 
 /// Red in the low byte, then green, then blue: 0x0000FF is red. Higher bits count for nothing.
-using Colour = std::int32_t;
+using ColourValue = std::int32_t;
 
-inline int Red(Colour c) { return c & 0xFF; }
-inline int Green(Colour c) { return (c >> 8) & 0xFF; }
-inline int Blue(Colour c) { return (c >> 16) & 0xFF; }
+inline int Red(ColourValue c) { return c & 0xFF; }
+inline int Green(ColourValue c) { return (c >> 8) & 0xFF; }
+inline int Blue(ColourValue c) { return (c >> 16) & 0xFF; }
 
 }  // namespace orvanta

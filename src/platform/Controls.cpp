@@ -8,7 +8,7 @@ namespace orvanta {
 
 namespace {
 
-void Frame(Canvas& canvas, const Rect& r, Colour colour) {
+void Frame(Canvas& canvas, const Rect& r, ColourValue colour) {
   canvas.Fill({r.left, r.top, r.width, 1}, colour);
   canvas.Fill({r.left, r.Bottom() - 1, r.width, 1}, colour);
   canvas.Fill({r.left, r.top, 1, r.height}, colour);
@@ -70,7 +70,8 @@ void PictureBox::Paint(Canvas& canvas, Point origin, const Rect& area) const {
   const Rect box = Bounds().Moved(origin);
   canvas.PushClip(box);
   if (!Picture()) canvas.Fill(box, BackColor);
-  if (Picture()) canvas.Draw(*Picture(), {box.left, box.top, Picture()->PixelSize().width, Picture()->PixelSize().height});
+  if (Picture())
+    canvas.Draw(*Picture(), {box.left, box.top, Picture()->PixelSize().width, Picture()->PixelSize().height});
   PaintChildren(canvas, {box.left, box.top}, Intersection(area, box));
   canvas.PopClip();
 }

@@ -31,7 +31,7 @@ class PictureBox : public BoxControl, public Container {
   Property<PicturePtr> Picture;
   Property<bool> AutoSize;
   /// Shown where there is no picture.
-  Property<Colour> BackColor;
+  Property<ColourValue> BackColor;
 
   Form& OwnerForm() override { return Parent().OwnerForm(); }
   void Invalidate(const Rect& area) override;
@@ -47,7 +47,7 @@ class Label : public BoxControl {
   Label(Container& parent, std::string name, std::int16_t index = -1);
 
   Property<std::string> Caption;
-  Property<Colour> ForeColor, BackColor;
+  Property<ColourValue> ForeColor, BackColor;
   /// 0 is transparent, 1 opaque.
   Property<int> BackStyle;
   Property<std::string> FontName;
@@ -68,7 +68,7 @@ class Line : public Control {
 
   Property<double> X1, Y1, X2, Y2;
   Property<int> BorderWidth;
-  Property<Colour> BorderColor;
+  Property<ColourValue> BorderColor;
 
   void Place(double x1, double y1, double x2, double y2);
   void CopyLook(const Line& from);
@@ -81,8 +81,8 @@ class Shape : public BoxControl {
  public:
   Shape(Container& parent, std::string name) : BoxControl(parent, std::move(name)) {}
 
-  Colour FillColor = 0;
-  Colour BorderColor = 0;
+  ColourValue FillColor = 0;
+  ColourValue BorderColor = 0;
 
   Control* Hit(Point) override { return nullptr; }
   void Paint(Canvas& canvas, Point origin, const Rect& area) const override;

@@ -98,12 +98,14 @@ void Form::PropertyChanged(const void* property) {
 }
 
 void Form::VisibleChanged() {
-  if (!Visible || shownBefore_) return window_->SetVisible(Visible);
-  shownBefore_ = true;
-  if (design_.centred) Centre();
-  // The first showing counts as a resize, which may still move the window.
-  Form_Resize();
-  window_->SetVisible(true);
+  if (Visible && !shownBefore_) {
+    shownBefore_ = true;
+    if (design_.centred) Centre();
+    // The first showing counts as a resize, which may still move the window.
+    Form_Resize();
+  }
+  // A form without an area is visible to the program, but there is nothing to show.
+  window_->SetVisible(Visible && !ClientArea().Empty());
 }
 
 void Form::Forget(Control& control) {

@@ -24,6 +24,14 @@ struct StartRequest {
   std::string parameters;      ///< a command line, split as Windows programs split theirs
 };
 
+/// The screen in twips.
+struct ScreenMetrics {
+  double Width = 0;
+  double Height = 0;
+  int TwipsPerPixelX = kTwipsPerPixel;
+  int TwipsPerPixelY = kTwipsPerPixel;
+};
+
 class ControlFilesHost;
 
 /// Everything that the shell asks of the system that it runs on.
@@ -42,6 +50,10 @@ class Host : public EventSource {
 
   /// In pixels.
   virtual Size ScreenSize() const = 0;
+  ScreenMetrics Screen() const {
+    return {.Width = ScreenSize().width * 1.0 * kTwipsPerPixel,
+            .Height = ScreenSize().height * 1.0 * kTwipsPerPixel};
+  }
   virtual Point CursorPos() const = 0;
   /// The form that is the active window, null while another program has it.
   virtual Form* ActiveForm() const = 0;

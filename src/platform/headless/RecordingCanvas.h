@@ -15,7 +15,7 @@ class RecordingCanvas : public Canvas {
     enum class Kind { Fill, Picture, Text } kind;
     Rect seen;  ///< pixels of the form
     Rect whole;
-    Colour colour = 0;
+    ColourValue colour = 0;
     std::string text;  ///< the text, or the file name of the picture
   };
   std::vector<Stroke> strokes;
@@ -24,12 +24,14 @@ class RecordingCanvas : public Canvas {
     clips_.push_back(clips_.empty() ? area : Intersection(clips_.back(), area));
   }
   void PopClip() override { clips_.pop_back(); }
-  void Fill(const Rect& area, Colour colour) override { Add({Stroke::Kind::Fill, {}, area, colour, {}}); }
+  void Fill(const Rect& area, ColourValue colour) override {
+    Add({Stroke::Kind::Fill, {}, area, colour, {}});
+  }
   void Draw(const Picture& picture, const Rect& target) override {
     const auto* file = dynamic_cast<const PictureFile*>(&picture);
     Add({Stroke::Kind::Picture, {}, target, 0, file ? file->name : std::string()});
   }
-  void Text(const std::string& text, const Rect& area, const Font&, Colour colour, Alignment) override {
+  void Text(const std::string& text, const Rect& area, const Font&, ColourValue colour, Alignment) override {
     Add({Stroke::Kind::Text, {}, area, colour, text});
   }
 

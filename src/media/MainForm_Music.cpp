@@ -1,0 +1,65 @@
+// The loop behind the menu and the marker of an entry's music.
+
+#include "media/MarkerPlace.h"
+#include "startup/Shell.h"
+
+namespace orvanta {
+
+namespace {
+
+// Nearly silent, not quite the end of the scale.
+constexpr std::int32_t kPauseVolume = -9640;
+
+}  // namespace
+
+void MainForm::ParkMusic() {
+  bool& loaded = shell_.basCommon.MusicLoaded;
+  if (AM2.CurrentState() == ActiveMovie::kNoFile) {
+    loaded = false;
+  } else if (!loaded) {
+    loaded = true;
+    AM2.Pause();
+  }
+}
+
+bool MainForm::MoveMarker() {
+  if (PressedButton != 4 || !shell_.basCommon.SoundCardOK || !S2.Visible) return false;
+  if (AM3.CurrentState() == ActiveMovie::kStopped) {
+    PressedButton = 6;
+    StoppedLook();
+    S2.Left = S2Start;
+    return true;
+  }
+  const auto place = MarkerPlace(S2Start, S2Len, AM3.CurrentPosition(), AM3.SelectionEnd());
+  if (place && *place != markerAt_) {
+    markerAt_ = *place;
+    S2.Left = *place;
+  }
+  return false;
+}
+
+void MainForm::SoundOn() {
+  if (!shell_.basCommon.SoundCardOK || !shell_.basCommon.MusicLoaded) return;
+  if (AM2.CurrentState() != ActiveMovie::kPaused) return;
+  Timer1.Enabled = false;
+  AM2.Run();
+  Timer1.Enabled = true;
+}
+
+void MainForm::SoundOff() {
+  if (!shell_.basCommon.SoundCardOK || !shell_.basCommon.MusicLoaded) return;
+  if (AM2.CurrentState() == ActiveMovie::kPaused) return;
+  Timer1.Enabled = false;
+  SavedVolume = CInt(AM2.Volume());
+  AM2.Volume(kPauseVolume);
+  AM2.Pause();
+  // The player is left a second to fall silent while the window stays alive.
+  for (int i = 0; i < 100; ++i) {
+    shell_.host.Loop().Pump();
+    shell_.host.Sleep(10);
+  }
+  AM2.Volume(SavedVolume);
+  Timer1.Enabled = true;
+}
+
+}  // namespace orvanta

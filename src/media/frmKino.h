@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+
+#include "platform/ActiveMovie.h"
+#include "platform/ControlArray.h"
+#include "platform/Form.h"
+#include "platform/ImageList.h"
+#include "platform/Timer.h"
+
+namespace orvanta {
+
+class Shell;
+
+/// The cinema window: an entry's film on a picture of a cinema, with five buttons.
+class frmKino : public Form {
+ public:
+  explicit frmKino(Shell& shell);
+
+  PictureBox Picture1;
+  ControlArray<Image> ButtonM;
+  ActiveMovie AM0;
+  Timer Timer1;
+  ImageList ImageList1;
+
+  /// The latched button and the state of the film: 0 playing, 2 paused, 1 being closed, -1 run to its end.
+  std::int16_t PressedButton = 0;
+
+  void Form_Load() override;
+  void Form_Activate() override;
+  void Form_Unload() override;
+  void ButtonM_Click(std::int16_t Index);
+
+ protected:
+  void CloseRequested() override { Unload(); }
+
+ private:
+  void KinoButtonsInit();
+  void Timer1_Timer();
+  void PlaceFilm();
+  void Press(std::int16_t Index);
+  void Restore(std::int16_t Index);
+  void Play();
+  void StopAndClose();
+  void Pause();
+  void SetFullScreen(bool on);
+
+  Shell& shell_;
+  bool KinoPlaced = false;
+};
+
+/// Left or top edge, in pixels, of something `extent` pixels long that is centred on `middle`. Half of an odd
+/// extent is rounded to the even neighbour.
+std::int16_t CentredEdge(std::int16_t middle, double extent);
+
+}  // namespace orvanta

@@ -1,0 +1,181 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "config/Schema.h"
+#include "platform/ActiveMovie.h"
+#include "platform/ControlArray.h"
+#include "platform/Controls.h"
+#include "platform/Form.h"
+#include "platform/ImageList.h"
+#include "platform/Timer.h"
+
+namespace orvanta {
+
+class Shell;
+
+/// The program's window. Its centre shows one of three views, which follow from the visible controls alone:
+/// a menu list, the detail view of an entry (`picTlo` hidden), or a page (`imgPomoc` or `imgSeven` visible).
+///
+/// One class, whose routines stand in the folders of their subjects.
+class MainForm : public Form {
+ public:
+  explicit MainForm(Shell& shell);
+
+  // Controls, from the bottom of the stack to its top. Pixels.
+  Label lblNote;
+  Shape Shape1;
+  Label Label1;
+  Label lblSystem;
+  Label lblTitle;
+  Label lblBackTxt;
+  Image imgProducer;
+  ControlArray<Image> ButtonM;
+  Shape S2;
+  Image imgBack, imgUp;
+  ActiveMovie AM2, AM3;
+  PictureBox picShotTlo;
+  ControlArray<Image> picShot;
+  Image imgSSlider, imgSSuwak;
+  PictureBox picTlo;
+  ControlArray<Label> lblPos1;
+  ControlArray<Line> Line1, Line2;
+  Image imgSuwakPas, imgSuwak;
+  Image imgSeven, imgPomoc;
+  PictureBox imgKreska;
+  Label lblBackTxt2;
+  Image ImgBack2, imgUp2;
+  Timer Timer1;
+  ImageList ImageList1;
+
+  // Lifecycle: startup/
+  void Form_Load() override;
+  void Form_Activate() override;
+  void Form_Resize() override;
+  void Form_Unload() override;
+
+  // The tree and the position in it: menu/MainForm_Menu.cpp
+  std::vector<std::string> MenuPath;  ///< node names from the root; above `MenuLevel` they are stale
+  std::int16_t MenuLevel = 0;
+  std::vector<std::int32_t> PosTop;  ///< unscrolled tops of the labels or of the screenshots
+  std::int32_t LabelTop = 0;
+  void MenuInit(const std::string& menu);
+  std::int16_t IleMenu(const std::string& menu) const;
+  void lblPos1_Click(std::int16_t Index);
+  void imgBack_Click();
+  void imgUp_Click();
+  void StronaInit(double height);
+  void StronaKoniec();
+
+  // Hover, tick and crosshair: menu/MainForm_Hover.cpp
+  std::int32_t MouseX = 0, MouseY = 0;  ///< the cursor relative to `picTlo` at the last tick
+  void OverLabel(std::int16_t Index);
+  void LinesSet(std::int16_t Index);
+  void Strzal(std::int16_t Index);
+
+  // One set for both sliders: menu/MainForm_Slider.cpp, menu/MainForm_Shots.cpp
+  std::int32_t YMin = 0, YMax = 0;
+  std::int16_t YStep = 0;
+  std::int32_t SuwakY = 0, SuwakPos = 0, SuwakRange = 0;
+  float SuwakScale = 0;         ///< pixels of the content for one of the knob; 0 means nothing to scroll
+  std::int16_t SuwakDir = -1;   ///< 0 up, 1 down, -1 none
+  std::int32_t SuwakGrab = -1;  ///< cursor's y less the knob's top at the press, -1 while none is held
+  bool SuwakDrag = false;
+  void SuwakInit();
+  void MoveSuwak(std::int32_t step);
+  void SSuwakInit();
+  void MoveSSuwak(std::int32_t step);
+
+  // The detail view: menu/MainForm_Detail.cpp
+  std::int16_t S2Start = 0, S2End = 0, S2Len = 0;
+  std::int32_t ShotTop = 0;
+  bool IsExec(const std::string& name) const;
+  bool IsPlay(const std::string& name) const;
+  std::int16_t IleShot(const std::string& name) const;
+
+  // Buttons: buttons/
+  std::int16_t PressedButton = 0;  ///< the latched transport button, -1 for none
+  void ButtonM_Click(std::int16_t Index);
+
+  // Sound: media/MainForm_Cues.cpp, media/MainForm_Music.cpp
+  std::int16_t SavedVolume = 0;
+  void PlaySoundFile(const std::string& file, bool flag);
+  void PlayRandomSoundFile(const std::string& base, bool flag);
+  void PlayEndSound(bool flag);
+  void SoundOn();
+  void SoundOff();
+
+ protected:
+  void CloseRequested() override { Unload(); }
+
+ private:
+  void DesignControls();
+  void DesignDetail();
+  void WireEvents();
+  void LoadTitle();
+  void LoadMenuArea();
+  void LoadZones();
+  void LoadProducer();
+  void LoadLines();
+  void LoadBackLabels();
+  void StartMusic();
+  void PinWindow();
+  void ShowStrips(bool visible);
+
+  void BuildLabel(int i, const std::string& menu, bool opaque, ColourValue backColour);
+  void Rescale(std::int32_t contentHeight);
+  void HideSlider();
+  void ShowPlace(const std::string& name);
+  bool InView(const Label& label) const;
+  ColourValue LabelColour(const Label& label) const;
+  std::string CurrentNode() const;
+  void EnterLevel(const std::string& name);
+
+  void Timer1_Timer();
+  void ParkMusic();
+  bool MoveMarker();
+  void MousePos();
+
+  void MoveKnob(Image& knob, std::int32_t step);
+  void KnobDown(Image& knob, const MouseEvent& event);
+  void DragKnob(const Image& knob, const MouseEvent& event, void (MainForm::*move)(std::int32_t));
+  void KnobUp(Image& knob);
+
+  void OpisInit();
+  void ShowKind(const std::string& name);
+  void ShowTransport();
+  void LoadShots(const std::string& name);
+  void picShot_Click(std::int16_t Index);
+
+  void ButtonsInit();
+  void Press(std::int16_t Index);
+  void Release(std::int16_t Index);
+  void Drop();
+  void StoppedLook();
+  void SwitchSound(bool on);
+  void TogglePage(std::int16_t Index, Image& page, Image& other);
+  void StartEntry();
+  void StartMusicEntry(const std::string& entry);
+  void WaitForMusic();
+  void PauseMusic();
+  void StopMusic();
+  void ShowFilm();
+  void ClosePage(Image& page);
+
+  void StopEntrySound();
+
+  Shell& shell_;
+  std::int16_t selected_ = 0;   // lblPos1_Click: the selected label's index plus 1
+  bool crosshairRuns_ = false;  // Strzal: a click on a label meanwhile is ignored
+  std::int16_t hovered_ = 0;    // OverLabel: the hovered label's index plus 1
+  std::int16_t markerAt_ = 0;   // Timer1_Timer: the last place given to S2
+  std::int16_t LastPos = 0;     // MoveSuwak: SuwakPos at the last move of the labels
+  std::int16_t LastSPos = 0;    // MoveSSuwak: the same for the screenshots
+  std::mt19937 generator_;      // never seeded: one disc, one choice
+};
+
+}  // namespace orvanta

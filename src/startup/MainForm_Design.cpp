@@ -1,0 +1,122 @@
+// MainForm as it is before Form_Load: what no key of the disc changes.
+
+#include "startup/Shell.h"
+
+namespace orvanta {
+
+MainForm::MainForm(Shell& shell)
+    : Form(shell.host, {.name = "MainForm", .width = 10005, .height = 7440, .window = WindowKind::Main}),
+      lblNote(*this, "lblNote"),
+      Shape1(*this, "Shape1"),
+      Label1(*this, "Label1"),
+      lblSystem(*this, "lblSystem"),
+      lblTitle(*this, "lblTitle"),
+      lblBackTxt(*this, "lblBackTxt"),
+      imgProducer(*this, "imgProducer"),
+      ButtonM(*this, "ButtonM"),
+      S2(*this, "S2"),
+      imgBack(*this, "imgBack"),
+      imgUp(*this, "imgUp"),
+      AM2(*this, "AM2", MovieKind::Sound),
+      AM3(*this, "AM3", MovieKind::Sound),
+      picShotTlo(*this, "picShotTlo"),
+      picShot(picShotTlo, "picShot"),
+      imgSSlider(picShotTlo, "imgSSlider"),
+      imgSSuwak(picShotTlo, "imgSSuwak"),
+      picTlo(*this, "picTlo"),
+      lblPos1(picTlo, "lblPos1"),
+      Line1(picTlo, "Line1", 4),
+      Line2(picTlo, "Line2", 2),
+      imgSuwakPas(picTlo, "imgSuwakPas"),
+      imgSuwak(picTlo, "imgSuwak"),
+      imgSeven(picTlo, "imgSeven"),
+      imgPomoc(picTlo, "imgPomoc"),
+      imgKreska(picTlo, "imgKreska"),
+      lblBackTxt2(imgKreska, "lblBackTxt2"),
+      ImgBack2(imgKreska, "ImgBack2"),
+      imgUp2(imgKreska, "imgUp2"),
+      Timer1(*this, 50, [this] { Timer1_Timer(); }),
+      shell_(shell) {
+  DesignControls();
+  DesignDetail();
+  WireEvents();
+}
+
+void MainForm::DesignControls() {
+  picTlo.AutoSize = true;
+  picTlo.Move(0, 0, 472, 309);
+  imgKreska.AutoSize = true;
+  imgKreska.Move(0, 0, 472, 33);
+  lblTitle.Move(0, 0, 427, 30);
+  lblBackTxt.Move(0, 0, 391, 26);
+  lblBackTxt2.Move(0, 0, 393, 26);
+
+  lblPos1(0).Move(0, 0, 401, 26);
+  lblPos1(0).MouseIcon = Pointer::Hand;
+  for (Image* zone : {&imgBack, &imgUp, &ImgBack2, &imgUp2}) {
+    zone->BorderStyle = 1;
+    zone->MouseIcon = Pointer::Hand;
+  }
+  for (Image* knob : {&imgSuwak, &imgSSuwak}) knob->MouseIcon = Pointer::OpenHand;
+  // A button whose art is missing can still be found and clicked.
+  ButtonM(0).Move(0, 0, 32, 32);
+  ButtonM(0).MouseIcon = Pointer::Hand;
+}
+
+void MainForm::DesignDetail() {
+  lblNote.Move(113, 184, 269, 177);
+  lblNote.BackStyle = 1;
+  lblNote.FontSize = 9.75;
+
+  Shape1.Move(113, 394, 268, 49);
+  Shape1.FillColor = Shape1.BorderColor = 0xE0E0E0;
+
+  Label1.Move(113, 392, 268, 18);
+  Label1.Caption = "  Minimalne wymagania sprzętowe:";
+  Label1.BackStyle = 1;
+  Label1.BackColor = 0x404040;
+  Label1.ForeColor = 0xFFFFFF;
+  Label1.FontName = "Arial";
+  Label1.FontSize = 9.75;
+
+  lblSystem.Move(117, 409, 261, 34);
+  lblSystem.BackStyle = 1;
+  lblSystem.BackColor = 0xE0E0E0;
+  lblSystem.ForeColor = 0x800000;
+  lblSystem.FontName = "Arial";
+  lblSystem.FontBold = true;
+  lblSystem.FontSize = 9.75;
+
+  picShotTlo.Move(388, 184, 161, 259);
+  picShotTlo.BackColor = 0xFFFFFF;
+  picShot(0).Move(7, 6, 123, 82);
+  picShot(0).Stretch = true;
+  picShot(0).BorderStyle = 1;
+  imgSSlider.Visible = imgSSuwak.Visible = false;
+
+  S2.Move(0, 0, 3, 9);
+  S2.FillColor = 0x0000FF;
+  S2.BorderColor = 0x0000C0;
+  S2.Visible = false;
+}
+
+void MainForm::WireEvents() {
+  ButtonM.Click = [this](std::int16_t Index) { ButtonM_Click(Index); };
+  lblPos1.Click = [this](std::int16_t Index) { lblPos1_Click(Index); };
+  picShot.Click = [this](std::int16_t Index) { picShot_Click(Index); };
+  imgBack.Click = ImgBack2.Click = [this] { imgBack_Click(); };
+  imgUp.Click = imgUp2.Click = [this] { imgUp_Click(); };
+  imgPomoc.Click = [this] { ClosePage(imgPomoc); };
+  imgSeven.Click = [this] { ClosePage(imgSeven); };
+
+  imgSuwak.MouseDown = [this](const MouseEvent& event) { KnobDown(imgSuwak, event); };
+  imgSuwak.MouseUp = [this](const MouseEvent&) { KnobUp(imgSuwak); };
+  imgSuwak.MouseMove = [this](const MouseEvent& event) { DragKnob(imgSuwak, event, &MainForm::MoveSuwak); };
+  imgSSuwak.MouseDown = [this](const MouseEvent& event) { KnobDown(imgSSuwak, event); };
+  imgSSuwak.MouseUp = [this](const MouseEvent&) { KnobUp(imgSSuwak); };
+  imgSSuwak.MouseMove = [this](const MouseEvent& event) {
+    DragKnob(imgSSuwak, event, &MainForm::MoveSSuwak);
+  };
+}
+
+}  // namespace orvanta

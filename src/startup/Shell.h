@@ -1,0 +1,58 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "buttons/modMouse.h"
+#include "config/IniRead.h"
+#include "config/Settings.h"
+#include "config/Values.h"
+#include "launcher/modExec.h"
+#include "media/frmKino.h"
+#include "menu/frmShowPic.h"
+#include "platform/FormSlot.h"
+#include "platform/Host.h"
+#include "startup/MainForm.h"
+#include "startup/basCommon.h"
+#include "startup/frmDociag.h"
+#include "startup/frmReklama.h"
+#include "startup/modActiveWindow.h"
+#include "startup/modMain.h"
+
+namespace orvanta {
+
+/// The whole program: the modules' state and the forms by name. Several can live side by side.
+class Shell {
+ public:
+  explicit Shell(Host& host);
+
+  /// Runs until the program ends.
+  void Run();
+
+  /// The file or folder that a path of the disc leads to; empty if there is none.
+  std::filesystem::path HostFile(const std::string& path) const { return ini.drive().Find(path).path; }
+  /// Null if the path leads to no picture.
+  PicturePtr LoadPicture(const std::string& path) { return host.LoadPicture(HostFile(path)); }
+
+  Host& host;
+  const INI_Read ini;
+  const Settings settings{ini};
+
+  orvanta::basCommon basCommon{*this};
+  orvanta::modMain modMain{*this};
+  orvanta::modActiveWindow modActiveWindow{*this};
+  orvanta::modMouse modMouse{*this};
+  orvanta::modExec modExec{*this};
+
+  FormSlot<orvanta::frmReklama, Shell> frmReklama{*this};
+  FormSlot<orvanta::MainForm, Shell> MainForm{*this};
+  FormSlot<orvanta::frmDociagLewo, Shell> frmDociagLewo{*this};
+  FormSlot<orvanta::frmDociagGora, Shell> frmDociagGora{*this};
+  FormSlot<orvanta::frmDociagPrawo1, Shell> frmDociagPrawo1{*this};
+  FormSlot<orvanta::frmDociagPrawo2, Shell> frmDociagPrawo2{*this};
+  FormSlot<orvanta::frmDociagPrawo3, Shell> frmDociagPrawo3{*this};
+  FormSlot<orvanta::frmShowPic, Shell> frmShowPic{*this};
+  FormSlot<orvanta::frmKino, Shell> frmKino{*this};
+};
+
+}  // namespace orvanta

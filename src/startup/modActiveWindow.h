@@ -1,0 +1,26 @@
+#pragma once
+
+namespace orvanta {
+
+class Form;
+class Shell;
+
+/// Whether the program is the one that the user works with.
+class modActiveWindow {
+ public:
+  explicit modActiveWindow(Shell& shell) : shell_(shell) {}
+
+  /// The result of the last `CheckActive`.
+  bool AppActive = false;
+
+  /// The active window is the main window (not minimised), an edge strip or the picture viewer. The cinema
+  /// window does not count.
+  bool CheckActive();
+
+ private:
+  bool IsStrip(const Form* form) const;
+
+  Shell& shell_;
+};
+
+}  // namespace orvanta

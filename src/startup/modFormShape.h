@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/Region.h"
+
+namespace orvanta {
+
+class Form;
+
+/// The outline of the main window: a polygon with five tabs, two rectangles and an ellipse, 267024 pixels in
+/// a window of 667 by 496.
+Region BuildFormRegion();
+
+/// What lies outside the outline is no part of the window: it is not drawn and takes no clicks.
+void ApplyFormShape(Form& form);
+
+}  // namespace orvanta
