@@ -46,7 +46,7 @@ class MoviePlayer {
   virtual Size filmSize() = 0;
   /// The film's present picture, null before the first one and for sound.
   virtual PicturePtr frame() = 0;
-  /// Called on the program's thread, while it takes in input, after `frame` has changed.
+  /// Called on the program's thread, while it takes in input, after `frame` has changed. Must not throw.
   std::function<void()> onFrame;
 };
 
