@@ -14,7 +14,10 @@ namespace orvanta {
 template <class Work>
 int InAnotherProcess(Work work) {
   const pid_t child = fork();
-  if (child == 0) _exit(work());
+  if (child == 0) {
+    alarm(30);
+    _exit(work());
+  }
   int status = 0;
   if (child < 0 || waitpid(child, &status, 0) != child || !WIFEXITED(status)) return -1;
   return WEXITSTATUS(status);
