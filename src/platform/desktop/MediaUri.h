@@ -1,0 +1,11 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace orvanta {
+
+/// The address under which GStreamer is to open `file`. Reads the file's first bytes.
+std::string MediaUri(const std::filesystem::path& file);
+
+}  // namespace orvanta
