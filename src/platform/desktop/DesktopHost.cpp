@@ -108,9 +108,14 @@ PicturePtr DesktopHost::LoadPicture(const std::filesystem::path& file) {
 bool DesktopHost::IsSoundCardEnabled() { return orvanta::IsSoundCardEnabled(); }
 
 std::unique_ptr<MoviePlayer> DesktopHost::MakePlayer(MovieKind kind) {
-  return MakeGstPlayer(kind == MovieKind::Film ? PlayerKind::Film : PlayerKind::Sound);
+  return MakeGstPlayer(kind);
 }
 
-int DesktopHost::StartFile(const StartRequest&) { return 31; }
+int DesktopHost::StartFile(const StartRequest& request) {
+  FileLookup::Result result = FileLookup::Result::FolderMissing;
+  if (request.status == StartRequest::Status::Found) result = FileLookup::Result::Found;
+  if (request.status == StartRequest::Status::FileMissing) result = FileLookup::Result::FileMissing;
+  return programs_.start({request.name, result, request.file}, request.parameters, ShowMode::Normal);
+}
 
 }  // namespace orvanta

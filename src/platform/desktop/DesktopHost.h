@@ -9,6 +9,7 @@
 #include "platform/Host.h"
 #include "platform/desktop/Fonts.h"
 #include "platform/desktop/InstanceLock.h"
+#include "platform/desktop/ProgramStart.h"
 
 namespace orvanta {
 
@@ -46,6 +47,7 @@ class DesktopHost : public Host {
   int StartFile(const StartRequest& request) override;
 
  private:
+  const ProgramStart programs_;  // before Qt's variables are set: started programs get none of them
   QApplication application_;
   const std::filesystem::path discFolder_;
   const std::optional<InstanceLock> instance_;

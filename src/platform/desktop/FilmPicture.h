@@ -7,7 +7,7 @@
 
 namespace orvanta {
 
-/// One picture of a film. `image` keeps the decoder's own memory and pixels; `PixelSize` is what it takes up on
+/// One picture of a film. `image` keeps the decoder's own memory and pixels; its size is what it takes up on
 /// the screen, where pixels are square, so a painter draws the image scaled into a rectangle of that size.
 class FilmPicture : public Picture {
  public:

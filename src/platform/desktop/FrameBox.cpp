@@ -4,26 +4,26 @@
 
 namespace orvanta {
 
-void FrameBox::put(PicturePtr picture) {
+void FrameBox::Put(PicturePtr picture) {
   const std::scoped_lock lock(mutex_);
   newest_.swap(picture);
   if (announced_ || !receiver_) return;
   announced_ = true;
   QMetaObject::invokeMethod(
-      receiver_, [self = shared_from_this()] { self->announce(); }, Qt::QueuedConnection);
+      receiver_, [self = shared_from_this()] { self->Announce(); }, Qt::QueuedConnection);
 }
 
-PicturePtr FrameBox::newest() const {
+PicturePtr FrameBox::Newest() const {
   const std::scoped_lock lock(mutex_);
   return newest_;
 }
 
-void FrameBox::close() {
+void FrameBox::Close() {
   const std::scoped_lock lock(mutex_);
   receiver_ = nullptr;
 }
 
-void FrameBox::announce() {
+void FrameBox::Announce() {
   {
     const std::scoped_lock lock(mutex_);
     announced_ = false;

@@ -13,18 +13,18 @@ namespace orvanta {
 /// the program has not fetched are replaced, and it is called once for all that came since it last looked.
 class FrameBox : public std::enable_shared_from_this<FrameBox> {
  public:
-  /// `onFrame` is called on the thread of `receiver`, out of its event loop.
+  /// `OnFrame` is called on the thread of `receiver`, out of its event loop.
   FrameBox(QObject& receiver, std::function<void()> onFrame)
       : receiver_(&receiver), onFrame_(std::move(onFrame)) {}
 
   /// Any thread.
-  void put(PicturePtr picture);
-  PicturePtr newest() const;
+  void Put(PicturePtr picture);
+  PicturePtr Newest() const;
   /// Nobody is called any more. On the receiver's thread, before the receiver goes.
-  void close();
+  void Close();
 
  private:
-  void announce();
+  void Announce();
 
   mutable std::mutex mutex_;
   QObject* receiver_;

@@ -38,7 +38,7 @@ GstAudioSink::GstAudioSink(SoundOutput output) : volume_(MakeElement("volume")) 
   gst_object_unref(inside);
 }
 
-void GstAudioSink::setVolume(int hundredthsOfDecibel) {
+void GstAudioSink::SetVolume(int hundredthsOfDecibel) {
   const int wanted = std::clamp(hundredthsOfDecibel, kSilent, 0);
   const double linear = wanted == kSilent ? 0 : std::pow(10, wanted / kHundredthsPerDecade);
   if (volume_) g_object_set(volume_.get(), "volume", linear, nullptr);

@@ -13,10 +13,10 @@ class GstAudioSink {
   explicit GstAudioSink(SoundOutput output);
 
   /// Null only if the basic plugins are not installed.
-  GstElement* element() const { return bin_.get(); }
+  GstElement* Element() const { return bin_.get(); }
   /// Hundredths of a decibel, -10000 (silent) to 0 (as recorded). Heard after what is already with the
   /// device, at most a tenth of a second.
-  void setVolume(int hundredthsOfDecibel);
+  void SetVolume(int hundredthsOfDecibel);
 
  private:
   GstHandle<GstElement> bin_;

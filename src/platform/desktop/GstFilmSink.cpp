@@ -46,7 +46,7 @@ PicturePtr Wrap(GstHandle<GstSample> sample) {
 
 GstFlowReturn Deliver(GstSample* sample, gpointer frames) {
   if (PicturePtr picture = Wrap(GstHandle<GstSample>(sample)))
-    (*static_cast<FrameBoxPtr*>(frames))->put(std::move(picture));
+    (*static_cast<FrameBoxPtr*>(frames))->Put(std::move(picture));
   return GST_FLOW_OK;
 }
 

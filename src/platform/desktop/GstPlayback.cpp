@@ -30,142 +30,142 @@ struct GstPlayback::Shared {
   unsigned ordered = 0;  // orders given and carried out: while they differ, the newest order tells the state
   unsigned done = 0;
 
-  void load(const std::filesystem::path& file);
-  void finishOrder(unsigned number);
-  void heed();
-  void answerTimes();
+  void Load(const std::filesystem::path& file);
+  void FinishOrder(unsigned number);
+  void Heed();
+  void AnswerTimes();
 };
 
-void GstPlayback::Shared::load(const std::filesystem::path& file) {
-  const bool loads = transport->load(file);
-  const MovieTimes first = transport->times();
-  if (loads) transport->play();
+void GstPlayback::Shared::Load(const std::filesystem::path& file) {
+  const bool loads = transport->Load(file);
+  const MovieTimes first = transport->Times();
+  if (loads) transport->Play();
   const std::scoped_lock lock(mutex);
   loaded = loads;
-  failed = !transport->alive();
+  failed = !transport->Alive();
   times.length = first.length;
   changed.notify_all();
 }
 
-void GstPlayback::Shared::finishOrder(unsigned number) {
+void GstPlayback::Shared::FinishOrder(unsigned number) {
   const std::scoped_lock lock(mutex);
   done = number;
-  failed = !transport->alive();
+  failed = !transport->Alive();
 }
 
 /// Something has come up in the player: the end of the file or its loss.
-void GstPlayback::Shared::heed() {
-  const bool ended = transport->heedNews();
+void GstPlayback::Shared::Heed() {
+  const bool ended = transport->HeedNews();
   const std::scoped_lock lock(mutex);
-  failed = !transport->alive();
+  failed = !transport->Alive();
   if (ended && done == ordered) state = MovieState::Stopped;
 }
 
-void GstPlayback::Shared::answerTimes() {
-  const MovieTimes now = transport->times();
+void GstPlayback::Shared::AnswerTimes() {
+  const MovieTimes now = transport->Times();
   const std::scoped_lock lock(mutex);
   if (done == ordered) times = now;
   timesAsked = false;
   changed.notify_all();
 }
 
-GstPlayback::GstPlayback(PlayerKind kind, const std::filesystem::path& file, const Settings& settings,
+GstPlayback::GstPlayback(MovieKind kind, const std::filesystem::path& file, const Settings& settings,
                          FrameBoxPtr frames)
     : shared_(std::make_shared<Shared>()) {
   const std::weak_ptr<Shared> weak = shared_;
   const auto onNews = [weak] {
-    if (const auto shared = weak.lock()) shared->jobs.post([shared] { shared->heed(); });
+    if (const auto shared = weak.lock()) shared->jobs.Post([shared] { shared->Heed(); });
   };
   shared_->transport = std::make_unique<GstTransport>(kind, std::move(frames), shared_->news, onNews);
-  shared_->transport->setPlayCount(settings.playCount);
-  shared_->transport->setVolume(settings.volume);
-  shared_->jobs.post([shared = shared_, file] { shared->load(file); });
-  thread_ = std::thread([shared = shared_] { shared->jobs.serve(); });
+  shared_->transport->SetPlayCount(settings.playCount);
+  shared_->transport->SetVolume(settings.volume);
+  shared_->jobs.Post([shared = shared_, file] { shared->Load(file); });
+  thread_ = std::thread([shared = shared_] { shared->jobs.Serve(); });
 }
 
 GstPlayback::~GstPlayback() {
-  shared_->news.abandon();
-  shared_->jobs.close([shared = shared_] { shared->transport.reset(); });
-  if (shared_->jobs.waitServed(kClosePatience))
+  shared_->news.Abandon();
+  shared_->jobs.Close([shared = shared_] { shared->transport.reset(); });
+  if (shared_->jobs.WaitServed(kClosePatience))
     thread_.join();
   else
     thread_.detach();
 }
 
-void GstPlayback::awaitFirstData(std::chrono::milliseconds patience) const {
+void GstPlayback::AwaitFirstData(std::chrono::milliseconds patience) const {
   std::unique_lock lock(shared_->mutex);
   shared_->changed.wait_for(lock, patience, [this] { return shared_->loaded || shared_->failed; });
 }
 
-void GstPlayback::order(MovieState outcome, std::function<void()> job) {
+void GstPlayback::Order(MovieState outcome, std::function<void()> job) {
   const std::scoped_lock lock(shared_->mutex);
   shared_->state = outcome;
-  shared_->jobs.post([shared = shared_, job = std::move(job), number = ++shared_->ordered] {
+  shared_->jobs.Post([shared = shared_, job = std::move(job), number = ++shared_->ordered] {
     job();
-    shared->finishOrder(number);
+    shared->FinishOrder(number);
   });
 }
 
-void GstPlayback::run() {
-  order(MovieState::Running, [shared = shared_] { shared->transport->play(); });
+void GstPlayback::Run() {
+  Order(MovieState::Running, [shared = shared_] { shared->transport->Play(); });
 }
 
-void GstPlayback::pause() {
-  order(MovieState::Paused, [shared = shared_] { shared->transport->pause(); });
+void GstPlayback::Pause() {
+  Order(MovieState::Paused, [shared = shared_] { shared->transport->Pause(); });
 }
 
-void GstPlayback::stop() {
-  order(MovieState::Stopped, [shared = shared_] { shared->transport->stop(); });
+void GstPlayback::Stop() {
+  Order(MovieState::Stopped, [shared = shared_] { shared->transport->Stop(); });
   const std::scoped_lock lock(shared_->mutex);
   shared_->times.position = 0;
 }
 
-void GstPlayback::setPosition(double seconds) {
+void GstPlayback::SetPosition(double seconds) {
   const double wanted = std::max(0.0, seconds);
-  order(state(), [shared = shared_, wanted] { shared->transport->seek(wanted); });
+  Order(State(), [shared = shared_, wanted] { shared->transport->Seek(wanted); });
   const std::scoped_lock lock(shared_->mutex);
   shared_->times.position = wanted;
 }
 
-void GstPlayback::apply(const Settings& settings) {
-  shared_->transport->setPlayCount(settings.playCount);
-  shared_->jobs.post([shared = shared_, volume = settings.volume] { shared->transport->setVolume(volume); });
+void GstPlayback::Apply(const Settings& settings) {
+  shared_->transport->SetPlayCount(settings.playCount);
+  shared_->jobs.Post([shared = shared_, volume = settings.volume] { shared->transport->SetVolume(volume); });
 }
 
-MovieState GstPlayback::state() const {
+MovieState GstPlayback::State() const {
   const std::scoped_lock lock(shared_->mutex);
   if (!shared_->failed) return shared_->state;
   return shared_->loaded ? MovieState::Stopped : MovieState::NoFile;
 }
 
-bool GstPlayback::loaded() const {
+bool GstPlayback::Loaded() const {
   const std::scoped_lock lock(shared_->mutex);
   return shared_->loaded;
 }
 
-bool GstPlayback::failed() const {
+bool GstPlayback::Failed() const {
   const std::scoped_lock lock(shared_->mutex);
   return shared_->failed;
 }
 
-double GstPlayback::position() {
-  refreshTimes();
+double GstPlayback::Position() {
+  RefreshTimes();
   const std::scoped_lock lock(shared_->mutex);
   return shared_->times.position;
 }
 
-double GstPlayback::length() {
-  if (shared_->times.length <= 0) refreshTimes();
+double GstPlayback::Length() {
+  if (shared_->times.length <= 0) RefreshTimes();
   const std::scoped_lock lock(shared_->mutex);
   return shared_->times.length;
 }
 
 /// A question that is still open from an earlier call is not waited for again: the player hangs.
-void GstPlayback::refreshTimes() {
+void GstPlayback::RefreshTimes() {
   std::unique_lock lock(shared_->mutex);
   if (!shared_->loaded || shared_->failed || shared_->timesAsked) return;
   shared_->timesAsked = true;
-  shared_->jobs.post([shared = shared_] { shared->answerTimes(); });
+  shared_->jobs.Post([shared = shared_] { shared->AnswerTimes(); });
   shared_->changed.wait_for(lock, kAnswerPatience, [this] { return !shared_->timesAsked; });
 }
 

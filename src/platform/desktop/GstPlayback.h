@@ -7,7 +7,6 @@
 
 #include "platform/MoviePlayer.h"
 #include "platform/desktop/FrameBox.h"
-#include "platform/desktop/PlayerKind.h"
 
 namespace orvanta {
 
@@ -23,7 +22,7 @@ class GstPlayback {
   };
 
   /// Loads `file` and plays it.
-  GstPlayback(PlayerKind kind, const std::filesystem::path& file, const Settings& settings,
+  GstPlayback(MovieKind kind, const std::filesystem::path& file, const Settings& settings,
               FrameBoxPtr frames);
   /// Waits for the end of it all, but at most a second: a thread that hangs is left to itself.
   ~GstPlayback();
@@ -31,28 +30,28 @@ class GstPlayback {
   GstPlayback& operator=(const GstPlayback&) = delete;
 
   /// Returns as soon as the first data is there, or it is clear that none will come, or the time is up.
-  void awaitFirstData(std::chrono::milliseconds patience) const;
+  void AwaitFirstData(std::chrono::milliseconds patience) const;
 
-  void run();
-  void pause();
-  void stop();
-  void setPosition(double seconds);
-  void apply(const Settings& settings);
+  void Run();
+  void Pause();
+  void Stop();
+  void SetPosition(double seconds);
+  void Apply(const Settings& settings);
 
   /// `NoFile` for a file that has turned out not to play.
-  MovieState state() const;
+  MovieState State() const;
   /// Stays true when the file is lost later on.
-  bool loaded() const;
+  bool Loaded() const;
   /// True once nothing more can come of this playback.
-  bool failed() const;
-  double position();
-  double length();
+  bool Failed() const;
+  double Position();
+  double Length();
 
  private:
   struct Shared;
 
-  void order(MovieState outcome, std::function<void()> job);
-  void refreshTimes();
+  void Order(MovieState outcome, std::function<void()> job);
+  void RefreshTimes();
 
   std::shared_ptr<Shared> shared_;
   std::thread thread_;

@@ -23,22 +23,22 @@ std::optional<double> Seconds(gboolean known, gint64 nanoseconds) {
 
 }  // namespace
 
-GstPlaybin::GstPlaybin(PlayerKind kind, SoundOutput output, FrameBoxPtr frames, NewsBox& news,
+GstPlaybin::GstPlaybin(MovieKind kind, SoundOutput output, FrameBoxPtr frames, NewsBox& news,
                        Listener listener)
     : kind_(kind),
       news_(news),
       listener_(std::move(listener)),
       sound_(output),
       playbin_(MakeElement("playbin")) {
-  if (!build(std::move(frames))) playbin_.reset();
+  if (!Build(std::move(frames))) playbin_.reset();
 }
 
-bool GstPlaybin::build(FrameBoxPtr frames) {
+bool GstPlaybin::Build(FrameBoxPtr frames) {
   // A player of sound keeps the branch for pictures: without it, files that carry one take a second to start.
   const GstHandle<GstElement> pictures =
-      kind_ == PlayerKind::Film ? MakeFilmSink(std::move(frames)) : MakeBlindSink();
-  if (!playbin_ || !pictures || !sound_.element()) return false;
-  g_object_set(playbin_.get(), "flags", kPlayVideo | kPlayAudio, "audio-sink", sound_.element(), "video-sink",
+      kind_ == MovieKind::Film ? MakeFilmSink(std::move(frames)) : MakeBlindSink();
+  if (!playbin_ || !pictures || !sound_.Element()) return false;
+  g_object_set(playbin_.get(), "flags", kPlayVideo | kPlayAudio, "audio-sink", sound_.Element(), "video-sink",
                pictures.get(), nullptr);
   g_signal_connect(playbin_.get(), "about-to-finish", G_CALLBACK(OnAboutToFinish), this);
   bus_.reset(gst_element_get_bus(playbin_.get()));
@@ -52,54 +52,54 @@ GstPlaybin::~GstPlaybin() {
   gst_bus_set_sync_handler(bus_.get(), nullptr, nullptr, nullptr);
 }
 
-void GstPlaybin::setUri(std::string uri) {
+void GstPlaybin::SetUri(std::string uri) {
   uri_ = std::move(uri);
   if (playbin_) g_object_set(playbin_.get(), "uri", uri_.c_str(), nullptr);
 }
 
-void GstPlaybin::ready() {
+void GstPlaybin::Ready() {
   gst_element_set_state(playbin_.get(), GST_STATE_READY);
-  news_.take();
+  news_.Take();
 }
 
-bool GstPlaybin::preroll() {
+bool GstPlaybin::Preroll() {
   if (!playbin_ || uri_.empty()) return false;
   const auto change = gst_element_set_state(playbin_.get(), GST_STATE_PAUSED);
-  if (change == GST_STATE_CHANGE_ASYNC) return awaitData(kPrerollPatience);
+  if (change == GST_STATE_CHANGE_ASYNC) return AwaitData(kPrerollPatience);
   return change != GST_STATE_CHANGE_FAILURE;
 }
 
-void GstPlaybin::play() { gst_element_set_state(playbin_.get(), GST_STATE_PLAYING); }
+void GstPlaybin::Play() { gst_element_set_state(playbin_.get(), GST_STATE_PLAYING); }
 
-void GstPlaybin::pause() { gst_element_set_state(playbin_.get(), GST_STATE_PAUSED); }
+void GstPlaybin::Pause() { gst_element_set_state(playbin_.get(), GST_STATE_PAUSED); }
 
-bool GstPlaybin::seek(double seconds) {
-  news_.take();  // an end that was reported before the move is none any more
+bool GstPlaybin::Seek(double seconds) {
+  news_.Take();  // an end that was reported before the move is none any more
   const auto flags = static_cast<GstSeekFlags>(GST_SEEK_FLAG_FLUSH | GST_SEEK_FLAG_ACCURATE);
   const auto place = static_cast<gint64>(seconds * static_cast<double>(GST_SECOND));
   if (!gst_element_seek_simple(playbin_.get(), GST_FORMAT_TIME, flags, place)) return false;
-  return awaitData(kSeekPatience);
+  return AwaitData(kSeekPatience);
 }
 
-std::optional<double> GstPlaybin::position() const {
+std::optional<double> GstPlaybin::Position() const {
   gint64 place = -1;
   const gboolean known = gst_element_query_position(playbin_.get(), GST_FORMAT_TIME, &place);
   return Seconds(known, place);
 }
 
-std::optional<double> GstPlaybin::duration() const {
+std::optional<double> GstPlaybin::Duration() const {
   gint64 length = -1;
   const gboolean known = gst_element_query_duration(playbin_.get(), GST_FORMAT_TIME, &length);
   return Seconds(known, length);
 }
 
-bool GstPlaybin::awaitData(std::chrono::milliseconds patience) {
-  const NewsBox::News news = news_.await(patience);
+bool GstPlaybin::AwaitData(std::chrono::milliseconds patience) {
+  const NewsBox::News news = news_.Await(patience);
   return (news.dataReady || news.ended) && !news.noDecoder && !news.failed;
 }
 
 /// True if what is missing is what this player is for; subtitles or a cover may be left out.
-bool GstPlaybin::lacksDecoder(GstMessage* message) const {
+bool GstPlaybin::LacksDecoder(GstMessage* message) const {
   const GstStructure* details = gst_message_get_structure(message);
   if (!details || !gst_structure_has_name(details, "missing-plugin")) return false;
   GstCaps* caps = nullptr;
@@ -107,15 +107,15 @@ bool GstPlaybin::lacksDecoder(GstMessage* message) const {
   const GstHandle<GstCaps> owner(caps);
   if (gst_caps_is_empty(caps) || gst_caps_is_any(caps)) return false;
   const std::string_view name = gst_structure_get_name(gst_caps_get_structure(caps, 0));
-  return name.starts_with(kind_ == PlayerKind::Film ? "video/" : "audio/");
+  return name.starts_with(kind_ == MovieKind::Film ? "video/" : "audio/");
 }
 
-NewsBox::News GstPlaybin::read(GstMessage* message) const {
+NewsBox::News GstPlaybin::Read(GstMessage* message) const {
   switch (GST_MESSAGE_TYPE(message)) {
     case GST_MESSAGE_ASYNC_DONE:
       return {.dataReady = true};
     case GST_MESSAGE_ELEMENT:
-      return {.noDecoder = lacksDecoder(message)};
+      return {.noDecoder = LacksDecoder(message)};
     case GST_MESSAGE_EOS:
       return {.ended = true};
     case GST_MESSAGE_ERROR:
@@ -127,8 +127,8 @@ NewsBox::News GstPlaybin::read(GstMessage* message) const {
 
 GstBusSyncReply GstPlaybin::OnMessage(GstBus*, GstMessage* message, gpointer self) {
   const auto& own = *static_cast<GstPlaybin*>(self);
-  const NewsBox::News news = own.read(message);
-  own.news_.add(news);
+  const NewsBox::News news = own.Read(message);
+  own.news_.Add(news);
   if (news.ended || news.failed) own.listener_.onNews();
   gst_message_unref(message);
   return GST_BUS_DROP;

@@ -5,10 +5,10 @@
 #include <optional>
 #include <string>
 
+#include "platform/MoviePlayer.h"
 #include "platform/desktop/FrameBox.h"
 #include "platform/desktop/GstAudioSink.h"
 #include "platform/desktop/NewsBox.h"
-#include "platform/desktop/PlayerKind.h"
 
 namespace orvanta {
 
@@ -22,36 +22,36 @@ class GstPlaybin {
     std::function<bool()> playsOnceMore;  ///< The file has been read: is it to follow itself without a gap?
   };
 
-  /// A `playbin` that could not be put together, for want of plugins, fails in `preroll`.
-  GstPlaybin(PlayerKind kind, SoundOutput output, FrameBoxPtr frames, NewsBox& news, Listener listener);
+  /// A `playbin` that could not be put together, for want of plugins, fails in `Preroll`.
+  GstPlaybin(MovieKind kind, SoundOutput output, FrameBoxPtr frames, NewsBox& news, Listener listener);
   ~GstPlaybin();
   GstPlaybin(const GstPlaybin&) = delete;
   GstPlaybin& operator=(const GstPlaybin&) = delete;
 
-  void setUri(std::string uri);
-  void setVolume(int hundredthsOfDecibel) { sound_.setVolume(hundredthsOfDecibel); }
+  void SetUri(std::string uri);
+  void SetVolume(int hundredthsOfDecibel) { sound_.SetVolume(hundredthsOfDecibel); }
 
   /// Lets go of the file.
-  void ready();
+  void Ready();
   /// Opens the file and waits for its first data; false if it cannot be played.
-  bool preroll();
-  void play();
-  void pause();
+  bool Preroll();
+  void Play();
+  void Pause();
   /// Goes there and waits for the data; false if the file cannot do that.
-  bool seek(double seconds);
+  bool Seek(double seconds);
 
-  std::optional<double> position() const;
-  std::optional<double> duration() const;
+  std::optional<double> Position() const;
+  std::optional<double> Duration() const;
 
  private:
-  bool build(FrameBoxPtr frames);
-  bool awaitData(std::chrono::milliseconds patience);
-  NewsBox::News read(GstMessage* message) const;
-  bool lacksDecoder(GstMessage* message) const;
+  bool Build(FrameBoxPtr frames);
+  bool AwaitData(std::chrono::milliseconds patience);
+  NewsBox::News Read(GstMessage* message) const;
+  bool LacksDecoder(GstMessage* message) const;
   static GstBusSyncReply OnMessage(GstBus* bus, GstMessage* message, gpointer self);
   static void OnAboutToFinish(GstElement* playbin, gpointer self);
 
-  const PlayerKind kind_;
+  const MovieKind kind_;
   NewsBox& news_;
   const Listener listener_;
   std::string uri_;

@@ -14,29 +14,29 @@ constexpr std::chrono::milliseconds kOpenPatience{250};
 
 class GstPlayer : public MoviePlayer {
  public:
-  explicit GstPlayer(PlayerKind kind) : kind_(kind) {}
-  ~GstPlayer() override { close(); }
+  explicit GstPlayer(MovieKind kind) : kind_(kind) {}
+  ~GstPlayer() override { Close(); }
 
   void Open(const std::filesystem::path& file) override;
   void Run() override;
   void Pause() override;
   void Stop() override;
   MovieState State() override;
-  bool Loaded() override { return playback_ && playback_->loaded(); }
-  double Position() override { return playback_ ? playback_->position() : 0; }
+  bool Loaded() override { return playback_ && playback_->Loaded(); }
+  double Position() override { return playback_ ? playback_->Position() : 0; }
   void SetPosition(double seconds) override;
-  double Length() override { return playback_ ? playback_->length() : 0; }
+  double Length() override { return playback_ ? playback_->Length() : 0; }
   int Volume() override { return settings_.volume; }
   void SetVolume(int hundredthsOfDecibel) override;
   void SetPlayCount(int count) override;
   Size FilmSize() override;
-  PicturePtr Frame() override { return frames_ ? frames_->newest() : nullptr; }
+  PicturePtr Frame() override { return frames_ ? frames_->Newest() : nullptr; }
 
  private:
-  void begin();
-  void close();
+  void Begin();
+  void Close();
 
-  const PlayerKind kind_;
+  const MovieKind kind_;
   QObject receiver_;
   GstPlayback::Settings settings_;
   std::filesystem::path file_;
@@ -47,56 +47,56 @@ class GstPlayer : public MoviePlayer {
 
 void GstPlayer::Open(const std::filesystem::path& file) {
   file_ = file;
-  begin();
-  playback_->awaitFirstData(kOpenPatience);
+  Begin();
+  playback_->AwaitFirstData(kOpenPatience);
 }
 
-void GstPlayer::begin() {
-  close();
+void GstPlayer::Begin() {
+  Close();
   frames_ = std::make_shared<FrameBox>(receiver_, [this] {
     if (OnFrame) OnFrame();
   });
   playback_ = std::make_unique<GstPlayback>(kind_, file_, settings_, frames_);
 }
 
-void GstPlayer::close() {
+void GstPlayer::Close() {
   hadFile_ = hadFile_ || Loaded();
-  if (frames_) frames_->close();
+  if (frames_) frames_->Close();
   playback_.reset();
 }
 
 void GstPlayer::Run() {
   if (!playback_) return;
-  if (!playback_->failed()) return playback_->run();
-  if (playback_->loaded()) begin();  // a file that was lost while it played may be back
+  if (!playback_->Failed()) return playback_->Run();
+  if (playback_->Loaded()) Begin();  // a file that was lost while it played may be back
 }
 
 void GstPlayer::Pause() {
-  if (playback_ && !playback_->failed()) playback_->pause();
+  if (playback_ && !playback_->Failed()) playback_->Pause();
 }
 
 void GstPlayer::Stop() {
-  if (playback_ && !playback_->failed()) playback_->stop();
+  if (playback_ && !playback_->Failed()) playback_->Stop();
 }
 
 MovieState GstPlayer::State() {
   if (!playback_) return MovieState::NoFile;
-  const MovieState state = playback_->state();
+  const MovieState state = playback_->State();
   return state == MovieState::NoFile && hadFile_ ? MovieState::Stopped : state;
 }
 
 void GstPlayer::SetPosition(double seconds) {
-  if (playback_ && !playback_->failed()) playback_->setPosition(seconds);
+  if (playback_ && !playback_->Failed()) playback_->SetPosition(seconds);
 }
 
 void GstPlayer::SetVolume(int hundredthsOfDecibel) {
   settings_.volume = std::clamp(hundredthsOfDecibel, -10000, 0);
-  if (playback_) playback_->apply(settings_);
+  if (playback_) playback_->Apply(settings_);
 }
 
 void GstPlayer::SetPlayCount(int count) {
   settings_.playCount = std::max(1, count);
-  if (playback_) playback_->apply(settings_);
+  if (playback_) playback_->Apply(settings_);
 }
 
 Size GstPlayer::FilmSize() {
@@ -106,6 +106,6 @@ Size GstPlayer::FilmSize() {
 
 }  // namespace
 
-std::unique_ptr<MoviePlayer> MakeGstPlayer(PlayerKind kind) { return std::make_unique<GstPlayer>(kind); }
+std::unique_ptr<MoviePlayer> MakeGstPlayer(MovieKind kind) { return std::make_unique<GstPlayer>(kind); }
 
 }  // namespace orvanta

@@ -21,126 +21,126 @@ constexpr std::chrono::seconds kEarly{1};
 
 }  // namespace
 
-GstTransport::GstTransport(PlayerKind kind, FrameBoxPtr frames, NewsBox& news, std::function<void()> onNews)
+GstTransport::GstTransport(MovieKind kind, FrameBoxPtr frames, NewsBox& news, std::function<void()> onNews)
     : kind_(kind), frames_(std::move(frames)), news_(news), onNews_(std::move(onNews)) {}
 
-bool GstTransport::load(const std::filesystem::path& file) {
+bool GstTransport::Load(const std::filesystem::path& file) {
   // Harmless where it has been done. The first time on a machine it lists the plugins, which takes seconds.
   if (!gst_init_check(nullptr, nullptr, nullptr)) return false;
   playbin_ =
       std::make_unique<GstPlaybin>(kind_, FindSoundOutput(), frames_, news_,
-                                   GstPlaybin::Listener{onNews_, [this] { return beginRepetition(); }});
-  playbin_->setUri(MediaUri(file));
-  playbin_->setVolume(volume_);
-  if (!playbin_->preroll()) {
-    die();
+                                   GstPlaybin::Listener{onNews_, [this] { return BeginRepetition(); }});
+  playbin_->SetUri(MediaUri(file));
+  playbin_->SetVolume(volume_);
+  if (!playbin_->Preroll()) {
+    Die();
     return false;
   }
-  const double first = playbin_->position().value_or(0);
+  const double first = playbin_->Position().value_or(0);
   origin_ = first < kLeastOrigin ? 0 : first;
   mode_ = Mode::Paused;
   return true;
 }
 
-void GstTransport::play() {
+void GstTransport::Play() {
   if (mode_ == Mode::Dead || mode_ == Mode::Playing) return;
   const bool fresh = mode_ == Mode::Stopped || atEnd_ || pausedEarly_ || startedAt_ == Clock::time_point{};
-  if (!leaveStop()) return;
-  if (atEnd_) rewindEnded();
-  if (pausedEarly_) restartSound();
+  if (!LeaveStop()) return;
+  if (atEnd_) RewindEnded();
+  if (pausedEarly_) RestartSound();
   if (mode_ == Mode::Dead) return;
-  playbin_->play();
+  playbin_->Play();
   mode_ = Mode::Playing;
   if (fresh) startedAt_ = Clock::now();
 }
 
-void GstTransport::pause() {
-  if (mode_ == Mode::Dead || !leaveStop()) return;
-  playbin_->pause();
+void GstTransport::Pause() {
+  if (mode_ == Mode::Dead || !LeaveStop()) return;
+  playbin_->Pause();
   if (mode_ == Mode::Playing) pausedEarly_ = Clock::now() - startedAt_ < kEarly;
   mode_ = Mode::Paused;
 }
 
-void GstTransport::stop() {
+void GstTransport::Stop() {
   if (mode_ == Mode::Dead) return;
-  playbin_->ready();
+  playbin_->Ready();
   mode_ = Mode::Stopped;
   begun_ = 1;
   startFrom_ = 0;
   atEnd_ = pausedEarly_ = false;
 }
 
-void GstTransport::seek(double seconds) {
-  if (mode_ == Mode::Dead || startsOver(seconds)) return;
+void GstTransport::Seek(double seconds) {
+  if (mode_ == Mode::Dead || StartsOver(seconds)) return;
   if (mode_ == Mode::Stopped)
     startFrom_ = seconds;
-  else if (playbin_->seek(origin_ + seconds))
+  else if (playbin_->Seek(origin_ + seconds))
     atEnd_ = false;
 }
 
-MovieTimes GstTransport::times() {
+MovieTimes GstTransport::Times() {
   if (mode_ == Mode::Dead) return {0, length_};
-  if (length_ <= 0) length_ = std::max(0.0, playbin_->duration().value_or(0));
+  if (length_ <= 0) length_ = std::max(0.0, playbin_->Duration().value_or(0));
   if (mode_ == Mode::Stopped) return {startFrom_, length_};
-  return {std::max(0.0, playbin_->position().value_or(origin_) - origin_), length_};
+  return {std::max(0.0, playbin_->Position().value_or(origin_) - origin_), length_};
 }
 
-void GstTransport::setVolume(int hundredthsOfDecibel) {
+void GstTransport::SetVolume(int hundredthsOfDecibel) {
   volume_ = hundredthsOfDecibel;
-  if (playbin_) playbin_->setVolume(volume_);
+  if (playbin_) playbin_->SetVolume(volume_);
 }
 
-bool GstTransport::heedNews() {
-  const NewsBox::News news = news_.take();
-  if (news.failed) die();
+bool GstTransport::HeedNews() {
+  const NewsBox::News news = news_.Take();
+  if (news.failed) Die();
   if (!news.ended || mode_ == Mode::Dead || mode_ == Mode::Stopped) return false;
   // Clips of about a second are over before the player is asked whether they are to be repeated.
-  if (beginRepetition() && playbin_->seek(origin_)) return false;
-  playbin_->pause();
+  if (BeginRepetition() && playbin_->Seek(origin_)) return false;
+  playbin_->Pause();
   mode_ = Mode::Paused;
   atEnd_ = true;
   return true;
 }
 
-bool GstTransport::leaveStop() {
+bool GstTransport::LeaveStop() {
   if (mode_ != Mode::Stopped) return true;
-  if (!playbin_->preroll()) {
-    die();
+  if (!playbin_->Preroll()) {
+    Die();
     return false;
   }
   mode_ = Mode::Paused;
-  if (startFrom_ > 0) playbin_->seek(origin_ + startFrom_);
+  if (startFrom_ > 0) playbin_->Seek(origin_ + startFrom_);
   return true;
 }
 
-void GstTransport::rewindEnded() {
+void GstTransport::RewindEnded() {
   begun_ = 1;
   atEnd_ = pausedEarly_ = false;
-  if (playbin_->seek(origin_)) return;
-  playbin_->ready();
-  if (!playbin_->preroll()) die();
+  if (playbin_->Seek(origin_)) return;
+  playbin_->Ready();
+  if (!playbin_->Preroll()) Die();
 }
 
-void GstTransport::restartSound() {
-  startFrom_ = times().position;
+void GstTransport::RestartSound() {
+  startFrom_ = Times().position;
   pausedEarly_ = false;
-  playbin_->ready();
+  playbin_->Ready();
   mode_ = Mode::Stopped;
-  leaveStop();
+  LeaveStop();
 }
 
-bool GstTransport::startsOver(double seconds) {
-  return seconds <= 0 && mode_ == Mode::Playing && begun_ == 1 && times().position < kStillAtBeginning;
+bool GstTransport::StartsOver(double seconds) {
+  return seconds <= 0 && mode_ == Mode::Playing && begun_ == 1 && Times().position < kStillAtBeginning;
 }
 
-bool GstTransport::beginRepetition() {
+bool GstTransport::BeginRepetition() {
   int begun = begun_;
   while (begun < playCount_)
     if (begun_.compare_exchange_weak(begun, begun + 1)) return true;
   return false;
 }
 
-void GstTransport::die() {
+void GstTransport::Die() {
   mode_ = Mode::Dead;
   playbin_.reset();
 }

@@ -20,37 +20,37 @@ struct MovieTimes {
 /// server do, so they belong on a thread of their own, always the same one, except where told otherwise.
 class GstTransport {
  public:
-  /// `onNews` is called on any thread when `heedNews` has something to do.
-  GstTransport(PlayerKind kind, FrameBoxPtr frames, NewsBox& news, std::function<void()> onNews);
+  /// `onNews` is called on any thread when `HeedNews` has something to do.
+  GstTransport(MovieKind kind, FrameBoxPtr frames, NewsBox& news, std::function<void()> onNews);
 
   /// Waits until the first data stands ready; false for a file that cannot be played.
-  bool load(const std::filesystem::path& file);
-  void play();
-  void pause();
-  void stop();
-  void seek(double seconds);
-  MovieTimes times();
-  void setVolume(int hundredthsOfDecibel);
+  bool Load(const std::filesystem::path& file);
+  void Play();
+  void Pause();
+  void Stop();
+  void Seek(double seconds);
+  MovieTimes Times();
+  void SetVolume(int hundredthsOfDecibel);
   /// Any thread. How many times the file is played in all.
-  void setPlayCount(int count) { playCount_ = count; }
+  void SetPlayCount(int count) { playCount_ = count; }
 
   /// Repeats the file or holds it at its end, where due. True if this was the end of the last repetition.
-  bool heedNews();
-  /// False before `load`, and after a failure: a player of a lost file does nothing more.
-  bool alive() const { return mode_ != Mode::Dead; }
+  bool HeedNews();
+  /// False before `Load`, and after a failure: a player of a lost file does nothing more.
+  bool Alive() const { return mode_ != Mode::Dead; }
 
  private:
   using Clock = std::chrono::steady_clock;
   enum class Mode { Dead, Stopped, Paused, Playing };
 
-  bool leaveStop();
-  void rewindEnded();
-  void restartSound();
-  bool startsOver(double seconds);
-  bool beginRepetition();
-  void die();
+  bool LeaveStop();
+  void RewindEnded();
+  void RestartSound();
+  bool StartsOver(double seconds);
+  bool BeginRepetition();
+  void Die();
 
-  const PlayerKind kind_;
+  const MovieKind kind_;
   const FrameBoxPtr frames_;
   NewsBox& news_;
   const std::function<void()> onNews_;

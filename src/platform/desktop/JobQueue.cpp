@@ -4,14 +4,14 @@
 
 namespace orvanta {
 
-void JobQueue::post(Job job) {
+void JobQueue::Post(Job job) {
   const std::scoped_lock lock(mutex_);
   if (closed_) return;
   jobs_.push_back(std::move(job));
   changed_.notify_all();
 }
 
-void JobQueue::close(Job last) {
+void JobQueue::Close(Job last) {
   const std::scoped_lock lock(mutex_);
   if (closed_) return;
   closed_ = true;
@@ -20,7 +20,7 @@ void JobQueue::close(Job last) {
   changed_.notify_all();
 }
 
-JobQueue::Job JobQueue::next() {
+JobQueue::Job JobQueue::Next() {
   std::unique_lock lock(mutex_);
   changed_.wait(lock, [this] { return !jobs_.empty() || closed_; });
   if (jobs_.empty()) return {};
@@ -29,14 +29,14 @@ JobQueue::Job JobQueue::next() {
   return job;
 }
 
-void JobQueue::serve() {
-  while (Job job = next()) job();
+void JobQueue::Serve() {
+  while (Job job = Next()) job();
   const std::scoped_lock lock(mutex_);
   served_ = true;
   changed_.notify_all();
 }
 
-bool JobQueue::waitServed(std::chrono::milliseconds patience) {
+bool JobQueue::WaitServed(std::chrono::milliseconds patience) {
   std::unique_lock lock(mutex_);
   return changed_.wait_for(lock, patience, [this] { return served_; });
 }

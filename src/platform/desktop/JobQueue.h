@@ -8,22 +8,22 @@
 
 namespace orvanta {
 
-/// Work for one thread, carried out in order. Any thread may call anything but `serve`.
+/// Work for one thread, carried out in order. Any thread may call anything but `Serve`.
 class JobQueue {
  public:
   using Job = std::function<void()>;
 
-  /// Refused in silence after `close`.
-  void post(Job job);
+  /// Refused in silence after `Close`.
+  void Post(Job job);
   /// Forgets what has not begun and makes `last` the last job.
-  void close(Job last);
+  void Close(Job last);
   /// Carries out jobs until the last one is done.
-  void serve();
-  /// True once `serve` has done the last job; false if `patience` runs out before.
-  bool waitServed(std::chrono::milliseconds patience);
+  void Serve();
+  /// True once `Serve` has done the last job; false if `patience` runs out before.
+  bool WaitServed(std::chrono::milliseconds patience);
 
  private:
-  Job next();
+  Job Next();
 
   std::mutex mutex_;
   std::condition_variable changed_;

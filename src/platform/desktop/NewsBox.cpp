@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-void NewsBox::add(const News& news) {
+void NewsBox::Add(const News& news) {
   const std::scoped_lock lock(mutex_);
   news_.dataReady |= news.dataReady;
   news_.noDecoder |= news.noDecoder;
@@ -13,12 +13,12 @@ void NewsBox::add(const News& news) {
   changed_.notify_all();
 }
 
-NewsBox::News NewsBox::take() {
+NewsBox::News NewsBox::Take() {
   const std::scoped_lock lock(mutex_);
   return std::exchange(news_, {});
 }
 
-NewsBox::News NewsBox::await(std::chrono::milliseconds patience) {
+NewsBox::News NewsBox::Await(std::chrono::milliseconds patience) {
   std::unique_lock lock(mutex_);
   changed_.wait_for(lock, patience,
                     [this] { return news_.dataReady || news_.failed || news_.ended || abandoned_; });
@@ -27,7 +27,7 @@ NewsBox::News NewsBox::await(std::chrono::milliseconds patience) {
   return seen;
 }
 
-void NewsBox::abandon() {
+void NewsBox::Abandon() {
   const std::scoped_lock lock(mutex_);
   abandoned_ = true;
   changed_.notify_all();

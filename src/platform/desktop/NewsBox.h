@@ -18,14 +18,14 @@ class NewsBox {
   };
 
   /// Notes what is true in `news`.
-  void add(const News& news);
+  void Add(const News& news);
   /// Gives and forgets everything.
-  News take();
-  /// Waits until data stand ready, or the file has ended or failed, or `abandon` was called. Leaves an end or
+  News Take();
+  /// Waits until data stand ready, or the file has ended or failed, or `Abandon` was called. Leaves an end or
   /// a failure to be taken.
-  News await(std::chrono::milliseconds patience);
+  News Await(std::chrono::milliseconds patience);
   /// From now on nothing is waited for.
-  void abandon();
+  void Abandon();
 
  private:
   std::mutex mutex_;
