@@ -75,10 +75,10 @@ def bar_button(key, w, h, look):
     if look != "pressed":
         body += f'<path d="{parts.box_path(5, 4.6, w - 10, (h - 8) * .42, 3)}" fill="#fff" opacity=".16"/>'
     text = CAPTIONS[key]
-    width = 9 * len(text)
-    left = (w - 16 - width) / 2
+    width = 8.8 * len(text)
+    left = (w - 19 - width) / 2
     return body + (f'<g transform="translate({left + 7},{h / 2 + drop}) scale(.62)" fill="{ink}" stroke="{ink}">{ICONS[key]}</g>'
-                   + svg.text(left + 18, h / 2 + 4.2 + drop, text, 12, ink, extra=f'letter-spacing="1" stroke="{ink}" stroke-width=".35"'))
+                   + svg.text(left + 19, h / 2 + 4.2 + drop, text, 12, ink, extra='letter-spacing=".6"'))
 
 
 def drawing(key, w, h, look):

@@ -87,10 +87,9 @@ def engraved(x, y, content, size, colour="#33220a", anchor="middle", spacing=0, 
 
 def ring(cx, cy, outer, inner, fill=svg.BRASS, bevel="bevel2"):
     circle = "M{0},{1} a{2},{2} 0 1 0 {3},0 a{2},{2} 0 1 0 -{3},0 Z"
-    return (f'<circle cx="{cx + 1.5}" cy="{cy + 2}" r="{outer}" fill="#000" opacity=".5" filter="url(#blur2)"/>'
-            f'<path d="{circle.format(cx - outer, cy, outer, 2 * outer)} '
-            f'{circle.format(cx - inner, cy, inner, 2 * inner)}" fill-rule="evenodd" fill="{fill}" '
-            f'filter="url(#{bevel})"/>')
+    shape = f'{circle.format(cx - outer, cy, outer, 2 * outer)} {circle.format(cx - inner, cy, inner, 2 * inner)}'
+    return (f'<path d="{shape}" fill-rule="evenodd" fill="#000" opacity=".6" filter="url(#blur2)" transform="translate(1.5,2)"/>'
+            f'<path d="{shape}" fill-rule="evenodd" fill="{fill}" filter="url(#{bevel})"/>')
 
 
 def porthole(cx, cy, outer, inner, view, bolts=8):
@@ -128,8 +127,6 @@ def gauge(cx, cy, radius, value, caption, colour=svg.SIGNAL, ticks=10):
             + f'{hand} stroke="#000" stroke-width="2" opacity=".3" transform="translate(.6,1)"/>'
             + f'{hand} stroke="#8c2415" stroke-width="1.5"/>'
             + f'<circle cx="{cx}" cy="{cy}" r="{radius * .14}" fill="url(#screw)"/>'
-            + f'<circle cx="{cx + 1}" cy="{cy + 1.5}" r="{radius + 2}" fill="none" stroke="#000" stroke-width="5" '
-              f'opacity=".4" filter="url(#blur1)"/>'
             + f'<ellipse cx="{cx - radius * .2}" cy="{cy - radius * .45}" rx="{radius * .6}" ry="{radius * .35}" '
               f'fill="url(#glassShine)"/>'
             + ring(cx, cy, radius + 4, radius - .2))

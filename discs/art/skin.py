@@ -12,6 +12,7 @@ VIEW = (-MARGIN, -MARGIN, outline.WIDTH + 2 * MARGIN, outline.HEIGHT + 2 * MARGI
 _EXTENSIONS = "".join([
     '<rect x="-80" y="136" width="84" height="81" {0}/>', '<rect x="208" y="-80" width="205" height="84" {0}/>',
     *[f'<rect x="660" y="{y}" width="80" height="10" {{0}}/>' for y, _ in outline.RIGHT_STRIPS]])
+_EVERYWHERE = 'x="-80" y="-80" width="840" height="660"'
 
 
 def silhouette(attributes=""):
@@ -19,31 +20,26 @@ def silhouette(attributes=""):
 
 
 def hull():
-    """The body with its rounded edge and the brass moulding that follows the outline."""
-    shape = silhouette()
-    rim = silhouette('fill="none" stroke-width="13"')
+    """The body with its rounded edge and the brass moulding that follows the outline.
+
+    Everything is drawn a pixel wider than the window, so that no pixel on its edge is half empty.
+    """
+    shape = silhouette('stroke-width="2" stroke-linejoin="round"')
     return f"""
-<g filter="url(#hull)" fill="url(#hullPaint)">{shape}</g>
-<g clip-path="url(#outline)"><g filter="url(#hammer)" opacity=".55"><g fill="url(#hullPaint)">{shape}</g></g></g>
-<g clip-path="url(#outline)"><g mask="url(#inside)"><g filter="url(#blur3)" stroke="#000" opacity=".6"
- transform="translate(1.5,2.5)">{rim}</g></g>
-<g filter="url(#bevel2)" mask="url(#rimMask)">{silhouette(f'fill="{svg.BRASS}"')}</g></g>"""
+<g filter="url(#hull)" fill="#3a706c" stroke="#3a706c">{shape}</g>
+<g clip-path="url(#outline)"><rect {_EVERYWHERE} fill="url(#hullPaint)" opacity=".55"/>
+<g filter="url(#hammer)" opacity=".6"><rect {_EVERYWHERE} fill="url(#hullPaint)"/></g></g>
+<g clip-path="url(#outline)"><g filter="url(#blur3)" opacity=".75" transform="translate(2,3)"><g filter="url(#hollow)">{shape}</g></g></g>
+<g filter="url(#bevel2)"><g filter="url(#hollow)" fill="{svg.BRASS}" stroke="{svg.BRASS}">{shape}</g></g>"""
 
 
 def hull_defs():
-    shape = silhouette()
-    # The moulding is what remains of the silhouette when it is shrunk by the moulding's width.
-    return f"""<clipPath id="outline">{shape}</clipPath>
-{svg.gradient("hullPaint", [(0, "#5c958d"), (.3, "#3a706c"), (.75, "#245052"), (1, "#173a3d")], 0, 40, 0, 496, "userSpaceOnUse")}
-<filter id="shrink" x="-80" y="-80" width="840" height="660" filterUnits="userSpaceOnUse">
-<feMorphology operator="erode" radius="4.2"/></filter>
-<mask id="inside" maskUnits="userSpaceOnUse" x="-80" y="-80" width="840" height="660">
-<g fill="#fff" filter="url(#shrink)">{shape}</g></mask>
-<filter id="hollow" x="-80" y="-80" width="840" height="660" filterUnits="userSpaceOnUse">
-<feMorphology in="SourceAlpha" operator="erode" radius="4.6" result="core"/>
-<feComposite in="SourceGraphic" in2="core" operator="out"/></filter>
-<mask id="rimMask" maskUnits="userSpaceOnUse" x="-80" y="-80" width="840" height="660">
-<g fill="#fff" filter="url(#hollow)">{shape}</g></mask>"""
+    # The moulding is what remains of the silhouette when its core, shrunk by the moulding's width, is taken out.
+    return f"""<clipPath id="outline">{silhouette()}</clipPath>
+{svg.gradient("hullPaint", [(0, "#5f9a91"), (.3, "#3d7571"), (.75, "#265355"), (1, "#183c3f")], 0, 40, 0, 496, "userSpaceOnUse")}
+<filter id="hollow" {_EVERYWHERE} filterUnits="userSpaceOnUse">
+<feMorphology in="SourceAlpha" operator="erode" radius="5.4" result="core"/>
+<feComposite in="SourceGraphic" in2="core" operator="out"/></filter>"""
 
 
 def shaft():
@@ -55,16 +51,17 @@ def shaft():
         out.append(f'<rect x="{x}" y="-80" width="{width}" height="150" fill="url(#{metal}H)"/>')
     out.append('<rect x="206" y="8" width="209" height="70" fill="url(#shaftShade)"/>')
     # A service pipe with its dome on the right, a rod on the left.
-    out.append('<path d="M413,78 V22 q0,-10 8,-10 q8,0 8,10 V78 Z" fill="url(#copperH)"/>'
+    out.append('<path d="M413,60 V22 q0,-10 8,-10 q8,0 8,10 V60 Z" fill="url(#copperH)"/>'
                '<rect x="412" y="30" width="18" height="6" fill="url(#brassH)" filter="url(#bevel1)"/>'
-               '<rect x="203" y="10" width="5" height="68" fill="url(#steelH)"/>')
-    for y, height in ((24, 10), (52, 20)):
+               '<rect x="202" y="9" width="6" height="50" fill="url(#steelH)"/>')
+    for y, height in ((14, 10), (51, 21)):
         out.append(f'<rect x="202" y="{y + 3}" width="228" height="{height}" fill="#000" opacity=".55" '
                    f'filter="url(#blur2)"/>'
                    f'<rect x="{202 if y > 40 else 206}" y="{y}" width="{228 if y > 40 else 209}" height="{height}" '
                    f'fill="url(#collar)" filter="url(#bevel2)"/>')
-    out += [parts.hex_bolt(x, 62, 5, 15) for x in range(214, 425, 20) if x != 314]
-    out += [parts.screw(x, 29, 2.4, x) for x in (214, 246, 378, 406)]
+    out += [parts.hex_bolt(x, 62, 4.6, 15) for x in (213, 231, 249, 383, 401, 419)]
+    out.append(parts.engraved(316, 66.5, "BATYSKAF", 12.5, spacing=3.4, font=svg.PLATE))
+    out += [parts.screw(x, 19, 2.2, x) for x in (213, 236, 385, 408)]
     return "".join(out)
 
 
@@ -75,8 +72,8 @@ def arm():
 <rect x="-80" y="136" width="96" height="7" fill="url(#brassV)"/><rect x="-80" y="210" width="96" height="7" fill="url(#brassV)"/>
 <rect x="-80" y="170" width="96" height="2" fill="#000" opacity=".25"/>
 <rect x="-80" y="172" width="96" height="1" fill="#fff" opacity=".18"/>
-<path d="M20,112 L6,130 V223 L20,241 Z" fill="#000" opacity=".5" filter="url(#blur3)"/>
-<path d="M22,104 L9,124 V229 L22,249 Z" fill="url(#flange)" filter="url(#bevel2)"/>"""
+<path d="M20,108 L6,124 V229 L20,245 Z" fill="#000" opacity=".5" filter="url(#blur3)"/>
+<path d="M22,98 L7,112 V240 L22,256 Z" fill="url(#flange)" filter="url(#bevel2)"/>"""
 
 
 def fittings():
@@ -84,8 +81,8 @@ def fittings():
     out = []
     for top, height in outline.RIGHT_STRIPS:
         middle = top + height / 2
-        for x, width, half, metal in ((646, 120, 5, "copper"), (630, 19, 8, "brass"), (604, 28, 14.5, "brass"),
-                                      (592, 14, 20, "brass")):
+        for x, width, half, metal in ((660, 100, 5, "copper"), (646, 17, 6.5, "steel"), (630, 19, 8.5, "brass"),
+                                      (604, 28, 15, "brass"), (592, 14, 20, "brass")):
             out.append(f'<rect x="{x}" y="{middle - half}" width="{width}" height="{2 * half}" '
                        f'fill="url(#{metal}V)"/>')
         for x in (611, 616, 621, 626):
@@ -109,29 +106,30 @@ def crown():
     fish = parts.coelacanth(0, 0, 1, "#a97f3e")
     return (f'<ellipse cx="318" cy="93" rx="62" ry="17" fill="#000" opacity=".5" filter="url(#blur2)" '
             f'transform="translate(1,2)"/>'
-            f'<ellipse cx="318" cy="92" rx="62" ry="15.5" fill="{svg.BRASS}" filter="url(#bevel2)"/>'
-            f'<ellipse cx="318" cy="92" rx="56" ry="12" fill="#5b4119"/>'
+            f'<ellipse cx="318" cy="92" rx="62" ry="15.5" fill="{svg.BRASS}" filter="url(#bevel1)"/>'
+            f'<ellipse cx="318" cy="92" rx="56" ry="12" fill="url(#sunk)"/>'
             f'<ellipse cx="318" cy="92" rx="56" ry="12" fill="none" stroke="#fff0c0" stroke-opacity=".5" '
             f'transform="translate(.4,.7)" stroke-width=".7"/>'
-            f'<g transform="translate(282,80.5) scale(.32,.24)" filter="url(#relief)">{fish}</g>'
+            f'<g transform="translate(280,80) scale(.34,.25)" filter="url(#reliefFish)">{fish}</g>'
             + parts.gauge(226, 90, 14, .62, "bar") + parts.gauge(410, 90, 14, .28, "°C"))
 
 
 def grille():
     """The loudspeaker on the left shoulder."""
-    slots = "".join(f'<rect x="100" y="{y}" width="{58 if i % 4 else 58}" height="3" rx="1.5" fill="#030a0c"/>'
-                    f'<rect x="100" y="{y + 2.6}" width="58" height=".8" rx=".4" fill="#fff" opacity=".28"/>'
-                    for i, y in enumerate(range(76, 104, 6)))
-    return slots
+    x, y, w, h = 98, 74, 66, 28
+    slots = "".join(f'<path d="M{x + 7 + k * 6.5:.1f},{y + h - 4} l8,{8 - h}" stroke="#010607" stroke-width="3" stroke-linecap="round"/>'
+                    f'<path d="M{x + 8.6 + k * 6.5:.1f},{y + h - 4} l8,{8 - h}" stroke="#fff" stroke-width=".7" opacity=".3"/>'
+                    for k in range(8))
+    return parts.frame(x, y, w, h, 2.6, 6, bevel="bevel1") + parts.recess(x, y, w, h, 6, "#1d4a4c", 2) + slots
 
 
 def depth_gauge():
     """The column on the right edge: a glass tube with the depth's scale."""
     x, y, w, h = 581, 112, 11, 176
-    marks = "".join(f'<rect x="{x - 4 if k % 5 == 0 else x - 2}" y="{y + 8 + k * 8}" '
-                    f'width="{5 if k % 5 == 0 else 3}" height="1" fill="{svg.IVORY}" opacity=".8"/>' for k in range(21))
+    marks = "".join(f'<rect x="{x + w - (6 if k % 5 == 0 else 3.5)}" y="{y + 8 + k * 8}" width="{6 if k % 5 == 0 else 3}" '
+                    f'height="1" fill="{svg.IVORY}" opacity=".75"/>' for k in range(21))
     return (parts.frame(x, y, w, h, 3, 5, bevel="bevel1") + parts.recess(x, y, w, h, 5, "#06181c", 2)
-            + f'<rect x="{x + 2.5}" y="{y + 96}" width="6" height="{h - 100}" rx="3" fill="url(#lampTube)"/>'
+            + f'<rect x="{x + 2}" y="{y + 96}" width="5" height="{h - 100}" rx="3" fill="url(#lampTube)"/>'
             + f'<rect x="{x + 2}" y="{y + 3}" width="2" height="{h - 6}" rx="1" fill="#fff" opacity=".35"/>{marks}')
 
 
@@ -196,7 +194,7 @@ def detail_bed():
 def drawing():
     """The whole scene; the menu area's place bears the detail view's bed, with the strip's twin above it."""
     x, y, w, h = layout.AREA
-    body = f"""{hull()}
+    body = f"""<rect {_EVERYWHERE} fill="#000"/>{hull()}
 <g clip-path="url(#outline)">{arm()}{shaft()}{fittings()}{knobs()}</g>
 {parts.frame(x - 1, y - 1, w + 2, h + 2, 6, 2)}
 {detail_bed()}
@@ -208,8 +206,10 @@ def drawing():
         svg.gradient("collar", [(0, "#6b4c1e"), (.18, "#d9b065"), (.32, "#fff0c6"), (.5, "#c1964f"), (.8, "#7b5522"),
                                 (1, "#3c280d")], x2=1, y2=0),
         svg.gradient("flange", svg.BRASS_STOPS, 0, 110, 0, 245, "userSpaceOnUse"),
+        svg.lighting("reliefFish", 2.4, 9, shine=.5, exponent=40),
+        svg.radial("sunk", [(0, "#6d5020"), (.8, "#4a3412"), (1, "#2a1c08")]),
         svg.gradient("night", [(0, "#04131a"), (1, "#0d2b30")]),
         svg.gradient("bed", [(0, "#86aba2"), (1, "#4f7b76")]),
         svg.gradient("lampTube", [(0, "#fff0b0"), (.2, "#ffb84d"), (1, "#c2561d")]),
-        svg.radial("portSea", [(0, "#8ff0de"), (.35, "#2f9aa0"), (1, "#063039")], .55, .05, 1)])
+        svg.radial("portSea", [(0, "#c4fff0"), (.4, "#46b3b0"), (1, "#0c4a55")], .55, .05, 1)])
     return svg.document(VIEW[2], VIEW[3], body, defs, VIEW)
