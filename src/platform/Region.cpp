@@ -7,8 +7,8 @@ namespace orvanta {
 Region Region::Polygon(std::span<const Point> outline) {
   Region region;
   if (outline.size() < 3) return region;
-  const auto [lowest, highest] = std::minmax_element(outline.begin(), outline.end(),
-                                                     [](Point a, Point b) { return a.y < b.y; });
+  const auto [lowest, highest] =
+      std::minmax_element(outline.begin(), outline.end(), [](Point a, Point b) { return a.y < b.y; });
   for (int y = lowest->y; y < highest->y; ++y) {
     std::vector<int> crossings;
     for (std::size_t i = 0; i < outline.size(); ++i) {
@@ -21,7 +21,8 @@ Region Region::Polygon(std::span<const Point> outline) {
     }
     std::sort(crossings.begin(), crossings.end());
     Row row{y, {}};
-    for (std::size_t i = 0; i + 1 < crossings.size(); i += 2) row.runs.push_back({crossings[i], crossings[i + 1]});
+    for (std::size_t i = 0; i + 1 < crossings.size(); i += 2)
+      row.runs.push_back({crossings[i], crossings[i + 1]});
     Tidy(row.runs);
     if (!row.runs.empty()) region.rows_.push_back(std::move(row));
   }
@@ -68,9 +69,11 @@ Region Region::United(const Region& other) const {
 }
 
 bool Region::Contains(Point p) const {
-  const auto row = std::lower_bound(rows_.begin(), rows_.end(), p.y, [](const Row& r, int y) { return r.y < y; });
+  const auto row =
+      std::lower_bound(rows_.begin(), rows_.end(), p.y, [](const Row& r, int y) { return r.y < y; });
   if (row == rows_.end() || row->y != p.y) return false;
-  return std::any_of(row->runs.begin(), row->runs.end(), [&](Run r) { return p.x >= r.left && p.x < r.right; });
+  return std::any_of(row->runs.begin(), row->runs.end(),
+                     [&](Run r) { return p.x >= r.left && p.x < r.right; });
 }
 
 int Region::PixelCount() const {

@@ -1,9 +1,8 @@
-#include "config/ProfileString.h"
-
 #include <gtest/gtest.h>
 
 #include "config/LookupCases.h"
 #include "config/ProfileScanner.h"
+#include "config/ProfileString.h"
 #include "config/ReferenceLookup.h"
 
 namespace orvanta {

@@ -112,16 +112,11 @@ bool GstPlaybin::LacksDecoder(GstMessage* message) const {
 
 NewsBox::News GstPlaybin::Read(GstMessage* message) const {
   switch (GST_MESSAGE_TYPE(message)) {
-    case GST_MESSAGE_ASYNC_DONE:
-      return {.dataReady = true};
-    case GST_MESSAGE_ELEMENT:
-      return {.noDecoder = LacksDecoder(message)};
-    case GST_MESSAGE_EOS:
-      return {.ended = true};
-    case GST_MESSAGE_ERROR:
-      return {.failed = true};
-    default:
-      return {};
+    case GST_MESSAGE_ASYNC_DONE: return {.dataReady = true};
+    case GST_MESSAGE_ELEMENT: return {.noDecoder = LacksDecoder(message)};
+    case GST_MESSAGE_EOS: return {.ended = true};
+    case GST_MESSAGE_ERROR: return {.failed = true};
+    default: return {};
   }
 }
 
