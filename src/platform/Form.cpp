@@ -74,6 +74,8 @@ void Form::Refresh() {
 
 void Form::Unload() {
   if (unloading_) return;
+  // The last thing to end here, so that an unload outside every handler destroys the form as well.
+  EventLoop::Delivery delivery(host_.Loop());
   unloading_ = true;
   Form_Unload();
   Visible = false;
