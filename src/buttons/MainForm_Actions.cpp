@@ -25,6 +25,8 @@ void MainForm::Release(std::int16_t Index) {
 }
 
 void MainForm::Drop() {
+  // None is latched while the exit voice plays, which a click can meet.
+  if (PressedButton == -1) return;
   ButtonM(PressedButton).Picture = ImageList1(LookEntry(PressedButton, Look::Normal));
   ButtonM(PressedButton).Refresh();
 }

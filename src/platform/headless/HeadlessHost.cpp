@@ -32,6 +32,7 @@ void HeadlessHost::Advance(Milliseconds to) {
 
 void HeadlessHost::Sleep(Milliseconds duration) {
   sleeps.push_back({now_, duration});
+  if (OnSleep) OnSleep();
   Advance(now_ + std::max<Milliseconds>(0, duration));
 }
 

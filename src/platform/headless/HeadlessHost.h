@@ -60,6 +60,7 @@ class HeadlessHost : public Host {
     Milliseconds at, duration;
   };
   std::vector<Pause> sleeps;
+  std::function<void()> OnSleep;  ///< called as a sleep begins, to see what stands on the screen during it
 
   // The script. Places are pixels of the screen.
   void At(Milliseconds time, std::function<void()> action);
