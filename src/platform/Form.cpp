@@ -30,7 +30,9 @@ Rect Form::Place() const {
     return static_cast<int>(std::nearbyint(std::clamp(twips / kTwipsPerPixel, -1e8, 1e8)));
   };
   // The program takes the cursor's place in the window from the whole pixels of its corner.
-  const auto whole = [](double twips) { return static_cast<int>(std::clamp(twips / kTwipsPerPixel, -1e8, 1e8)); };
+  const auto whole = [](double twips) {
+    return static_cast<int>(std::clamp(twips / kTwipsPerPixel, -1e8, 1e8));
+  };
   return {whole(Left), whole(Top), pixels(Width), pixels(Height)};
 }
 
