@@ -15,6 +15,7 @@ constexpr guint kPlayAudio = 0x2;
 // A slow drive may take its time over the first data; nobody waits for it but the player's own thread.
 constexpr std::chrono::hours kPrerollPatience{1};
 constexpr std::chrono::seconds kSeekPatience{2};
+constexpr GstClockTime kSettlePatience = GST_SECOND;
 
 std::optional<double> Seconds(gboolean known, gint64 nanoseconds) {
   if (!known || nanoseconds < 0) return std::nullopt;
@@ -78,7 +79,10 @@ bool GstPlaybin::Seek(double seconds) {
   const auto flags = static_cast<GstSeekFlags>(GST_SEEK_FLAG_FLUSH | GST_SEEK_FLAG_ACCURATE);
   const auto place = static_cast<gint64>(seconds * static_cast<double>(GST_SECOND));
   if (!gst_element_seek_simple(playbin_.get(), GST_FORMAT_TIME, flags, place)) return false;
-  return AwaitData(kSeekPatience);
+  const bool there = AwaitData(kSeekPatience);
+  // A pause that overtakes the return to playing would take the old place's time for the new one's.
+  gst_element_get_state(playbin_.get(), nullptr, nullptr, kSettlePatience);
+  return there;
 }
 
 std::optional<double> GstPlaybin::Position() const {
