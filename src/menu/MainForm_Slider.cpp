@@ -62,7 +62,8 @@ void MainForm::MoveSuwak(std::int32_t step) {
   MoveKnob(imgSuwak, step);
   if (SuwakPos == LastPos) return;
   if (!imgPomoc.Visible && !imgSeven.Visible) {
-    for (int i = 0; i <= lblPos1.UBound(); ++i) {
+    // Of a list that was built while an entry opened, PosTop may hold the screenshots' places instead.
+    for (int i = 0; i <= lblPos1.UBound() && static_cast<std::size_t>(i) < PosTop.size(); ++i) {
       Label& label = lblPos1(i);
       label.Top = ScrolledTop(PosTop[static_cast<std::size_t>(i)], SuwakScale, SuwakPos);
       label.ForeColor = LabelColour(label);
