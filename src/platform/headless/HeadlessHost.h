@@ -61,7 +61,7 @@ class HeadlessHost : public Host {
   };
   std::vector<Pause> sleeps;
 
-  // The script. Places are pixels of the screen.
+  // The script. Places are pixels of the screen, which the mouse does not leave.
   void At(Milliseconds time, std::function<void()> action);
   void After(Milliseconds delay, std::function<void()> action) { At(now_ + delay, std::move(action)); }
   void MoveMouse(Point to);
