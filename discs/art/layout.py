@@ -34,6 +34,14 @@ BUTTONS = {
 }
 PRODUCER = (436, 465, 122, 23)
 
+# The cinema window: its size, the screen's middle, and its buttons.
+CINEMA = (560, 468)
+CINEMA_MIDDLE = (280, 196)
+CINEMA_BUTTONS = {
+    "CPlay": ("Start", 166, 416, 44, 44), "CPause": ("Pauza", 228, 416, 44, 44), "CStop": ("Stop", 290, 416, 44, 44),
+    "CScale": ("Full", 352, 416, 44, 44), "CFScale": ("Small", 352, 416, 44, 44),
+}
+
 PAGE_X = 35  # the shell puts the pages here, in the menu area
 PAGE_WIDTH = 396
 

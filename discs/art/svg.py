@@ -116,14 +116,14 @@ def render(drawing, png, oversampling=OVERSAMPLING):
     return png
 
 
-def gif(png, target, colours=256, dither="FloydSteinberg", crop=None):
-    """Reduces a PNG file to a GIF file; `crop` is the part to take, as x, y, width, height."""
+def gif(png, target, colours=256, dither="FloydSteinberg", crop=None, lossy=0):
+    """Reduces a PNG file to a GIF file; `crop` is the part to take, as x, y, width, height; `lossy` the loss allowed."""
     target = pathlib.Path(target)
     target.parent.mkdir(parents=True, exist_ok=True)
     cut = ["-crop", f"{crop[2]}x{crop[3]}+{crop[0]}+{crop[1]}", "+repage"] if crop else []
     how = ["+dither"] if dither is None else ["-dither", dither]
     run("convert", str(png), *cut, *how, "-colors", str(colours), str(target))
-    run("gifsicle", "-b", "-O3", "--no-comments", str(target))
+    run("gifsicle", "-b", "-O3", "--no-comments", *([f"--lossy={lossy}"] if lossy else []), str(target))
     return target
 
 

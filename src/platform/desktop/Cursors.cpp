@@ -78,16 +78,11 @@ QCursor Drawn(std::span<const char* const> rows, QPoint hotSpot) {
 
 QCursor CursorOf(Pointer pointer) {
   switch (pointer) {
-    case Pointer::Default:
-      break;
-    case Pointer::Hourglass:
-      return Qt::WaitCursor;
-    case Pointer::Hand:
-      return Drawn(kPointingHand, {3, 4});
-    case Pointer::OpenHand:
-      return Drawn(kOpenHand, {8, 7});
-    case Pointer::ClosedHand:
-      return Drawn(kClosedHand, {8, 7});
+    case Pointer::Default: break;
+    case Pointer::Hourglass: return Qt::WaitCursor;
+    case Pointer::Hand: return Drawn(kPointingHand, {3, 4});
+    case Pointer::OpenHand: return Drawn(kOpenHand, {8, 7});
+    case Pointer::ClosedHand: return Drawn(kClosedHand, {8, 7});
   }
   return Qt::ArrowCursor;
 }

@@ -75,6 +75,10 @@ void HeadlessHost::Restore(Form& form) {
 void HeadlessHost::PutOnTop(HeadlessWindow& window, bool activate) {
   std::erase(windows, &window);
   windows.push_back(&window);
+  // A window stands before its owner and takes the activation in its place.
+  for (HeadlessWindow* owned : windows) {
+    if (owned->owner == &window.form && owned->visible) return PutOnTop(*owned, activate);
+  }
   if (activate && window.visible && !window.minimised) SetActive(&window.form);
 }
 
