@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -7,7 +9,10 @@
 #include <optional>
 
 #include "disctool/Commands.h"
+#include "disctool/OutputText.h"
+#include "disctool/Progress.h"
 #include "disctool/desktop/DesktopProbe.h"
+#include "disctool/desktop/Gallery.h"
 
 namespace {
 
@@ -18,6 +23,7 @@ constexpr const char* kDescription =
     "Commands:\n"
     "  check DISC            everything that is wrong with a disc\n"
     "  tree DISC             its menu tree\n"
+    "  gallery DISC OUT      pictures of all that it shows, with a page, in the folder OUT\n"
     "  get DISC SECTION KEY  a setting, as the shell looks it up\n\n"
     "DISC is a folder or a mounted disc.";
 
@@ -52,14 +58,39 @@ int Get(const Request& request, int&, char**) {
   return orvanta::GetCommand(request.Word(1), request.Word(2), request.Word(3), std::cout);
 }
 
+/// Shows progress where somebody can see it.
+template <class Work>
+int WithProgress(const char* title, Work work) {
+  const bool seen = isatty(STDERR_FILENO) != 0;
+  std::optional<orvanta::ProgressBar> bar;
+  if (seen) bar.emplace(std::cerr, title);
+  const std::string problem = work([&bar](std::uintmax_t done, std::uintmax_t all) {
+    if (bar) bar->Show(done, all);
+  });
+  bar.reset();
+  if (problem.empty()) return orvanta::kGood;
+  std::cerr << "orvanta-disc: " << orvanta::Printable(problem) << '\n';
+  return orvanta::kFaults;
+}
+
+int Gallery(const Request& request, int& argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication application(argc, argv);
+  return WithProgress("Painting", [&](const orvanta::Progress& progress) {
+    return orvanta::MakeGallery(request.Word(1), request.Word(2), progress);
+  });
+}
+
 struct Command {
   const char* name;
   int arguments;
   std::array<const char*, 2> options;
   int (*run)(const Request& request, int& argc, char** argv);
 };
-constexpr Command kCommands[] = {
-    {"check", 1, {"json", "strict"}, Check}, {"tree", 1, {"json"}, Tree}, {"get", 3, {}, Get}};
+constexpr Command kCommands[] = {{"check", 1, {"json", "strict"}, Check},
+                                 {"tree", 1, {"json"}, Tree},
+                                 {"get", 3, {}, Get},
+                                 {"gallery", 2, {}, Gallery}};
 
 const Command* FindCommand(const QString& name) {
   for (const Command& command : kCommands)
