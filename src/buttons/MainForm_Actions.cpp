@@ -41,9 +41,7 @@ void MainForm::ButtonM_Click(std::int16_t Index) {
   const bool soundCard = shell_.basCommon.SoundCardOK;
   const bool pagesOpen = PressedButton == -1 || PressedButton == 6;
   switch (Index) {
-    case 0:
-      Unload();
-      break;
+    case 0: Unload(); break;
     case 1:
       if (soundCard) SwitchSound(false);
       break;
@@ -70,11 +68,8 @@ void MainForm::ButtonM_Click(std::int16_t Index) {
       shell_.host.Sleep(kMinimisePause);
       WindowState = kMinimised;
       break;
-    case 9:
-      ShowFilm();
-      break;
-    default:
-      break;
+    case 9: ShowFilm(); break;
+    default: break;
   }
 }
 

@@ -28,7 +28,7 @@ struct FormDesign {
 /// A window of the program. It is loaded hidden, by a `FormSlot`, and destroyed after `Unload`.
 class Form : public PropertyOwner, public Container {
  public:
-  static constexpr int kNormal = 0, kMinimised = 1;               ///< of WindowState
+  static constexpr int kNormal = 0, kMinimised = 1;                  ///< of WindowState
   static constexpr int kDefaultPointer = 0, kHourglassPointer = 11;  ///< of MousePointer
 
   Form(Host& host, const FormDesign& design);

@@ -68,7 +68,8 @@ void Form::MousePressed(Point place, int button) {
   held_ |= button;
   if (!captured_) return;
   const Point inside = place - OriginOf(*captured_);
-  Call(captured_->MouseDown, MouseEvent{button, 0, static_cast<double>(inside.x), static_cast<double>(inside.y)});
+  Call(captured_->MouseDown,
+       MouseEvent{button, 0, static_cast<double>(inside.x), static_cast<double>(inside.y)});
 }
 
 void Form::MouseReleased(Point place, int button, bool mayClick) {

@@ -49,7 +49,7 @@ class MoviePlayer {
   virtual Size FilmSize() = 0;
   /// The film's present picture, null before the first one and for sound.
   virtual PicturePtr Frame() = 0;
-  /// Called on the program's thread, while it takes in input, after `Frame` has changed.
+  /// Called on the program's thread, while it takes in input, after `Frame` has changed. Must not throw.
   std::function<void()> OnFrame;
 };
 

@@ -7,7 +7,8 @@
 namespace orvanta::test {
 namespace {
 
-const std::vector<std::string> kArt = {"ext", "snd1", "snd2", "hlp", "start", "pauza", "stop", "info", "min", "pokaz"};
+const std::vector<std::string> kArt = {"ext",   "snd1", "snd2", "hlp", "start",
+                                       "pauza", "stop", "info", "min", "pokaz"};
 const std::vector<std::string> kKeys = {"ext",   "snd1", "snd2", "hlp", "Start",
                                         "Pauza", "Stop", "Info", "Min", "Pokaz"};
 const std::vector<std::string> kPrefixes = {"Ext",   "Snd1", "Snd2", "Hlp", "Start",

@@ -6,7 +6,9 @@
 
 namespace orvanta {
 
-void HeadlessHost::At(Milliseconds time, std::function<void()> action) { script_.emplace(time, std::move(action)); }
+void HeadlessHost::At(Milliseconds time, std::function<void()> action) {
+  script_.emplace(time, std::move(action));
+}
 
 void HeadlessHost::TakeInput() {
   while (!script_.empty() && script_.begin()->first <= now_) {

@@ -95,8 +95,12 @@ class HeadlessHost : public Host {
   void MsgBox(const std::string& text, int style, const std::string& title) override;
   void Sleep(Milliseconds duration) override;
   PicturePtr LoadPicture(const std::filesystem::path& file) override;
-  void AddFont(const std::filesystem::path& file) override { fonts.push_back("+" + file.filename().string()); }
-  void RemoveFont(const std::filesystem::path& file) override { fonts.push_back("-" + file.filename().string()); }
+  void AddFont(const std::filesystem::path& file) override {
+    fonts.push_back("+" + file.filename().string());
+  }
+  void RemoveFont(const std::filesystem::path& file) override {
+    fonts.push_back("-" + file.filename().string());
+  }
   bool IsSoundCardEnabled() override { return soundCard; }
   std::unique_ptr<MoviePlayer> MakePlayer(MovieKind kind) override;
   int StartFile(const StartRequest& request) override;

@@ -11,7 +11,7 @@ namespace orvanta {
 class HeadlessHost;
 
 /// A window that is only remembered: what it was told, and what was painted on it.
-class HeadlessWindow : public FormWindow {
+class HeadlessWindow final : public FormWindow {
  public:
   HeadlessWindow(HeadlessHost& host, Form& form, WindowKind kind);
   ~HeadlessWindow() override;

@@ -1,0 +1,33 @@
+#include <filesystem>
+#include <string>
+
+#include "config/DiscDrive.h"
+#include "platform/desktop/DesktopHost.h"
+#include "platform/desktop/ProgramFolder.h"
+#include "startup/Shell.h"
+
+namespace {
+
+/// What a user is told who starts the program where there is no disc; empty if there is one.
+std::string MissingDisc(const std::filesystem::path& folder) {
+  const orvanta::DiscDrive drive(folder);
+  if (drive.Find("D:\\Data\\Menu.ini") || drive.Find("D:\\Data\\Param.ini")) return {};
+  return "W folderze\r\n" + folder.string() +
+         "\r\nnie ma płyty: nie znaleziono w nim folderu Data z plikiem Menu.ini albo Param.ini.\r\n\r\n"
+         "Umieść program (albo dowiązanie do niego) w folderze płyty, obok folderu Data, i uruchom go tam.";
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::filesystem::path folder = orvanta::ProgramFolder(argc > 0 ? argv[0] : "");
+  orvanta::DesktopHost host(argc, argv, folder);
+  if (const std::string message = MissingDisc(folder); !message.empty()) {
+    constexpr int kCriticalBox = 16;
+    host.MsgBox(message, kCriticalBox, "Orvanta Shell");
+    return 1;
+  }
+  orvanta::Shell shell(host);
+  shell.Run();
+  return 0;
+}

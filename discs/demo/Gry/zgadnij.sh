@@ -1,0 +1,54 @@
+#!/bin/sh
+# Zgadnij głębokość: gra w okienku (zenity, kdialog) albo w terminalu.
+
+tytul='Zgadnij głębokość'
+
+losuj() {
+    od -An -N2 -tu2 /dev/urandom | awk '{ print 10 + ($1 % 100) * 10 }'
+}
+
+pytaj() {
+    case $okna in
+        zenity) zenity --entry --title="$tytul" --text="$1" ;;
+        kdialog) kdialog --title "$tytul" --inputbox "$1" ;;
+        *) printf '%s ' "$1" >&2; read -r odpowiedz && printf '%s\n' "$odpowiedz" ;;
+    esac
+}
+
+powiedz() {
+    case $okna in
+        zenity) zenity --info --title="$tytul" --text="$1" ;;
+        kdialog) kdialog --title "$tytul" --msgbox "$1" ;;
+        *) printf '%s\n' "$1"; sleep 2 ;;
+    esac
+}
+
+graj() {
+    dno=$(losuj)
+    proba=0
+    wiadomosc='Od 10 do 1000 metrów, co dziesięć. Ile metrów pod stępką?'
+    while metry=$(pytaj "$wiadomosc"); do
+        case $metry in *[!0-9]* | '') wiadomosc='Sonar rozumie tylko liczby. Ile metrów?'; continue ;; esac
+        proba=$((proba + 1))
+        if [ "$metry" -eq "$dno" ]; then
+            powiedz "Stuk! Dno na $dno m, prób: $proba."
+            return
+        elif [ "$metry" -lt "$dno" ]; then
+            wiadomosc="Próba $proba: $metry m to za płytko. Ile metrów?"
+        else
+            wiadomosc="Próba $proba: $metry m to za głęboko. Ile metrów?"
+        fi
+    done
+}
+
+if [ "$1" = --terminal ]; then okna=terminal
+elif command -v zenity >/dev/null; then okna=zenity
+elif command -v kdialog >/dev/null; then okna=kdialog
+else
+    for terminal in x-terminal-emulator xterm konsole gnome-terminal; do
+        command -v "$terminal" >/dev/null && exec "$terminal" -e "$0" --terminal
+    done
+    command -v xmessage >/dev/null && exec xmessage -center "Gra potrzebuje programu zenity, kdialog albo terminala."
+    exit 1
+fi
+graj

@@ -1,0 +1,129 @@
+#include "platform/desktop/DesktopHost.h"
+
+#include <QCursor>
+#include <QImageReader>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTimer>
+#include <algorithm>
+#include <chrono>
+#include <thread>
+#include <utility>
+
+#include "platform/desktop/DesktopWindow.h"
+#include "platform/desktop/GstPlayer.h"
+#include "platform/desktop/QtPicture.h"
+#include "platform/desktop/SoundCard.h"
+#include "platform/desktop/XWindow.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr int kCriticalIcon = 16;
+
+/// Before Qt starts: one pixel of the disc is one of the screen, and windows can say where they stand, which
+/// Wayland alone does not let them.
+int& PreparedForQt(int& argc) {
+  qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
+  qunsetenv("QT_SCALE_FACTOR");
+  qunsetenv("QT_SCREEN_SCALE_FACTORS");
+  const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+  const bool mayChoose = platform.isEmpty() || platform.startsWith("wayland");
+  if (mayChoose && qEnvironmentVariableIsSet("DISPLAY")) qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+  return argc;
+}
+
+}  // namespace
+
+DesktopHost::DesktopHost(int& argc, char** argv, std::filesystem::path discFolder)
+    : application_(PreparedForQt(argc), argv),
+      discFolder_(std::move(discFolder)),
+      instance_(InstanceLock::Acquire(InstancePlaceFromEnvironment())) {
+  application_.setQuitOnLastWindowClosed(false);
+  clock_.start();
+}
+
+Point DesktopHost::ScreenOrigin() const {
+  const QPoint origin = QGuiApplication::primaryScreen()->geometry().topLeft();
+  return {origin.x(), origin.y()};
+}
+
+Size DesktopHost::ScreenSize() const {
+  const QSize size = QGuiApplication::primaryScreen()->geometry().size();
+  return {size.width(), size.height()};
+}
+
+Point DesktopHost::CursorPos() const {
+  if (!cursor_) {
+    const QPoint cursor = QCursor::pos();
+    cursor_ = Point{cursor.x(), cursor.y()} - ScreenOrigin();
+  }
+  return *cursor_;
+}
+
+Form* DesktopHost::ActiveForm() const {
+  const auto* window = dynamic_cast<const DesktopWindow*>(QApplication::activeWindow());
+  return window && !window->isMinimized() ? &window->TheForm() : nullptr;
+}
+
+void DesktopHost::TakeInput() {
+  QCoreApplication::processEvents();
+  cursor_.reset();
+}
+
+void DesktopHost::WaitForQt(Milliseconds deadline) {
+  QTimer wake;
+  if (deadline != kNever) {
+    wake.setSingleShot(true);
+    wake.setTimerType(Qt::PreciseTimer);
+    const Milliseconds left = std::clamp<Milliseconds>(deadline - Now(), 0, 3600 * 1000);
+    wake.start(std::chrono::milliseconds(left));
+  }
+  QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+  cursor_.reset();
+}
+
+std::unique_ptr<FormWindow> DesktopHost::MakeWindow(Form& form, WindowKind kind) {
+  return std::make_unique<DesktopWindow>(*this, form, kind);
+}
+
+void DesktopHost::MsgBox(const std::string& text, int style, const std::string& title) {
+  QMessageBox box(style == kCriticalIcon ? QMessageBox::Critical : QMessageBox::NoIcon,
+                  QString::fromStdString(title), QString::fromStdString(text).remove(QLatin1Char('\r')),
+                  QMessageBox::Ok);
+  box.setTextFormat(Qt::PlainText);
+  box.setWindowModality(Qt::ApplicationModal);
+  box.show();
+  const EventLoop::Modal modal(Loop(), nullptr);
+  Loop().RunUntil([&box] { return !box.isVisible(); });
+}
+
+void DesktopHost::Sleep(Milliseconds duration) {
+  FlushToScreen();
+  cursor_.reset();
+  std::this_thread::sleep_for(std::chrono::milliseconds(std::max<Milliseconds>(0, duration)));
+}
+
+PicturePtr DesktopHost::LoadPicture(const std::filesystem::path& file) {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(file, error)) return nullptr;
+  QImageReader reader(QString::fromStdString(file.string()));
+  // A disc's names say little about what is in a file.
+  reader.setDecideFormatFromContent(true);
+  QPixmap pixels = QPixmap::fromImageReader(&reader);
+  return pixels.isNull() ? nullptr : std::make_shared<QtPicture>(std::move(pixels));
+}
+
+bool DesktopHost::IsSoundCardEnabled() { return orvanta::IsSoundCardEnabled(); }
+
+std::unique_ptr<MoviePlayer> DesktopHost::MakePlayer(MovieKind kind) { return MakeGstPlayer(kind); }
+
+int DesktopHost::StartFile(const StartRequest& request) {
+  FileLookup::Result result = FileLookup::Result::FolderMissing;
+  if (request.status == StartRequest::Status::Found) result = FileLookup::Result::Found;
+  if (request.status == StartRequest::Status::FileMissing) result = FileLookup::Result::FileMissing;
+  return programs_.Start({request.name, result, request.file}, request.parameters, ShowMode::Normal);
+}
+
+}  // namespace orvanta

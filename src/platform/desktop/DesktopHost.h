@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <filesystem>
+#include <memory>
+#include <optional>
+
+#include "platform/Host.h"
+#include "platform/desktop/Fonts.h"
+#include "platform/desktop/InstanceLock.h"
+#include "platform/desktop/ProgramStart.h"
+
+namespace orvanta {
+
+/// The host that people use: windows, pictures and text by Qt, sound and film by GStreamer.
+///
+/// Qt takes in and paints only while the event loop asks for it, and hands everything on to the loop's queue:
+/// no handler of the shell ever runs, and nothing is thrown, inside a call from Qt.
+class DesktopHost : public Host {
+ public:
+  /// `discFolder` is the root of the drive, absolute. The arguments are Qt's to read.
+  DesktopHost(int& argc, char** argv, std::filesystem::path discFolder);
+
+  /// Where the primary screen lies among all of them; every place of the program counts from there.
+  Point ScreenOrigin() const;
+  /// Lets Qt wait for an event, to `deadline` at the longest, and handle it.
+  void WaitForQt(Milliseconds deadline);
+
+  Milliseconds Now() override { return clock_.elapsed(); }
+  void TakeInput() override;
+  void WaitForInput(Milliseconds deadline) override { WaitForQt(deadline); }
+  std::string AppPath() const override { return "D:\\"; }
+  std::filesystem::path DriveRoot() const override { return discFolder_; }
+  bool PrevInstance() const override { return !instance_; }
+  Size ScreenSize() const override;
+  Point CursorPos() const override;
+  Form* ActiveForm() const override;
+  std::unique_ptr<FormWindow> MakeWindow(Form& form, WindowKind kind) override;
+  void MsgBox(const std::string& text, int style, const std::string& title) override;
+  void Sleep(Milliseconds duration) override;
+  PicturePtr LoadPicture(const std::filesystem::path& file) override;
+  void AddFont(const std::filesystem::path& file) override { fonts_.Add(file); }
+  void RemoveFont(const std::filesystem::path& file) override { fonts_.Remove(file); }
+  bool IsSoundCardEnabled() override;
+  std::unique_ptr<MoviePlayer> MakePlayer(MovieKind kind) override;
+  int StartFile(const StartRequest& request) override;
+
+ private:
+  const ProgramStart programs_;  // before Qt's variables are set: started programs get none of them
+  QApplication application_;
+  const std::filesystem::path discFolder_;
+  const std::optional<InstanceLock> instance_;
+  PrivateFonts fonts_;
+  QElapsedTimer clock_;
+  // Asking the server takes its time, and between two looks at the input nothing is seen to move.
+  mutable std::optional<Point> cursor_;
+};
+
+}  // namespace orvanta

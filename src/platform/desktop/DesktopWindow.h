@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QRegion>
+#include <QWidget>
+
+#include "platform/Form.h"
+#include "platform/FormWindow.h"
+
+namespace orvanta {
+
+class DesktopHost;
+
+/// A form's window: one plain widget that is painted by the form.
+class DesktopWindow : public QWidget, public FormWindow {
+ public:
+  DesktopWindow(DesktopHost& host, Form& form, WindowKind kind);
+
+  Form& TheForm() const { return form_; }
+  /// How often the widget was painted.
+  int PaintCount() const { return paints_; }
+
+  void SetPlace(const Rect& place) override;
+  void SetShape(const Region& shape) override;
+  void SetCaption(const std::string& caption) override;
+  void SetPointer(Pointer pointer) override;
+  void SetOwner(Form& owner) override;
+  void SetVisible(bool visible) override;
+  void SetMinimised(bool minimised) override;
+  void Raise() override;
+  void Invalidate(const Rect& area) override;
+  void PaintNow() override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void Post(FormEvent::Kind kind, Point place = {}, int button = 0);
+  void PostMouse(FormEvent::Kind kind, const QMouseEvent& event, int button);
+  void ShowNow();
+
+  DesktopHost& host_;
+  Form& form_;
+  const WindowKind kind_;
+  Rect place_;
+  QRegion dirty_;
+  bool wasMinimised_ = false;
+  int paints_ = 0;
+};
+
+}  // namespace orvanta

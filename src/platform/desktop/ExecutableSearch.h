@@ -1,0 +1,13 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string_view>
+
+namespace orvanta {
+
+/// The first program called `name` in the folders of `searchPath` (`$PATH`: separated by colons, an empty one
+/// is the current folder). A name with a slash is looked at where it stands and nowhere else.
+std::optional<std::filesystem::path> FindExecutable(std::string_view name, std::string_view searchPath);
+
+}  // namespace orvanta

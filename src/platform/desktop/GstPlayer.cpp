@@ -1,0 +1,111 @@
+#include "platform/desktop/GstPlayer.h"
+
+#include <QObject>
+#include <algorithm>
+#include <utility>
+
+#include "platform/desktop/FrameBox.h"
+#include "platform/desktop/GstPlayback.h"
+
+namespace orvanta {
+namespace {
+
+constexpr std::chrono::milliseconds kOpenPatience{250};
+
+class GstPlayer : public MoviePlayer {
+ public:
+  explicit GstPlayer(MovieKind kind) : kind_(kind) {}
+  ~GstPlayer() override { Close(); }
+
+  void Open(const std::filesystem::path& file) override;
+  void Run() override;
+  void Pause() override;
+  void Stop() override;
+  MovieState State() override;
+  bool Loaded() override { return playback_ && playback_->Loaded(); }
+  double Position() override { return playback_ ? playback_->Position() : 0; }
+  void SetPosition(double seconds) override;
+  double Length() override { return playback_ ? playback_->Length() : 0; }
+  int Volume() override { return settings_.volume; }
+  void SetVolume(int hundredthsOfDecibel) override;
+  void SetPlayCount(int count) override;
+  Size FilmSize() override;
+  PicturePtr Frame() override { return frames_ ? frames_->Newest() : nullptr; }
+
+ private:
+  void Begin();
+  void Close();
+
+  const MovieKind kind_;
+  QObject receiver_;
+  GstPlayback::Settings settings_;
+  std::filesystem::path file_;
+  bool hadFile_ = false;  ///< A file has been loaded at some time before the present one.
+  FrameBoxPtr frames_;
+  std::unique_ptr<GstPlayback> playback_;
+};
+
+void GstPlayer::Open(const std::filesystem::path& file) {
+  file_ = file;
+  Begin();
+  playback_->AwaitFirstData(kOpenPatience);
+}
+
+void GstPlayer::Begin() {
+  Close();
+  frames_ = std::make_shared<FrameBox>(receiver_, [this] {
+    if (OnFrame) OnFrame();
+  });
+  playback_ = std::make_unique<GstPlayback>(kind_, file_, settings_, frames_);
+}
+
+void GstPlayer::Close() {
+  hadFile_ = hadFile_ || Loaded();
+  if (frames_) frames_->Close();
+  playback_.reset();
+}
+
+void GstPlayer::Run() {
+  if (!playback_) return;
+  if (!playback_->Failed()) return playback_->Run();
+  if (playback_->Loaded()) Begin();  // a file that was lost while it played may be back
+}
+
+void GstPlayer::Pause() {
+  if (playback_ && !playback_->Failed()) playback_->Pause();
+}
+
+void GstPlayer::Stop() {
+  if (playback_ && !playback_->Failed()) playback_->Stop();
+}
+
+MovieState GstPlayer::State() {
+  if (!playback_) return MovieState::NoFile;
+  const MovieState state = playback_->State();
+  return state == MovieState::NoFile && hadFile_ ? MovieState::Stopped : state;
+}
+
+void GstPlayer::SetPosition(double seconds) {
+  if (playback_ && !playback_->Failed()) playback_->SetPosition(seconds);
+}
+
+void GstPlayer::SetVolume(int hundredthsOfDecibel) {
+  settings_.volume = std::clamp(hundredthsOfDecibel, -10000, 0);
+  if (playback_) playback_->Apply(settings_);
+}
+
+void GstPlayer::SetPlayCount(int count) {
+  settings_.playCount = std::max(1, count);
+  if (playback_) playback_->Apply(settings_);
+}
+
+Size GstPlayer::FilmSize() {
+  const PicturePtr picture = Loaded() ? Frame() : nullptr;
+  return picture ? picture->PixelSize() : Size{};
+}
+
+}  // namespace
+
+std::unique_ptr<MoviePlayer> MakeGstPlayer(MovieKind kind) { return std::make_unique<GstPlayer>(kind); }
+
+}  // namespace orvanta
