@@ -14,6 +14,7 @@
 #include "disctool/desktop/DesktopProbe.h"
 #include "disctool/desktop/DiscCache.h"
 #include "disctool/desktop/Gallery.h"
+#include "disctool/desktop/NewDisc.h"
 #include "disctool/desktop/OpenCommand.h"
 
 namespace {
@@ -27,7 +28,8 @@ constexpr const char* kDescription =
     "  check DISC            everything that is wrong with a disc\n"
     "  tree DISC             its menu tree\n"
     "  gallery DISC OUT      pictures of all that it shows, with a page, in the folder OUT\n"
-    "  get DISC SECTION KEY  a setting, as the shell looks it up\n\n"
+    "  get DISC SECTION KEY  a setting, as the shell looks it up\n"
+    "  new DIR               a small complete disc to start from\n\n"
     "DISC is a folder, a mounted disc or an ISO 9660 image, which is unpacked once.";
 
 /// What the user asked for.
@@ -125,11 +127,18 @@ struct Command {
   std::array<const char*, 2> options;
   int (*run)(const Request& request, int& argc, char** argv);
 };
+int New(const Request& request, int& argc, char** argv) {
+  const QGuiApplication application(PreparedForNoDisplay(argc), argv);
+  const std::string problem = orvanta::MakeNewDisc(request.Word(1));
+  return problem.empty() ? orvanta::kGood : Failure(problem);
+}
+
 constexpr Command kCommands[] = {{"open", 1, {"clear-cache"}, Open},
                                  {"check", 1, {"json", "strict"}, Check},
                                  {"tree", 1, {"json"}, Tree},
                                  {"gallery", 2, {}, Gallery},
-                                 {"get", 3, {}, Get}};
+                                 {"get", 3, {}, Get},
+                                 {"new", 1, {}, New}};
 
 const Command* FindCommand(const QString& name) {
   for (const Command& command : kCommands)
