@@ -26,6 +26,7 @@ class Entry:
     size: str
     note: str
     more: str
+    scale: float = 1.28  # of its portrait
 
 
 ENTRIES = [
@@ -72,11 +73,11 @@ ENTRIES = [
     Entry("Krab yeti", "Kiwa hirsuta", "krab", creatures.yeti_crab, 2200, 2300, "do 15 cm",
           "Odkryty w 2005 roku przy kominach na południu Pacyfiku. Na włochatych szczypcach hoduje bakterie i kołysze nimi "
           "nad ciepłą wodą, żeby ogród dobrze rósł. Potem go zjada.",
-          "Taniec z uniesionymi szczypcami to nie powitanie, lecz nawożenie."),
+          "Taniec z uniesionymi szczypcami to nie powitanie, lecz nawożenie.", 1.06),
     Entry("Koszyczek Wenery", "Euplectella aspergillum", "gabka", creatures.glass_sponge, 100, 1000, "do 30 cm",
           "Gąbka, która plecie się ze szkła. Jej włókna przewodzą światło lepiej niż kable w naszej kabinie, a krata wytrzymuje więcej, "
           "niż pozwalają obliczenia. W środku mieszka para krewetek.",
-          "Krewetki wchodzą tam młode, rosną i zostają na zawsze; w Japonii daje się ją nowożeńcom."),
+          "Krewetki wchodzą tam młode, rosną i zostają na zawsze; w Japonii daje się ją nowożeńcom.", 1.06),
     Entry("Kaszalot", "Physeter macrocephalus", "kaszalot", creatures.sperm_whale, 0, 2000, "do 18 m",
           "Jedyny w atlasie, który oddycha tym samym co my. Wstrzymuje oddech na godzinę, schodzi dwa kilometry w dół i stuka głośniej "
           "niż młot w stoczni. Tak widzi w ciemności.",
@@ -84,7 +85,7 @@ ENTRIES = [
     Entry("Strzykwa pływająca", "Enypniastes eximia", "strzykwa", creatures.sea_cucumber, 500, 5000, "do 25 cm",
           "Przezroczysta i różowa, widać przez nią wczorajszą kolację. Gdy dno się znudzi, odpycha się i płynie, falując welonem. "
           "Dotknięta, zostawia na napastniku świecącą skórę.",
-          "Złapany złodziej świeci potem przez całą noc i wszyscy wiedzą, kto to zrobił."),
+          "Złapany złodziej świeci potem przez całą noc i wszyscy wiedzą, kto to zrobił.", 1.06),
 ]
 
 
@@ -105,7 +106,7 @@ def plate(entry, number):
     body = f"""<rect width="{W}" height="{H}" fill="url(#water)"/>{light}{glow}
 <g filter="url(#blur1)">{scenes.ridge(W, 430, 110, number + 3, bottom, 9, .7)}</g>
 {scenes.snow(W, H - 60, 90, number)}
-<g transform="translate(322,206) scale(1.28)">{entry.drawing()}</g>
+<g transform="translate(322,206) scale({entry.scale})">{entry.drawing()}</g>
 {parts.bubbles(60 if number % 2 else 520, 60, 40, 240, 12, number)}
 {scenes.ridge(W, 436, 34, number + 9, "#010a0e", 12)}
 <rect width="{W}" height="{H}" fill="url(#dim)"/>

@@ -54,17 +54,17 @@ def walk(t):
     vessel_y = 34 + 5 * math.sin(t * 16)
     fish_x = -150 + 330 * _between(t, .25, .98)
     fish_y = 128 + 6 * math.sin(t * 24)
-    far, near = -60 * t, -210 * t
+    far, near = 80 * t - 110, 300 * t - 330  # the bed falls behind as the vessel goes left
     lx, ly = scenes.lamp(vessel_x, vessel_y, .52)
     in_beam = max(0, 1 - abs(fish_x + 60 - (lx - 110)) / 120)
-    smokers = "".join(scenes.chimney(x, 236, height, width, seed) for x, height, width, seed in ((90, 84, 40, 3), (150, 52, 30, 6), (330, 110, 46, 9), (420, 70, 36, 2), (520, 90, 40, 5)))
+    smokers = "".join(scenes.chimney(x, 236, height, width, seed) for x, height, width, seed in ((90, 84, 40, 3), (150, 52, 30, 6), (330, 110, 46, 9), (420, 70, 36, 2), (520, 90, 40, 5), (600, 60, 34, 8)))
     body = f"""<rect width="{W}" height="{H}" fill="url(#deepSea)"/>
 <g transform="translate({far:.1f},0)" filter="url(#blur1)">{scenes.ridge(460, 214, 90, 5, "#0b3b47", 12, .7)}</g>
 {scenes.beam(round(lx, 1), round(ly, 1), 190, 56, 150 + 5 * math.sin(t * 12), .95)}
 <g transform="translate({fish_x + 60:.1f},{fish_y:.1f}) scale(-.34,.34) rotate({3 * math.sin(t * 50):.1f}) skewY({2 * math.sin(t * 44):.1f})">{creatures.coelacanth()}</g>
 <g opacity="{.75 * (1 - in_beam):.2f}" transform="translate({fish_x + 60:.1f},{fish_y:.1f}) scale(-.34,.34) rotate({3 * math.sin(t * 50):.1f}) skewY({2 * math.sin(t * 44):.1f})"><g transform="translate(-190,-88) scale(1.72)" fill="#04222b"><path d="{parts.COELACANTH_BODY}"/>{"".join(f'<path d="{d}"/>' for d in parts.COELACANTH_FINS)}</g></g>
 {scenes.vessel(round(vessel_x, 1), round(vessel_y, 1), .52)}
-<g transform="translate({near:.1f},0)">{smokers}{scenes.ridge(620, 244, 34, 21, "#020f14", 22)}</g>
+<g transform="translate({near:.1f},0)">{smokers}{scenes.ridge(680, 244, 34, 21, "#020f14", 22)}</g>
 {_drift(t, 60, 4)}
 {_title(t, .03, .24, ((72, "SPACER PO DNIE", 20, svg.PLATE), (94, "film z pokładu Latimerii", 11, svg.LEGEND)))}
 {_title(t, .86, 1.05, ((206, "Koniec wachty", 15, svg.PLATE),))}{_curtain(t)}"""
@@ -96,7 +96,7 @@ def light(t):
 {lamps}
 <g transform="translate({angler_x:.1f},{96 + 6 * math.sin(t * 14):.1f}) scale(.42)"><g opacity="{.35 + .65 * seen:.2f}">{creatures.angler()}</g></g>
 <g transform="translate({74 + 10 * math.sin(t * 8):.1f},{jelly_y:.1f}) scale({.36 / pulse:.3f},{.36 * pulse:.3f})">{creatures.jellyfish()}</g>
-<g transform="translate({squid_x:.1f},{188 + 5 * math.sin(t * 18):.1f}) scale(-.34,.34)" opacity="{.3 + .7 * flash:.2f}">{creatures.squid()}</g>
+<g transform="translate({squid_x:.1f},{172 + 5 * math.sin(t * 18):.1f}) scale(-.34,.34)" opacity="{.3 + .7 * flash:.2f}">{creatures.squid()}</g>
 {_drift(t, 40, 9, 12)}
 {_title(t, .03, .2, ((116, "ŚWIATŁO W MROKU", 19, svg.PLATE), (138, "tysiąc metrów pod stępką", 11, svg.LEGEND)))}
 {_title(t, .84, 1.05, ((222, "...i wszyscy się widzą.", 14, svg.PLATE),))}{_curtain(t)}"""

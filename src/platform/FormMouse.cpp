@@ -47,6 +47,9 @@ void Form::MouseMoved(Point place, int held) {
   cursor_ = place;
   cursorInside_ = true;
   pointerStale_ = true;
+  // A release that came while a modal form was open has not been told.
+  held_ &= held;
+  if (held_ == 0) captured_ = nullptr;
   Control* target = captured_ ? captured_ : ControlAt(place);
   if (!target) return;
   const Point inside = place - OriginOf(*target);

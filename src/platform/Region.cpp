@@ -40,10 +40,10 @@ Region Region::Ellipse(const Rect& box) {
   Region region;
   const double a = box.width / 2.0, b = box.height / 2.0;
   for (int y = 0; y < box.height; ++y) {
-    const double dy = (y + 0.5 - b) / b;
+    const double dy = (y - b) / b;
     const double half = a * std::sqrt(std::max(0.0, 1 - dy * dy));
-    const Run run{box.left + static_cast<int>(std::ceil(a - half - 0.5)),
-                  box.left + static_cast<int>(std::floor(a + half - 0.5)) + 1};
+    const Run run{box.left + static_cast<int>(std::ceil(a - half)),
+                  box.left + static_cast<int>(std::ceil(a + half))};
     if (run.left < run.right) region.rows_.push_back({box.top + y, {run}});
   }
   return region;

@@ -6,7 +6,7 @@ namespace orvanta {
 
 class Form;
 
-/// The outline of the main window: a polygon with five tabs, two rectangles and an ellipse, 267029 pixels in
+/// The outline of the main window: a polygon with five tabs, two rectangles and an ellipse, 267024 pixels in
 /// a window of 667 by 496.
 Region BuildFormRegion();
 

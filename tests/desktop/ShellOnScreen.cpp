@@ -49,7 +49,7 @@ ShellOnScreen::ShellOnScreen() : behind_(WholeScreen(screen_), kBehind) {
   disc_.Picture("tlo.gif", 472, 309, kArea);
   disc_.Picture("kreska.gif", 472, 33, kLineStrip);
   disc_.Picture("startpic.gif", 64, 45, kStart);
-  disc_.Picture("under.gif", 64, 3, kUnder);
+  disc_.Picture("under.gif", 640, 30, kUnder);
   disc_.Picture("left.gif", 10, 80, kLeft);
   disc_.Picture("upper.gif", 204, 6, kUpper);
   for (const std::string right : {"right1.gif", "right2.gif", "right3.gif"})
@@ -121,7 +121,8 @@ Rect ShellOnScreen::LabelBox(int index, bool top) {
 
 void ShellOnScreen::Choose(int index, bool top) const {
   PointAt(MiddleOf(LabelBox(index, top)));
-  std::this_thread::sleep_for(120ms);
+  screen_.Rest();
+  screen_.Rest();
   ClickMain(MiddleOf(LabelBox(index, top)));
 }
 

@@ -84,17 +84,21 @@ TEST_F(Windows, TheOutlineIsTheWindow) {
   EXPECT_EQ(Differs(place, mask), "") << "the window reaches beyond its outline";
   EXPECT_EQ(kMainSize.width * kMainSize.height -
                 screen_.See(place).Count({0, 0, kMainSize.width, kMainSize.height}, kBehind),
-            267024);
+            267029);
 
-  behind_.Clicks();
-  ClickMain({0, 0});
-  ClickMain({666, 495});
+  for (const Point corner : {Point{0, 0}, Point{666, 495}}) {
+    std::vector<Point> clicks = behind_.Clicks();
+    ClickMain(corner);
+    EXPECT_TRUE(Soon([&] { return !(clicks = behind_.Clicks()).empty(); }));
+    EXPECT_EQ(clicks, std::vector<Point>{InMain(corner)});
+    // The click has lifted the window behind.
+    screen_.Activate(Main());
+    EXPECT_TRUE(Soon([&] { return PixelOfMain({300, 200}) == kArea; }));
+  }
   ClickMain({300, 5});  // on the top tab
-  EXPECT_TRUE(Soon([&] { return screen_.Active() == Main(); }));
-  const std::vector<Point> clicks = behind_.Clicks();
-  ASSERT_EQ(clicks.size(), 2U);
-  EXPECT_EQ(clicks[0], InMain(Point{0, 0}));
-  EXPECT_EQ(clicks[1], InMain(Point{666, 495}));
+  ClickMain(MiddleOf(ButtonBox(0)));
+  EXPECT_EQ(program_->Ended(), 0);
+  EXPECT_TRUE(behind_.Clicks().empty());
 }
 
 // Faults: strips that rise alone or not at all, a main window that stays below or inactive.
@@ -105,15 +109,14 @@ TEST_F(Windows, AClickOnAStripLiftsTheWholeGroup) {
   ASSERT_EQ(screen_.Pixel({512, 300}), 0x808000U);
   screen_.Click({10, 300});  // on the left strip
   EXPECT_TRUE(Soon([&] { return screen_.Active() == Main(); }));
-  EXPECT_TRUE(Soon([&] { return screen_.Windows().back() == Main(); }));
-  std::vector<WindowId> order = screen_.Windows();
-  ASSERT_EQ(order.size(), 8U);
-  EXPECT_EQ(order[1], other.Id()) << "it should be below all six, above the one behind";
-  EXPECT_EQ(screen_.PlaceOf(order[2]).top, 273);
-  EXPECT_EQ(screen_.PlaceOf(order[3]).top, 0);
-  EXPECT_EQ(screen_.PlaceOf(order[4]).top, 560);
-  EXPECT_EQ(screen_.PlaceOf(order[5]).top, 505);
-  EXPECT_EQ(screen_.PlaceOf(order[6]).top, 450);
+  const auto tops = [&] {
+    std::vector<int> found;
+    for (const WindowId window : screen_.Windows())
+      if (window != behind_.Id()) found.push_back(window == other.Id() ? -1 : screen_.PlaceOf(window).top);
+    return found;
+  };
+  const std::vector<int> lifted{-1, 273, 0, 560, 505, 450, 136};
+  EXPECT_TRUE(Soon([&] { return tops() == lifted; })) << testing::PrintToString(tops());
   EXPECT_EQ(screen_.Pixel({512, 300}), kArea);
 }
 
@@ -122,6 +125,7 @@ TEST_F(Windows, AClickOnAStripLiftsTheWholeGroup) {
 TEST_F(Windows, MinimisingTakesTheStripsAlongAndRestoringBringsThemBack) {
   Start();
   for (int round = 0; round < 2; ++round) {
+    SCOPED_TRACE(round);
     PointAt(MiddleOf(ButtonBox(8)));
     EXPECT_TRUE(Soon([&] { return PixelOfMain(MiddleOf(ButtonBox(8))) == ButtonColour(8, 1); }));
     ClickMain(MiddleOf(ButtonBox(8)));

@@ -35,8 +35,10 @@ class Cinema : public ::testing::Test {
   void Aside() { user.host.MoveMouse({212 + 590, 159 + 440}); }
   /// The latch, the player's state, and how play, stop and pause look.
   std::string State() {
-    std::string text = std::to_string(Kino().PressedButton) + "/" + std::to_string(Kino().AM0.CurrentState()) + " ";
-    for (const int i : {kPlay, kStop, kPause}) text += Shown(Button(i)).substr(Shown(Button(i)).size() - 5, 1);
+    std::string text =
+        std::to_string(Kino().PressedButton) + "/" + std::to_string(Kino().AM0.CurrentState()) + " ";
+    for (const int i : {kPlay, kStop, kPause})
+      text += Shown(Button(i)).substr(Shown(Button(i)).size() - 5, 1);
     return text;
   }
 
@@ -83,7 +85,8 @@ TEST_F(Cinema, PausesAndPlaysOn) {
             EXPECT_DOUBLE_EQ(Kino().AM0.CurrentPosition(), held);
             Click(kPlay);
           }},
-         {300, [&] {
+         {300,
+          [&] {
             EXPECT_EQ(State(), "0/2 200");
             EXPECT_NEAR(Kino().AM0.CurrentPosition(), held + 0.3, 0.05);
             Click(kPlay);
@@ -174,7 +177,9 @@ TEST_F(Cinema, ASecondFilmStartsAfresh) {
             EXPECT_EQ(State(), "0/2 200");
             EXPECT_GE(Kino().AM0.Left(), Kino().Width());
           }},
-         {600, [&] { EXPECT_EQ(Kino().AM0.Bounds(), (Rect{140, 80, 320, 240})); }}});
+         {600, [&] {
+            EXPECT_EQ(Kino().AM0.Bounds(), (Rect{140, 80, 320, 240}));
+          }}});
 }
 
 TEST_F(Cinema, HoversWithItsOwnPlaceOnTheScreenAndLeavesTheMainWindowAlone) {

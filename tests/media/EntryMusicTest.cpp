@@ -26,7 +26,8 @@ class EntryMusic : public ::testing::Test {
   }
   /// The latch, the player's state and how the three buttons look: 0 normal, 1 over, 2 pressed.
   std::string State() {
-    std::string text = std::to_string(Main().PressedButton) + "/" + std::to_string(Player().CurrentState()) + " ";
+    std::string text =
+        std::to_string(Main().PressedButton) + "/" + std::to_string(Player().CurrentState()) + " ";
     for (const int i : {kStart, kPauza, kStop}) {
       const std::string look = Shown(Main().ButtonM(i));
       text += look.substr(look.size() - 5, 1);

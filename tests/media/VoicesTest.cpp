@@ -69,7 +69,8 @@ TEST(Voices, TheVoiceTakesTheMusicsPlayerAndTheBarStaysSafe) {
   user.host.After(400, [&] { latch = user.Main().PressedButton; });
   // The voice runs on the player that these two drive.
   for (const int button : {5, 6}) {
-    user.host.After(500 + button * 100, [&user, button] { user.host.Click(user.MiddleOf(user.Main().ButtonM(button))); });
+    user.host.After(500 + button * 100,
+                    [&user, button] { user.host.Click(user.MiddleOf(user.Main().ButtonM(button))); });
   }
   user.host.After(1500, [&] { user.host.Click(user.MiddleOf(user.Main().ButtonM(0))); });
   user.Click(user.Main().ButtonM(0));

@@ -71,14 +71,19 @@ TEST_F(Detail, ShowsItsFixedPlacesAndColours) {
   user.Click(Main().imgBack);
   const auto strokes = user.host.WindowOf(Main()).Look().strokes;
   const auto named = [](const char* text) { return [text](const Stroke& s) { return s.text == text; }; };
-  const auto over = std::find_if(std::find_if(strokes.begin(), strokes.end(), named("Pentium 90")), strokes.end(),
-                                 named("tlo.gif"));
+  const auto over = std::find_if(std::find_if(strokes.begin(), strokes.end(), named("Pentium 90")),
+                                 strokes.end(), named("tlo.gif"));
   EXPECT_NE(over, strokes.end()) << "the list is painted over it";
 }
 
 TEST_F(Detail, EveryKindHasItsButtonsAndOnlyMusicAMarker) {
-  for (const auto& [playAs, music] : {std::pair{"MUSIC", true}, {"music", true}, {"mUsIc", true}, {"MUSIC ", true},
-                                      {"MUSICAL", false}, {"avi", false}, {"0", false}}) {
+  for (const auto& [playAs, music] : {std::pair{"MUSIC", true},
+                                      {"music", true},
+                                      {"mUsIc", true},
+                                      {"MUSIC ", true},
+                                      {"MUSICAL", false},
+                                      {"avi", false},
+                                      {"0", false}}) {
     EntryDisc entries;
     entries.Set("Piosenka", "PlayAs", playAs);
     TestShell shell(entries);
@@ -102,7 +107,8 @@ TEST_F(Detail, OpensUnderTheHourglassWithItsTextsBeforeItsPictures) {
   user.Start();
   bool hourglass = false;
   user.host.OnSleep = [&] {
-    if (Main().AM2.CurrentState() == ActiveMovie::kPaused) hourglass = Main().MousePointer == Form::kHourglassPointer;
+    if (Main().AM2.CurrentState() == ActiveMovie::kPaused)
+      hourglass = Main().MousePointer == Form::kHourglassPointer;
   };
   user.Choose(EntryDisc::kMusic);
   EXPECT_TRUE(hourglass) << "the second in which the music falls silent";

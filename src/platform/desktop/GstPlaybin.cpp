@@ -15,11 +15,30 @@ constexpr guint kPlayAudio = 0x2;
 // A slow drive may take its time over the first data; nobody waits for it but the player's own thread.
 constexpr std::chrono::hours kPrerollPatience{1};
 constexpr std::chrono::seconds kSeekPatience{2};
+constexpr std::chrono::milliseconds kLookRound{250};
 constexpr GstClockTime kSettlePatience = GST_SECOND;
 
 std::optional<double> Seconds(gboolean known, gint64 nanoseconds) {
   if (!known || nanoseconds < 0) return std::nullopt;
   return static_cast<double>(nanoseconds) / static_cast<double>(GST_SECOND);
+}
+
+gboolean NoteTask(GstElement*, GstPad* pad, gpointer runs) {
+  if (gst_pad_get_task_state(pad) == GST_TASK_STARTED) *static_cast<bool*>(runs) = true;
+  return TRUE;
+}
+
+void NoteTasks(const GValue* element, gpointer runs) {
+  gst_element_foreach_pad(GST_ELEMENT(g_value_get_object(element)), NoteTask, runs);
+}
+
+/// False if nothing in there is reading or waiting for what is read.
+bool TasksRun(GstElement* bin) {
+  bool runs = false;
+  GstIterator* elements = gst_bin_iterate_recurse(GST_BIN(bin));
+  const bool looked = gst_iterator_foreach(elements, NoteTasks, &runs) == GST_ITERATOR_DONE;
+  gst_iterator_free(elements);
+  return runs || !looked;
 }
 
 }  // namespace
@@ -64,7 +83,7 @@ void GstPlaybin::Ready() {
 }
 
 bool GstPlaybin::Preroll() {
-  if (!playbin_ || uri_.empty()) return false;
+  if (!playbin_ || uri_.empty() || news_.Take().abandoned) return false;
   const auto change = gst_element_set_state(playbin_.get(), GST_STATE_PAUSED);
   if (change == GST_STATE_CHANGE_ASYNC) return AwaitData(kPrerollPatience);
   return change != GST_STATE_CHANGE_FAILURE;
@@ -98,8 +117,15 @@ std::optional<double> GstPlaybin::Duration() const {
 }
 
 bool GstPlaybin::AwaitData(std::chrono::milliseconds patience) {
-  const NewsBox::News news = news_.Await(patience);
-  return (news.dataReady || news.ended) && !news.noDecoder && !news.failed;
+  int idle = 0;
+  for (std::chrono::milliseconds waited{0}; waited < patience && idle < 2; waited += kLookRound) {
+    const NewsBox::News news = news_.Await(kLookRound);
+    if (news.failed || news.noDecoder || news.abandoned) return false;
+    if (news.dataReady || news.ended) return true;
+    // A broken file can lose its report on the way: the demuxer fails while it is still being put in place.
+    idle = TasksRun(playbin_.get()) ? 0 : idle + 1;
+  }
+  return false;
 }
 
 /// True if what is missing is what this player is for; subtitles or a cover may be left out.

@@ -20,8 +20,8 @@ bool IsWave(const std::filesystem::path& file) {
 }  // namespace
 
 std::string MediaUri(const std::filesystem::path& file) {
-  std::error_code error;  // an empty path has no absolute one
-  const std::string absolute = std::filesystem::absolute(file, error).string();
+  std::error_code noFile;
+  const std::string absolute = std::filesystem::absolute(file, noFile).string();
   const GstHandle<char> encoded(g_filename_to_uri(absolute.c_str(), nullptr, nullptr));
   if (!encoded) return {};
   // Read by random access, a sound of an odd number of bytes or with a few bytes after it ends at once and
