@@ -7,8 +7,10 @@
 #include <xcb/xtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <stdexcept>
+#include <thread>
 
 namespace orvanta::test {
 
@@ -151,7 +153,20 @@ void Screen::Click(Point place, int button) const {
   MoveMouse(place);
   Press(button);
   Release(button);
+  Rest();
 }
+
+void Screen::Drag(Point from, Point to) const {
+  MoveMouse(from);
+  Press();
+  Rest();
+  MoveMouse(to);
+  Rest();
+  Release();
+}
+
+// Window managers hold a press back while they look at it; a hand that moves on meanwhile would drag.
+void Screen::Rest() const { std::this_thread::sleep_for(std::chrono::milliseconds(60)); }
 
 void Screen::PressReturn() const {
   constexpr std::uint8_t kReturn = 36;  // on the keyboard that Xvfb has

@@ -69,6 +69,9 @@ class Screen {
   void Press(int button = 1) const;
   void Release(int button = 1) const;
   void Click(Point place, int button = 1) const;
+  /// Presses at one place and releases at another, at a hand's pace.
+  void Drag(Point from, Point to) const;
+  void Rest() const;  ///< long enough for a tick of the program
   void PressReturn() const;
   /// What a task bar does when its entry is clicked.
   void Activate(WindowId window) const;

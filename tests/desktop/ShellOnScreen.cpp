@@ -121,7 +121,8 @@ Rect ShellOnScreen::LabelBox(int index, bool top) {
 
 void ShellOnScreen::Choose(int index, bool top) const {
   PointAt(MiddleOf(LabelBox(index, top)));
-  std::this_thread::sleep_for(120ms);
+  screen_.Rest();
+  screen_.Rest();
   ClickMain(MiddleOf(LabelBox(index, top)));
 }
 

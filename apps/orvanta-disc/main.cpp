@@ -1,0 +1,199 @@
+#include <unistd.h>
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <algorithm>
+#include <array>
+#include <iostream>
+#include <optional>
+
+#include "disctool/Commands.h"
+#include "disctool/OutputText.h"
+#include "disctool/Progress.h"
+#include "disctool/desktop/DesktopProbe.h"
+#include "disctool/desktop/DiscCache.h"
+#include "disctool/desktop/Gallery.h"
+#include "disctool/desktop/NewDisc.h"
+#include "disctool/desktop/OpenCommand.h"
+
+namespace {
+
+using orvanta::kMisuse;
+
+constexpr const char* kDescription =
+    "Opens, checks and archives discs for Orvanta Shell.\n\n"
+    "Commands:\n"
+    "  open DISC             starts the shell with a disc\n"
+    "  check DISC            everything that is wrong with a disc\n"
+    "  tree DISC             its menu tree\n"
+    "  gallery DISC OUT      pictures of all that it shows, with a page, in the folder OUT\n"
+    "  get DISC SECTION KEY  a setting, as the shell looks it up\n"
+    "  new DIR               a small complete disc to start from\n\n"
+    "DISC is a folder, a mounted disc or an ISO 9660 image, which is unpacked once.";
+
+/// What the user asked for.
+struct Request {
+  QStringList words;  // the command, then its arguments
+  QStringList options;
+
+  std::string Word(qsizetype i) const { return words.at(i).toStdString(); }
+  bool Has(const char* option) const { return options.contains(QLatin1String(option)); }
+};
+
+int Misuse(const QString& message) {
+  std::cerr << "orvanta-disc: " << message.toStdString() << "\nTry 'orvanta-disc --help'.\n";
+  return kMisuse;
+}
+
+int Failure(const std::string& problem) {
+  std::cerr << "orvanta-disc: " << orvanta::Printable(problem) << '\n';
+  return orvanta::kFaults;
+}
+
+/// Calls `work` with a progress bar where somebody can see one.
+template <class Work>
+auto WithProgress(const char* title, Work work) {
+  std::optional<orvanta::ProgressBar> bar;
+  if (isatty(STDERR_FILENO) != 0) bar.emplace(std::cerr, title);
+  return work([&bar](std::uintmax_t done, std::uintmax_t all) {
+    if (bar) bar->Show(done, all);
+  });
+}
+
+/// Calls `work` with the folder of the disc that the user has named; an image is unpacked for it.
+template <class Work>
+int WithDisc(const Request& request, Work work) {
+  const orvanta::OpenedDisc disc = WithProgress("Unpacking", [&](const orvanta::Progress& progress) {
+    return orvanta::DiscCache().Open(request.Word(1), progress);
+  });
+  return disc.problem.empty() ? work(disc.folder) : Failure(disc.problem);
+}
+
+/// Qt's opinions on the machine are no part of what a command has to say.
+void Silent(QtMsgType, const QMessageLogContext&, const QString&) {}
+
+/// Before Qt starts: pictures and fonts need no display.
+int& PreparedForNoDisplay(int& argc) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(Silent);
+  return argc;
+}
+
+int Open(const Request& request, int& argc, char** argv) {
+  if (request.Has("clear-cache")) {
+    if (const std::string problem = orvanta::DiscCache().Clear(); !problem.empty()) return Failure(problem);
+    if (request.words.size() == 1) return orvanta::kGood;
+  }
+  return WithDisc(request, [&](const std::filesystem::path& folder) {
+    const std::string problem = orvanta::RunShell(folder, argc, argv);
+    return problem.empty() ? orvanta::kGood : Failure(problem);
+  });
+}
+
+int Check(const Request& request, int& argc, char** argv) {
+  return WithDisc(request, [&](const std::filesystem::path& folder) -> int {
+    const QGuiApplication application(PreparedForNoDisplay(argc), argv);
+    orvanta::DesktopProbe probe;
+    return orvanta::CheckCommand(folder, probe, {request.Has("json"), request.Has("strict")}, std::cout);
+  });
+}
+
+int Tree(const Request& request, int&, char**) {
+  return WithDisc(request, [&](const std::filesystem::path& folder) -> int {
+    return orvanta::TreeCommand(folder, request.Has("json"), std::cout, std::cerr);
+  });
+}
+
+int Gallery(const Request& request, int& argc, char** argv) {
+  return WithDisc(request, [&](const std::filesystem::path& folder) {
+    const QGuiApplication application(PreparedForNoDisplay(argc), argv);
+    const std::string problem = WithProgress("Painting", [&](const orvanta::Progress& progress) {
+      return orvanta::MakeGallery(folder, request.Word(2), progress);
+    });
+    return problem.empty() ? orvanta::kGood : Failure(problem);
+  });
+}
+
+int Get(const Request& request, int&, char**) {
+  return WithDisc(request, [&](const std::filesystem::path& folder) -> int {
+    return orvanta::GetCommand(folder, request.Word(2), request.Word(3), std::cout);
+  });
+}
+
+struct Command {
+  const char* name;
+  int arguments;
+  std::array<const char*, 2> options;
+  int (*run)(const Request& request, int& argc, char** argv);
+};
+int New(const Request& request, int& argc, char** argv) {
+  const QGuiApplication application(PreparedForNoDisplay(argc), argv);
+  const std::string problem = orvanta::MakeNewDisc(request.Word(1));
+  return problem.empty() ? orvanta::kGood : Failure(problem);
+}
+
+constexpr Command kCommands[] = {{"open", 1, {"clear-cache"}, Open},
+                                 {"check", 1, {"json", "strict"}, Check},
+                                 {"tree", 1, {"json"}, Tree},
+                                 {"gallery", 2, {}, Gallery},
+                                 {"get", 3, {}, Get},
+                                 {"new", 1, {}, New}};
+
+const Command* FindCommand(const QString& name) {
+  for (const Command& command : kCommands)
+    if (name == QLatin1String(command.name)) return &command;
+  return nullptr;
+}
+
+bool Takes(const Command& command, const QString& option) {
+  return std::ranges::any_of(command.options,
+                             [&](const char* one) { return one && option == QLatin1String(one); });
+}
+
+int Dispatch(const Request& request, int& argc, char** argv) {
+  if (request.words.isEmpty()) return Misuse("a command is missing");
+  const Command* command = FindCommand(request.words.first());
+  if (!command) return Misuse("there is no command '" + request.words.first() + "'");
+  const bool onlyClears = request.Has("clear-cache") && request.words.size() == 1;
+  if (request.words.size() != 1 + command->arguments && !onlyClears)
+    return Misuse(QString("'%1' takes %2 argument(s)").arg(command->name).arg(command->arguments));
+  for (const QString& option : request.options)
+    if (!Takes(*command, option))
+      return Misuse(QString("'%1' has no option --%2").arg(command->name, option));
+  return command->run(request, argc, argv);
+}
+
+/// Nothing if the arguments have been answered already, by `status`.
+std::optional<Request> Parse(int& argc, char** argv, int& status) {
+  // The parser asks it for the arguments; the command makes an application of its own kind.
+  QCoreApplication application(argc, argv);
+  QCoreApplication::setApplicationName("orvanta-disc");
+  QCoreApplication::setApplicationVersion(ORVANTA_VERSION);
+  QCommandLineParser parser;
+  parser.setApplicationDescription(kDescription);
+  const QCommandLineOption help = parser.addHelpOption(), version = parser.addVersionOption();
+  parser.addOption({"json", "Write for machines (check, tree)."});
+  parser.addOption({"clear-cache", "Remove the unpacked copies of images first (open)."});
+  parser.addOption({"strict", "Warnings count as faults too (check)."});
+  parser.addPositionalArgument("command", "What to do.", "COMMAND");
+  parser.addPositionalArgument("arguments", "What to do it with.", "[ARGUMENT...]");
+  status = 0;
+  if (!parser.parse(QCoreApplication::arguments())) return status = Misuse(parser.errorText()), std::nullopt;
+  if (parser.isSet(version)) return std::cout << "orvanta-disc " ORVANTA_VERSION "\n", std::nullopt;
+  if (parser.isSet(help)) return std::cout << parser.helpText().toStdString(), std::nullopt;
+  return Request{parser.positionalArguments(), parser.optionNames()};
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  int status = 0;
+  const std::optional<Request> request = Parse(argc, argv, status);
+  if (!request) return status;
+  // Qt would take some of the command's words for its own.
+  argc = 1;
+  status = Dispatch(*request, argc, argv);
+  std::cout.flush();
+  return std::cout ? status : orvanta::kFaults;
+}
