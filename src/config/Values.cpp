@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <string>
 
 #include "config/Windows1250.h"
@@ -38,19 +39,24 @@ bool IsTiny(std::string_view number) {
 }
 
 template <class Real>
-Real NumberOf(std::string_view text) {
+std::optional<Real> Parsed(std::string_view text) {
   std::string number(Trimmed(text));
   // Keeps out the words and the hexadecimal digits that std::from_chars would take.
-  if (number.find_first_not_of("0123456789+-.,eE") != number.npos) return 0;
+  if (number.find_first_not_of("0123456789+-.,eE") != number.npos) return std::nullopt;
   std::replace(number.begin(), number.end(), ',', '.');
   if (number.starts_with('+') && !number.starts_with("+-")) number.erase(0, 1);
   Real value = 0;
   const char* end = number.data() + number.size();
   const auto [stop, error] = std::from_chars(number.data(), end, value);
-  if (stop != end || error == std::errc::invalid_argument) return 0;
+  if (stop != end || error == std::errc::invalid_argument) return std::nullopt;
   if (error != std::errc::result_out_of_range) return value;
-  if (IsTiny(number)) return 0;
+  if (IsTiny(number)) return Real{0};
   return number.starts_with('-') ? std::numeric_limits<Real>::lowest() : std::numeric_limits<Real>::max();
+}
+
+template <class Real>
+Real NumberOf(std::string_view text) {
+  return Parsed<Real>(text).value_or(Real{0});
 }
 
 }  // namespace
@@ -66,5 +72,7 @@ std::int32_t ColourOf(std::string_view text) { return CLng(NumberOf<double>(text
 bool BooleanOf(std::string_view text) {
   return EqualNoCase(Trimmed(text), "True") || NumberOf<double>(text) != 0.0;
 }
+
+bool IsNumber(std::string_view text) { return Parsed<double>(text).has_value(); }
 
 }  // namespace orvanta

@@ -20,4 +20,7 @@ std::int32_t ColourOf(std::string_view text);
 /// "True" and "False" in any case, or a number, of which only 0 is false. Anything else is false.
 bool BooleanOf(std::string_view text);
 
+/// The text is a number by the rules above; what is none counts as 0.
+bool IsNumber(std::string_view text);
+
 }  // namespace orvanta

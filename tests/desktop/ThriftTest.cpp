@@ -74,8 +74,10 @@ TEST_F(Thrift, TheFirstWindowIsThereSoon) {
     bare.Lessen(UntilTheFirstWindow(ORVANTA_BARE_WINDOW, picture));
     ours.Lessen(UntilTheFirstWindow(disc_.Folder() / "orvanta", picture));
   }
-  RecordProperty("bare", std::to_string(bare.clock) + " s, processor " + std::to_string(bare.processor) + " s");
-  RecordProperty("ours", std::to_string(ours.clock) + " s, processor " + std::to_string(ours.processor) + " s");
+  RecordProperty("bare",
+                 std::to_string(bare.clock) + " s, processor " + std::to_string(bare.processor) + " s");
+  RecordProperty("ours",
+                 std::to_string(ours.clock) + " s, processor " + std::to_string(ours.processor) + " s");
   // The clock depends on what else the machine does, so it only tells of a wait that does not belong there.
   EXPECT_LE(ours.processor, 1.5 * bare.processor);
   EXPECT_LE(ours.clock, bare.clock + 0.2);
@@ -133,9 +135,11 @@ TEST_F(Thrift, OpeningAnEntryCostsLittleMoreThanItsPictures) {
   const auto decoding = [&] {
     timespec begin{}, end{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &begin);
-    for (int i = 0; i < 6; ++i) EXPECT_FALSE(QImageReader(QString::fromStdString(art.string())).read().isNull());
+    for (int i = 0; i < 6; ++i)
+      EXPECT_FALSE(QImageReader(QString::fromStdString(art.string())).read().isNull());
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &end);
-    return static_cast<double>(end.tv_sec - begin.tv_sec) + static_cast<double>(end.tv_nsec - begin.tv_nsec) / 1e9;
+    return static_cast<double>(end.tv_sec - begin.tv_sec) +
+           static_cast<double>(end.tv_nsec - begin.tv_nsec) / 1e9;
   };
   double pictures = 1, dots = 1, alone = 1;
   for (int round = 0; round < 4; ++round) {
@@ -145,7 +149,8 @@ TEST_F(Thrift, OpeningAnEntryCostsLittleMoreThanItsPictures) {
   }
   RecordProperty("opening", std::to_string(pictures - dots));
   RecordProperty("decoding", std::to_string(alone));
-  EXPECT_LE(pictures - dots, 1.3 * alone) << pictures << " s less " << dots << " s, against " << alone << " s";
+  EXPECT_LE(pictures - dots, 1.3 * alone)
+      << pictures << " s less " << dots << " s, against " << alone << " s";
 }
 
 }  // namespace

@@ -109,6 +109,13 @@ void TestDisc::Set(const std::string& section, const std::string& key, const std
   Write();
 }
 
+std::string TestDisc::Value(const std::string& section, const std::string& key) const {
+  for (const Line& line : lines_) {
+    if (line.section == section && line.key == key) return line.value;
+  }
+  return {};
+}
+
 void TestDisc::Remove(const std::string& section, const std::string& key) {
   std::erase_if(lines_, [&](const Line& line) { return line.section == section && line.key == key; });
   Write();

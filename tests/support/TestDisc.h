@@ -38,6 +38,7 @@ class TestDisc {
   /// Writes any file below the disc's folder.
   void File(const std::string& path, const std::string& bytes);
 
+  std::string Value(const std::string& section, const std::string& key) const;
   /// Section and key of everything that stands in Menu.ini now.
   std::vector<std::pair<std::string, std::string>> Keys() const;
 

@@ -62,7 +62,7 @@ class HeadlessHost : public Host {
   std::vector<Pause> sleeps;
   std::function<void()> OnSleep;  ///< called as a sleep begins, to see what stands on the screen during it
 
-  // The script. Places are pixels of the screen.
+  // The script. Places are pixels of the screen, which the mouse does not leave.
   void At(Milliseconds time, std::function<void()> action);
   void After(Milliseconds delay, std::function<void()> action) { At(now_ + delay, std::move(action)); }
   void MoveMouse(Point to);

@@ -31,7 +31,7 @@ void HeadlessHost::PostMouse(FormEvent::Kind kind, int button) {
 }
 
 void HeadlessHost::MoveMouse(Point to) {
-  mouse_ = to;
+  mouse_ = {std::clamp(to.x, 0, screen.width - 1), std::clamp(to.y, 0, screen.height - 1)};
   PostMouse(FormEvent::Kind::MouseMove, held_);
 }
 

@@ -1,0 +1,149 @@
+#include <unistd.h>
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <algorithm>
+#include <array>
+#include <iostream>
+#include <optional>
+
+#include "disctool/Commands.h"
+#include "disctool/OutputText.h"
+#include "disctool/Progress.h"
+#include "disctool/desktop/DesktopProbe.h"
+#include "disctool/desktop/Gallery.h"
+
+namespace {
+
+using orvanta::kMisuse;
+
+constexpr const char* kDescription =
+    "Opens, checks and archives discs for Orvanta Shell.\n\n"
+    "Commands:\n"
+    "  check DISC            everything that is wrong with a disc\n"
+    "  tree DISC             its menu tree\n"
+    "  gallery DISC OUT      pictures of all that it shows, with a page, in the folder OUT\n"
+    "  get DISC SECTION KEY  a setting, as the shell looks it up\n\n"
+    "DISC is a folder or a mounted disc.";
+
+/// What the user asked for.
+struct Request {
+  QStringList words;  // the command, then its arguments
+  QStringList options;
+
+  std::string Word(qsizetype i) const { return words.at(i).toStdString(); }
+  bool Has(const char* option) const { return options.contains(QLatin1String(option)); }
+};
+
+int Misuse(const QString& message) {
+  std::cerr << "orvanta-disc: " << message.toStdString() << "\nTry 'orvanta-disc --help'.\n";
+  return kMisuse;
+}
+
+int Check(const Request& request, int& argc, char** argv) {
+  // Pictures and fonts are tried without a display.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication application(argc, argv);
+  orvanta::DesktopProbe probe;
+  return orvanta::CheckCommand(request.Word(1), probe, {request.Has("json"), request.Has("strict")},
+                               std::cout);
+}
+
+int Tree(const Request& request, int&, char**) {
+  return orvanta::TreeCommand(request.Word(1), request.Has("json"), std::cout, std::cerr);
+}
+
+int Get(const Request& request, int&, char**) {
+  return orvanta::GetCommand(request.Word(1), request.Word(2), request.Word(3), std::cout);
+}
+
+/// Shows progress where somebody can see it.
+template <class Work>
+int WithProgress(const char* title, Work work) {
+  const bool seen = isatty(STDERR_FILENO) != 0;
+  std::optional<orvanta::ProgressBar> bar;
+  if (seen) bar.emplace(std::cerr, title);
+  const std::string problem = work([&bar](std::uintmax_t done, std::uintmax_t all) {
+    if (bar) bar->Show(done, all);
+  });
+  bar.reset();
+  if (problem.empty()) return orvanta::kGood;
+  std::cerr << "orvanta-disc: " << orvanta::Printable(problem) << '\n';
+  return orvanta::kFaults;
+}
+
+int Gallery(const Request& request, int& argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication application(argc, argv);
+  return WithProgress("Painting", [&](const orvanta::Progress& progress) {
+    return orvanta::MakeGallery(request.Word(1), request.Word(2), progress);
+  });
+}
+
+struct Command {
+  const char* name;
+  int arguments;
+  std::array<const char*, 2> options;
+  int (*run)(const Request& request, int& argc, char** argv);
+};
+constexpr Command kCommands[] = {{"check", 1, {"json", "strict"}, Check},
+                                 {"tree", 1, {"json"}, Tree},
+                                 {"get", 3, {}, Get},
+                                 {"gallery", 2, {}, Gallery}};
+
+const Command* FindCommand(const QString& name) {
+  for (const Command& command : kCommands)
+    if (name == QLatin1String(command.name)) return &command;
+  return nullptr;
+}
+
+bool Takes(const Command& command, const QString& option) {
+  return std::ranges::any_of(command.options,
+                             [&](const char* one) { return one && option == QLatin1String(one); });
+}
+
+int Dispatch(const Request& request, int& argc, char** argv) {
+  if (request.words.isEmpty()) return Misuse("a command is missing");
+  const Command* command = FindCommand(request.words.first());
+  if (!command) return Misuse("there is no command '" + request.words.first() + "'");
+  if (request.words.size() != 1 + command->arguments)
+    return Misuse(QString("'%1' takes %2 argument(s)").arg(command->name).arg(command->arguments));
+  for (const QString& option : request.options)
+    if (!Takes(*command, option))
+      return Misuse(QString("'%1' has no option --%2").arg(command->name, option));
+  return command->run(request, argc, argv);
+}
+
+/// Nothing if the arguments have been answered already, by `status`.
+std::optional<Request> Parse(int& argc, char** argv, int& status) {
+  // The parser asks it for the arguments; the command makes an application of its own kind.
+  QCoreApplication application(argc, argv);
+  QCoreApplication::setApplicationName("orvanta-disc");
+  QCoreApplication::setApplicationVersion(ORVANTA_VERSION);
+  QCommandLineParser parser;
+  parser.setApplicationDescription(kDescription);
+  const QCommandLineOption help = parser.addHelpOption(), version = parser.addVersionOption();
+  parser.addOption({"json", "Write for machines (check, tree)."});
+  parser.addOption({"strict", "Warnings count as faults too (check)."});
+  parser.addPositionalArgument("command", "What to do.", "COMMAND");
+  parser.addPositionalArgument("arguments", "What to do it with.", "[ARGUMENT...]");
+  status = 0;
+  if (!parser.parse(QCoreApplication::arguments())) return status = Misuse(parser.errorText()), std::nullopt;
+  if (parser.isSet(version)) return std::cout << "orvanta-disc " ORVANTA_VERSION "\n", std::nullopt;
+  if (parser.isSet(help)) return std::cout << parser.helpText().toStdString(), std::nullopt;
+  return Request{parser.positionalArguments(), parser.optionNames()};
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  int status = 0;
+  const std::optional<Request> request = Parse(argc, argv, status);
+  if (!request) return status;
+  // Qt would take some of the command's words for its own.
+  argc = 1;
+  status = Dispatch(*request, argc, argv);
+  std::cout.flush();
+  return std::cout ? status : orvanta::kFaults;
+}

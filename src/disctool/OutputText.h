@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace orvanta {
+
+/// The text with its control characters written as \x1B and the like, so that no disc can send commands to a
+/// terminal. Bytes that are no UTF-8 are written the same way.
+std::string Printable(std::string_view utf8);
+
+/// The text as a JSON string, quotes included. Bytes that are no UTF-8 become U+FFFD.
+std::string JsonText(std::string_view utf8);
+
+/// The text with the characters escaped that HTML gives a meaning.
+std::string HtmlText(std::string_view utf8);
+
+}  // namespace orvanta

@@ -1,0 +1,53 @@
+#include "disctool/desktop/DesktopProbe.h"
+
+#include <gst/pbutils/pbutils.h>
+
+#include <QFontDatabase>
+#include <QImageReader>
+#include <memory>
+
+#include "platform/desktop/MediaUri.h"
+
+namespace orvanta {
+namespace {
+
+struct Unref {
+  void operator()(void* object) const { g_object_unref(object); }
+};
+template <class Object>
+using Owned = std::unique_ptr<Object, Unref>;
+
+struct FreeStreams {
+  void operator()(GList* streams) const { gst_discoverer_stream_info_list_free(streams); }
+};
+using Streams = std::unique_ptr<GList, FreeStreams>;
+
+}  // namespace
+
+std::optional<Size> DesktopProbe::PictureSize(const std::filesystem::path& file) {
+  QImageReader reader(QString::fromStdString(file.string()));
+  reader.setDecideFormatFromContent(true);
+  const QImage picture = reader.read();
+  if (picture.isNull()) return std::nullopt;
+  return Size{picture.width(), picture.height()};
+}
+
+bool DesktopProbe::IsFont(const std::filesystem::path& file) {
+  const int id = QFontDatabase::addApplicationFont(QString::fromStdString(file.string()));
+  if (id >= 0) QFontDatabase::removeApplicationFont(id);
+  return id >= 0;
+}
+
+bool DesktopProbe::CanPlay(const std::filesystem::path& file, bool film) {
+  if (!gst_is_initialized() && !gst_init_check(nullptr, nullptr, nullptr)) return false;
+  const Owned<GstDiscoverer> discoverer(gst_discoverer_new(10 * GST_SECOND, nullptr));
+  if (!discoverer) return false;
+  const Owned<GstDiscovererInfo> info(
+      gst_discoverer_discover_uri(discoverer.get(), MediaUri(file).c_str(), nullptr));
+  if (!info || gst_discoverer_info_get_result(info.get()) != GST_DISCOVERER_OK) return false;
+  const Streams video(gst_discoverer_info_get_video_streams(info.get()));
+  const Streams audio(gst_discoverer_info_get_audio_streams(info.get()));
+  return video || (audio && !film);
+}
+
+}  // namespace orvanta

@@ -1,0 +1,63 @@
+#include "disctool/desktop/GalleryHost.h"
+
+#include <QImageReader>
+#include <QPainter>
+
+#include "platform/desktop/PainterCanvas.h"
+#include "platform/desktop/QtPicture.h"
+
+namespace orvanta {
+
+namespace {
+
+class SilentPlayer : public MoviePlayer {
+ public:
+  void Open(const std::filesystem::path&) override {}
+  void Run() override {}
+  void Pause() override {}
+  void Stop() override {}
+  MovieState State() override { return MovieState::NoFile; }
+  bool Loaded() override { return false; }
+  double Position() override { return 0; }
+  void SetPosition(double) override {}
+  double Length() override { return 0; }
+  int Volume() override { return 0; }
+  void SetVolume(int) override {}
+  void SetPlayCount(int) override {}
+  Size FilmSize() override { return {}; }
+  PicturePtr Frame() override { return nullptr; }
+};
+
+}  // namespace
+
+std::unique_ptr<MoviePlayer> GalleryHost::MakePlayer(MovieKind) { return std::make_unique<SilentPlayer>(); }
+
+PicturePtr GalleryHost::LoadPicture(const std::filesystem::path& file) {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(file, error)) return nullptr;
+  QImageReader reader(QString::fromStdString(file.string()));
+  reader.setDecideFormatFromContent(true);
+  QPixmap pixels = QPixmap::fromImageReader(&reader);
+  return pixels.isNull() ? nullptr : std::make_shared<QtPicture>(std::move(pixels));
+}
+
+QImage GalleryHost::PictureOf(const Form& form) const {
+  const Rect area = form.ClientArea();
+  QImage picture(area.width, area.height, QImage::Format_ARGB32_Premultiplied);
+  if (picture.isNull()) return picture;
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  PainterCanvas canvas(painter);
+  form.Paint(canvas, area);
+  const auto& shape = WindowOf(form).shape;
+  if (!shape) return picture;
+  painter.end();
+  QImage shaped(picture.size(), picture.format());
+  shaped.fill(Qt::transparent);
+  QPainter cutter(&shaped);
+  for (const Rect& part : shape->Rects())
+    cutter.drawImage(part.left, part.top, picture, part.left, part.top, part.width, part.height);
+  return shaped;
+}
+
+}  // namespace orvanta
