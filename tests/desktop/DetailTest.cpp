@@ -12,8 +12,8 @@ namespace {
 class Detail : public ShellOnScreen {
  protected:
   using Clock = std::chrono::steady_clock;
-  static constexpr Rect kNote{113, 184, 269, 177}, kRequirements{113, 392, 268, 18}, kSystem{117, 409, 261, 34},
-      kFrame{388, 184, 161, 259};
+  static constexpr Rect kNote{113, 184, 269, 177}, kRequirements{113, 392, 268, 18},
+      kSystem{117, 409, 261, 34}, kFrame{388, 184, 161, 259};
   static constexpr Rgb kWhite = 0xFFFFFF, kDarkBlue = 0x000080;
   static constexpr Point kBackMark{515, 110};
 
@@ -43,7 +43,8 @@ class Detail : public ShellOnScreen {
     Look outside(kMainSize.width, kMainSize.height, Look::kAnything);
     const Region outline = BuildFormRegion();
     for (const Rect& part : outline.Rects())
-      for (int x = part.left; x < part.Right(); ++x) outside.Fill({x, part.top, 1, 1}, expected.At(x, part.top));
+      for (int x = part.left; x < part.Right(); ++x)
+        outside.Fill({x, part.top, 1, 1}, expected.At(x, part.top));
     return Differs(InMain(Rect{0, 0, kMainSize.width, kMainSize.height}), outside);
   }
 
@@ -189,7 +190,7 @@ TEST_F(Detail, ScreenshotsAreScrolledAndOpened) {
   EXPECT_EQ(screen_.Active(), window);
 
   screen_.Click({viewer.left + 250, viewer.top + 208});  // its caption
-  ClickMain(MiddleOf(ButtonBox(0)));                      // the main window takes no clicks meanwhile
+  ClickMain(MiddleOf(ButtonBox(0)));                     // the main window takes no clicks meanwhile
   screen_.Rest();
   EXPECT_TRUE(program_->Runs());
   EXPECT_TRUE(screen_.IsMapped(window));
@@ -200,8 +201,8 @@ TEST_F(Detail, ScreenshotsAreScrolledAndOpened) {
   Leave();
 }
 
-// Faults: an hourglass that burns the processor, stays for ever or is gone before the started program's window
-// is there.
+// Faults: an hourglass that burns the processor, stays for ever or is gone before the started program's
+// window is there.
 TEST_F(Detail, TheHourglassStandsUntilAnotherWindowIsActive) {
   disc_.Menu("MAINMENU", {"Program"});
   Entry("Program", "Execute", "%:\\gra.sh");

@@ -111,7 +111,9 @@ TEST_F(Menu, TheSliderIsDragged) {
   const CursorLook open = screen_.Cursor();
   EXPECT_EQ(open.height, 32);
   screen_.Press();
-  EXPECT_TRUE(Soon([&] { return screen_.Cursor().argb != open.argb && screen_.Cursor().hotSpot == Point{8, 7}; }));
+  EXPECT_TRUE(Soon([&] {
+    return screen_.Cursor().argb != open.argb && screen_.Cursor().hotSpot == Point{8, 7};
+  }));
 
   const auto inkAt = [&](int top, Rgb colour) {
     return screen_.See(InMain(Rect{110, 140 + top, 200, 26})).Count({0, 0, 200, 26}, colour);
@@ -127,8 +129,9 @@ TEST_F(Menu, TheSliderIsDragged) {
   EXPECT_EQ(knobAt(240), "");
   EXPECT_TRUE(Soon([&] { return inkAt(283, kWhite) > 8; })) << "label 19 ends at the area's bottom: in view";
   screen_.Release();
-  EXPECT_TRUE(Soon([&] { return screen_.Cursor().argb != open.argb && screen_.Cursor().hotSpot != Point{8, 7}; }))
-      << "the closed hand stays after a release elsewhere";
+  EXPECT_TRUE(Soon([&] {
+    return screen_.Cursor().argb != open.argb && screen_.Cursor().hotSpot != Point{8, 7};
+  })) << "the closed hand stays after a release elsewhere";
   PointAt({300, 300});
   EXPECT_EQ(knobAt(240), "") << "the knob is still held";
 

@@ -16,8 +16,8 @@ OtherWindow::OtherWindow(const Rect& place, Rgb colour) {
   xcb_create_window(connection, XCB_COPY_FROM_PARENT, window_, screen_.Root(),
                     static_cast<std::int16_t>(place.left), static_cast<std::int16_t>(place.top),
                     static_cast<std::uint16_t>(place.width), static_cast<std::uint16_t>(place.height), 0,
-                    XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_BACK_PIXEL | XCB_CW_EVENT_MASK,
-                    values.data());
+                    XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
+                    XCB_CW_BACK_PIXEL | XCB_CW_EVENT_MASK, values.data());
   // No frame (Motif's window manager hints, which every window manager reads) and a place of its own choice
   // (ICCCM, WM_NORMAL_HINTS, USPosition).
   const std::array<std::uint32_t, 5> bare{2, 0, 0, 0, 0};

@@ -7,6 +7,7 @@
 
 #include <csignal>
 #include <ctime>
+#include <fstream>
 #include <stdexcept>
 
 #include "desktop/ForkedShell.h"
@@ -59,6 +60,12 @@ double Program::Processor() const {
   timespec used{};
   if (clock_getcpuclockid(pid_, &clock) != 0 || clock_gettime(clock, &used) != 0) return -1;
   return static_cast<double>(used.tv_sec) + static_cast<double>(used.tv_nsec) / 1e9;
+}
+
+double Program::MainThread() const {
+  double nanoseconds = -1;
+  std::ifstream("/proc/" + std::to_string(pid_) + "/schedstat") >> nanoseconds;
+  return nanoseconds / 1e9;
 }
 
 }  // namespace orvanta::test

@@ -27,6 +27,8 @@ class Program {
   std::string Printed() const;
   /// Processor time of all its threads, in seconds.
   double Processor() const;
+  /// The same of its main thread alone.
+  double MainThread() const;
 
  private:
   pid_t pid_ = -1;

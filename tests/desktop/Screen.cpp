@@ -70,17 +70,18 @@ Look Screen::See(const Rect& area) const {
 }
 
 CursorLook Screen::Cursor() const {
-  const auto reply = Owned(xcb_xfixes_get_cursor_image_reply(
-      Connection(), xcb_xfixes_get_cursor_image(Connection()), nullptr));
+  const auto reply = Owned(
+      xcb_xfixes_get_cursor_image_reply(Connection(), xcb_xfixes_get_cursor_image(Connection()), nullptr));
   if (!reply) return {};
   const std::uint32_t* data = xcb_xfixes_get_cursor_image_cursor_image(reply.get());
-  return {reply->width, reply->height, {reply->xhot, reply->yhot}, {data, data + reply->width * reply->height}};
+  return {
+      reply->width, reply->height, {reply->xhot, reply->yhot}, {data, data + reply->width * reply->height}};
 }
 
 std::uint32_t Screen::Atom(const std::string& name) const {
   const auto reply = Owned(xcb_intern_atom_reply(
-      Connection(),
-      xcb_intern_atom(Connection(), 0, static_cast<std::uint16_t>(name.size()), name.c_str()), nullptr));
+      Connection(), xcb_intern_atom(Connection(), 0, static_cast<std::uint16_t>(name.size()), name.c_str()),
+      nullptr));
   return reply ? reply->atom : 0;
 }
 
@@ -183,7 +184,8 @@ void Screen::Tell(WindowId window, const std::string& message, std::uint32_t fir
   event.type = Atom(message);
   event.data.data32[0] = first;
   event.data.data32[1] = second;
-  xcb_send_event(Connection(), 0, root_, XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+  xcb_send_event(Connection(), 0, root_,
+                 XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
                  reinterpret_cast<const char*>(&event));
   xcb_flush(Connection());
 }
@@ -194,7 +196,8 @@ void Screen::Close(WindowId window) const { Tell(window, "_NET_CLOSE_WINDOW", 0,
 
 void Screen::WatchDrawing(WindowId window) {
   DrawingSeen();
-  xcb_damage_create(Connection(), xcb_generate_id(Connection()), window, XCB_DAMAGE_REPORT_LEVEL_RAW_RECTANGLES);
+  xcb_damage_create(Connection(), xcb_generate_id(Connection()), window,
+                    XCB_DAMAGE_REPORT_LEVEL_RAW_RECTANGLES);
   // The whole window is reported as drawn when the watch begins.
   Extent();
   DrawingSeen();

@@ -19,8 +19,8 @@ bool Soon(const std::function<bool()>& happened);
 
 /// The real program on a real display, before a window of another program that covers the whole screen.
 ///
-/// The disc is silent, and everything that is to be told apart on the screen has a colour of its own. Whatever
-/// a test does, the program must not print a word.
+/// The disc is silent, and everything that is to be told apart on the screen has a colour of its own.
+/// Whatever a test does, the program must not print a word.
 class ShellOnScreen : public testing::Test {
  protected:
   static constexpr Rgb kMain = 0x203040, kArea = 0x304830, kLineStrip = 0x605020, kStart = 0x900030,

@@ -20,18 +20,25 @@ class Thrift : public ShellOnScreen {
  protected:
   const fs::path demo_ = fs::path(ORVANTA_SOURCE_DIR) / "discs/demo/Data";
 
-  /// From the start of a program to its first window, the best of several.
-  double TimeToTheFirstWindow(const std::string& command, const std::vector<std::string>& environment) {
-    double best = 100;
-    for (int round = 0; round < 5; ++round) {
-      const Screen watcher;
-      watcher.WatchAppearances();
-      const auto begin = Clock::now();
-      const Program program(command, "/", environment);
-      EXPECT_TRUE(watcher.AwaitAppearance());
-      best = std::min(best, Seconds(Clock::now() - begin));
+  /// What lies between the start of a program and its first window, in seconds.
+  struct Beginning {
+    double clock = 100, processor = 100;
+    void Lessen(const Beginning& other) {
+      clock = std::min(clock, other.clock);
+      processor = std::min(processor, other.processor);
     }
-    return best;
+  };
+  Beginning UntilTheFirstWindow(const std::string& command, const std::string& picture) const {
+    // The window manager may not be done with the window before.
+    EXPECT_TRUE(Soon([&] { return screen_.Windows().size() == 1; }));
+    const Screen watcher;
+    watcher.WatchAppearances();
+    const auto begin = Clock::now();
+    const Program program(command, "/", {"PICTURE=" + picture});
+    EXPECT_TRUE(watcher.AwaitAppearance());
+    const Beginning result{Seconds(Clock::now() - begin), program.MainThread()};
+    EXPECT_TRUE(Soon([&] { return screen_.Windows().size() == 2; }));
+    return result;
   }
 };
 
@@ -43,10 +50,13 @@ TEST_F(Thrift, AtRestNothingIsPaintedAndTheProcessorSleeps) {
   std::this_thread::sleep_for(std::chrono::milliseconds(500));
   std::vector<Screen> watchers(Windows().size());
   for (std::size_t i = 0; i < watchers.size(); ++i) watchers[i].WatchDrawing(Windows()[i]);
-  const double before = program_->Processor();
-  const auto begin = Clock::now();
-  std::this_thread::sleep_for(std::chrono::seconds(6));
-  const double share = (program_->Processor() - before) / Seconds(Clock::now() - begin);
+  double share = 1;
+  for (int round = 0; round < 2; ++round) {
+    const double before = program_->Processor();
+    const auto begin = Clock::now();
+    std::this_thread::sleep_for(std::chrono::seconds(3));
+    share = std::min(share, (program_->Processor() - before) / Seconds(Clock::now() - begin));
+  }
   RecordProperty("share", std::to_string(share));
   EXPECT_LE(share, 0.005);
   for (Screen& watcher : watchers) EXPECT_EQ(watcher.DrawingSeen(), 0);
@@ -55,16 +65,25 @@ TEST_F(Thrift, AtRestNothingIsPaintedAndTheProcessorSleeps) {
   EXPECT_TRUE(Soon([&] { return watchers.back().DrawingSeen() > 0; }));
 }
 
+// Fault: work or waiting before the start screen that can come later.
 TEST_F(Thrift, TheFirstWindowIsThereSoon) {
   fs::copy_file(demo_ / "start.gif", disc_.Data() / "startpic.gif", fs::copy_options::overwrite_existing);
-  const double bare =
-      TimeToTheFirstWindow(ORVANTA_BARE_WINDOW, {"PICTURE=" + (disc_.Data() / "startpic.gif").string()});
-  const double ours = TimeToTheFirstWindow(disc_.Folder() / "orvanta", {});
-  RecordProperty("bare", std::to_string(bare));
-  RecordProperty("ours", std::to_string(ours));
-  EXPECT_LE(ours, 1.5 * bare) << ours << " s against " << bare << " s";
+  const std::string picture = disc_.Data() / "startpic.gif";
+  Beginning bare, ours;
+  for (int round = 0; round < 10; ++round) {
+    bare.Lessen(UntilTheFirstWindow(ORVANTA_BARE_WINDOW, picture));
+    ours.Lessen(UntilTheFirstWindow(disc_.Folder() / "orvanta", picture));
+  }
+  RecordProperty("bare",
+                 std::to_string(bare.clock) + " s, processor " + std::to_string(bare.processor) + " s");
+  RecordProperty("ours",
+                 std::to_string(ours.clock) + " s, processor " + std::to_string(ours.processor) + " s");
+  // The clock depends on what else the machine does, so it only tells of a wait that does not belong there.
+  EXPECT_LE(ours.processor, 1.5 * bare.processor);
+  EXPECT_LE(ours.clock, bare.clock + 0.2);
 }
 
+// Fault: labels out of sight that are painted, measured or reloaded at each move.
 TEST_F(Thrift, ADragOverAThousandLabelsIsCheap) {
   std::vector<std::string> names;
   for (int i = 0; i < 1001; ++i) names.push_back("Pozycja " + std::to_string(i));
@@ -116,9 +135,11 @@ TEST_F(Thrift, OpeningAnEntryCostsLittleMoreThanItsPictures) {
   const auto decoding = [&] {
     timespec begin{}, end{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &begin);
-    for (int i = 0; i < 6; ++i) EXPECT_FALSE(QImageReader(QString::fromStdString(art.string())).read().isNull());
+    for (int i = 0; i < 6; ++i)
+      EXPECT_FALSE(QImageReader(QString::fromStdString(art.string())).read().isNull());
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &end);
-    return static_cast<double>(end.tv_sec - begin.tv_sec) + static_cast<double>(end.tv_nsec - begin.tv_nsec) / 1e9;
+    return static_cast<double>(end.tv_sec - begin.tv_sec) +
+           static_cast<double>(end.tv_nsec - begin.tv_nsec) / 1e9;
   };
   double pictures = 1, dots = 1, alone = 1;
   for (int round = 0; round < 4; ++round) {
@@ -128,7 +149,8 @@ TEST_F(Thrift, OpeningAnEntryCostsLittleMoreThanItsPictures) {
   }
   RecordProperty("opening", std::to_string(pictures - dots));
   RecordProperty("decoding", std::to_string(alone));
-  EXPECT_LE(pictures - dots, 1.3 * alone) << pictures << " s less " << dots << " s, against " << alone << " s";
+  EXPECT_LE(pictures - dots, 1.3 * alone)
+      << pictures << " s less " << dots << " s, against " << alone << " s";
 }
 
 }  // namespace

@@ -38,8 +38,8 @@ class Windows : public ShellOnScreen {
       {0, 273, 178, 80}, {386, 0, 204, 136}, {845, 450, 179, 10}, {845, 505, 179, 10}, {845, 560, 179, 10}};
 };
 
-// Faults: a window manager that moves or frames a window, a strip in the task bar, a gap in which nothing is on
-// the screen, a main window that comes up without the activation.
+// Faults: a window manager that moves or frames a window, a strip in the task bar, a gap in which nothing is
+// on the screen, a main window that comes up without the activation.
 TEST_F(Windows, TheStartScreenGivesWayToTheMainWindowAndItsStrips) {
   Launch();
   const Rect start{192, 145, 640, 478};
@@ -120,8 +120,8 @@ TEST_F(Windows, AClickOnAStripLiftsTheWholeGroup) {
   EXPECT_EQ(screen_.Pixel({512, 300}), kArea);
 }
 
-// Faults: strips that stay or do not come back, come back elsewhere or in the task bar; a pressed look that is
-// painted only after the pause.
+// Faults: strips that stay or do not come back, come back elsewhere or in the task bar; a pressed look that
+// is painted only after the pause.
 TEST_F(Windows, MinimisingTakesTheStripsAlongAndRestoringBringsThemBack) {
   Start();
   for (int round = 0; round < 2; ++round) {
@@ -178,15 +178,16 @@ TEST_F(Windows, LeavingShowsThePressedButtonFor200Milliseconds) {
 
 TEST_F(Windows, StripsOf800x600) {
   Start();
-  ExpectPlaces({66, 52, 667, 496},
-               {{0, 189, 66, 80}, {274, 0, 204, 52}, {733, 366, 67, 10}, {733, 421, 67, 10}, {733, 476, 67, 10}});
+  ExpectPlaces(
+      {66, 52, 667, 496},
+      {{0, 189, 66, 80}, {274, 0, 204, 52}, {733, 366, 67, 10}, {733, 421, 67, 10}, {733, 476, 67, 10}});
   ExpectColour({0, 189, 66, 80}, kLeft);
   ExpectColour({274, 0, 204, 52}, kUpper);
   ExpectColour({733, 366, 67, 10}, kRight);
 }
 
-// Faults: a window manager that pushes a window back onto a screen that it does not fit, and strips where there
-// is no room for them.
+// Faults: a window manager that pushes a window back onto a screen that it does not fit, and strips where
+// there is no room for them.
 TEST_F(Windows, OnA640x480ScreenTheWindowIsPinnedWithoutStrips) {
   Start();
   const auto pinned = [&] { ExpectPlaces({0, -17, 667, 496}, {}); };

@@ -9,7 +9,8 @@ namespace {
 
 class Window : public QWidget {
  public:
-  explicit Window(QPixmap picture) : QWidget(nullptr, Qt::FramelessWindowHint), picture_(std::move(picture)) {}
+  explicit Window(QPixmap picture)
+      : QWidget(nullptr, Qt::FramelessWindowHint), picture_(std::move(picture)) {}
 
  protected:
   void paintEvent(QPaintEvent*) override { QPainter(this).drawPixmap(0, 0, picture_); }
