@@ -86,18 +86,18 @@ def drawing(key, w, h, look):
     return svg.document(w, h, body, DEFS)
 
 
-def make(ground, workshop, target, buttons, prefix=""):
+def make(ground, workshop, target, buttons):
     """Renders each button in three looks over `ground`, a picture of the window that it stands on.
 
-    `buttons` maps an icon's name to (file's base name, left, top, width, height) in pixels of `ground`.
+    `buttons` maps a key and its icon's name to (file's base name, left, top, width, height) in pixels of `ground`.
     """
-    for key, (base, x, y, w, h) in buttons.items():
+    for (_, key), (base, x, y, w, h) in buttons.items():
         for number, look in enumerate(LOOKS):
-            glass = svg.render(drawing(key, w, h, look), workshop / f"{prefix}{base}{number}.png")
-            laid = workshop / f"{prefix}{base}{number}_laid.png"
+            glass = svg.render(drawing(key, w, h, look), workshop / f"{base}{number}.png")
+            laid = workshop / f"{base}{number}_laid.png"
             svg.run("convert", str(ground), "-crop", f"{w}x{h}+{x}+{y}", "+repage", str(glass), "-composite", str(laid))
             svg.gif(laid, target / f"{base}{number}.gif", 128)
 
 
 def main_buttons():
-    return {key: (f"btn/{key.lower()}", *box) for key, box in layout.BUTTONS.items()}
+    return {(key, key): (f"btn/{key.lower()}", *box) for key, box in layout.BUTTONS.items()}

@@ -101,6 +101,6 @@ def about_page():
 def producer_mark():
     """The producer's plate on the console."""
     w, h = layout.PRODUCER[2:]
-    body = (parts.plate(1, 1, w - 3, h - 3, 3) + parts.engraved(w / 2 + 15, 15.5, "LATIMERIA", 11, spacing=.8)
-            + parts.coelacanth(16, 6.5, .13, "#3a260c"))
+    body = (parts.plate(1, 1, w - 3, h - 3, 3) + parts.engraved(w / 2 + 16, 15.5, "LATIMERIA", 10.5, spacing=.2)
+            + parts.coelacanth(14, 6.5, .12, "#3a260c"))
     return svg.document(w, h, body, parts.DEFS)

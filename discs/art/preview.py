@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Shows the disc as the shell composes it, to judge the art by: preview.py OUT.png VIEW [NODE [SCROLL]].
 
-VIEW is list, detail, help, about or start; NODE a section of the tree. Everything comes from the disc's own
+VIEW is list, detail, help, about, start or cinema; NODE a section of the tree. Everything comes from the disc's own
 files, the text is set in the disc's own fonts.
 """
 
@@ -56,7 +56,7 @@ def picture(name, x, y, w=None, h=None):
 
 def label(x, y, content, section, fill):
     pixels = number(section, "FontSize") * 96 / 72
-    return svg.text(x, y + pixels * .93, content, pixels, fill, value(section, "FontName"))
+    return svg.text(x, y + pixels * 1.07, content, pixels, fill, value(section, "FontName"))
 
 
 def wrapped(x, y, width, content, pixels, fill, weight="normal"):
@@ -165,6 +165,14 @@ def main(target, view, node="MAINMENU", scroll="0"):
     if view == "start":
         content = (f'<rect width="{SCREEN_W}" height="{SCREEN_H}" fill="#3a6ea5"/>' + picture(value("GLOBAL", "StartPic"), 80, 61, 640, 450)
                    + picture(value("GLOBAL", "UnderPic"), 80, 509, 640, 30))
+    elif view == "cinema":
+        art = value("CINEMA", "CBackground")
+        w, h = size(art)
+        keys = "".join(picture(f'{value("CINEMA", key + "B")}{look}.gif', number("CINEMA", f"C{name}X"), number("CINEMA", f"C{name}Y"))
+                       for key, name, look in (("CPlay", "Play", 2), ("CStop", "Stop", 0), ("CPause", "Pause", 0), ("CScale", "Scale", 1)))
+        film = (picture(node, number("CINEMA", "CMiddX") - 160, number("CINEMA", "CMiddY") - 120, 320, 240) if node != "MAINMENU" else "")
+        content = (f'<rect width="{SCREEN_W}" height="{SCREEN_H}" fill="#3a6ea5"/>'
+                   f'<svg x="{(SCREEN_W - w) // 2}" y="{(SCREEN_H - h) // 2}" width="{w}" height="{h}">{picture(art, 0, 0)}{keys}{film}</svg>')
     else:
         inside = {"list": lambda: list_view(node, scroll), "detail": lambda: detail_view(node, scroll),
                   "help": lambda: page_view("HelpB", scroll), "about": lambda: page_view("AboutB", scroll)}[view]()

@@ -17,6 +17,15 @@ def _buttons():
             for pair in ((f"{key}B", f"btn/{key.lower()}".replace("/", "\\")), (f"{key}X", x), (f"{key}Y", y))]
 
 
+def _cinema():
+    pairs = [("CBackground", "cinema.gif"), ("CMiddX", layout.CINEMA_MIDDLE[0]), ("CMiddY", layout.CINEMA_MIDDLE[1])]
+    for key, (_, x, y, _, _) in layout.CINEMA_BUTTONS.items():
+        # The shell asks for the pause button's art under a name with a small p.
+        base = "CpauseB" if key == "CPause" else f"{key}B"
+        pairs += [(base, f"btn\\{key.lower()}"), (f"{key}X", x), (f"{key}Y", y)]
+    return pairs
+
+
 def sections():
     ax, ay, _, _ = layout.AREA
     start, top, end = layout.TRACK
@@ -56,6 +65,10 @@ def sections():
         "SHOTSLIDER": [
             ("SSliderBarB", "sslider.gif"), ("SSliderBarX", shot_x), ("SSliderBarY", shot_y), ("SSuwakB", "sknob.gif"),
             ("PosX", shot_x), ("YMin", shot_y + ends), ("YMax", shot_y + shot_h - ends - layout.SHOT_KNOB[1]), ("YStep", 1)],
+        "VOICES": [
+            ("Music", "otchlan.wav"), ("Start", "start.wav"),
+            ("Exit1", "exit1.wav"), ("Exit2", "exit2.wav"), ("Exit3", "exit3.wav")],
+        "CINEMA": _cinema(),
     }
 
 

@@ -1,5 +1,6 @@
 """The start picture and the strip under it."""
 
+import creatures
 import parts
 import scenes
 import svg
@@ -24,28 +25,21 @@ def picture():
     body = f"""<rect width="{w}" height="{h}" fill="url(#sea)"/>{scenes.rays(w, h, 11, 12)}
 <g filter="url(#blur2)">{scenes.ridge(w, 420, 170, 5, "#0c4a55", 9, .55)}</g>
 <g filter="url(#blur1)">{scenes.ridge(w, 440, 120, 9, "#083642", 12, .8)}</g>
+{scenes.chimney(556, 436, 150, 66, 3)}{scenes.chimney(612, 446, 100, 56, 6)}{scenes.chimney(500, 448, 78, 44, 9)}
 <path d="M{vx + 166 * vs},{vy - 14} V-10" stroke="#05242b" stroke-width="1.4" opacity=".7"/>
 {scenes.beam(lx, ly, 330, 92, 154, .95)}{scenes.beam(lx, ly, 250, 40, 150, .6)}
-{parts.coelacanth(40, 262, .95, "#0b3038", flip=True)}
-<g clip-path="url(#fishClip)" opacity=".7">{scenes.beam(lx, ly, 330, 92, 154, .9)}</g>
+<g transform="translate(134,306) scale(-.52,.52) rotate(4)">{creatures.coelacanth()}</g>
 {scenes.vessel(vx, vy, vs)}
 {scenes.snow(w, h, 130, 8, 90)}{parts.bubbles(vx + 250, 20, 40, 130, 26, 12)}{parts.bubbles(80, 130, 26, 120, 10, 3)}
-{scenes.chimney(556, 436, 150, 66, 3)}{scenes.chimney(612, 446, 100, 56, 6)}{scenes.chimney(500, 448, 78, 44, 9)}
 {scenes.ridge(w, 452, 62, 21, "#03161c", 13)}{scenes.ridge(w, 462, 40, 33, "#010a0e", 10)}
 {_kelp(w)}
 <rect width="{w}" height="{h}" fill="url(#vignette)"/>
 {logo(320, 74, 66)}
 {svg.text(320, 104, "PŁYTA Z GŁĘBIN  •  NUMER 7", 17, "#eafff4", anchor="middle", extra='letter-spacing="4"')}
 {_frame(w, h)}"""
-    defs = scenes.DEFS + LOGO_DEFS + "".join([
-        f'<clipPath id="fishClip">{_fish_clip()}</clipPath>',
+    defs = scenes.DEFS + creatures.DEFS + LOGO_DEFS + "".join([
         svg.radial("vignette", [(0, "#000", 0), (.7, "#000", 0), (1, "#000", .55)], .5, .42, .75)])
     return svg.document(w, h, body, defs)
-
-
-def _fish_clip():
-    transform = f"translate({40 + 224 * .95},262) scale(-.95,.95)"
-    return "".join(f'<path d="{d}" transform="{transform}"/>' for d in [parts.COELACANTH_BODY, *parts.COELACANTH_FINS])
 
 
 def _kelp(w):

@@ -25,6 +25,8 @@ void MainForm::Release(std::int16_t Index) {
 }
 
 void MainForm::Drop() {
+  // None is latched while the exit voice plays, which a click can meet.
+  if (PressedButton == -1) return;
   ButtonM(PressedButton).Picture = ImageList1(LookEntry(PressedButton, Look::Normal));
   ButtonM(PressedButton).Refresh();
 }
@@ -39,9 +41,7 @@ void MainForm::ButtonM_Click(std::int16_t Index) {
   const bool soundCard = shell_.basCommon.SoundCardOK;
   const bool pagesOpen = PressedButton == -1 || PressedButton == 6;
   switch (Index) {
-    case 0:
-      Unload();
-      break;
+    case 0: Unload(); break;
     case 1:
       if (soundCard) SwitchSound(false);
       break;
@@ -68,11 +68,8 @@ void MainForm::ButtonM_Click(std::int16_t Index) {
       shell_.host.Sleep(kMinimisePause);
       WindowState = kMinimised;
       break;
-    case 9:
-      ShowFilm();
-      break;
-    default:
-      break;
+    case 9: ShowFilm(); break;
+    default: break;
   }
 }
 

@@ -23,8 +23,8 @@ class INI_Read {
   /// The Windows path of a sound that a key names: a path with a drive as it is, else below Data\Sound.
   std::string SoundPath(std::string_view value) const;
 
-  const std::string& discRoot() const { return discRoot_; }
-  const DiscDrive& drive() const { return drive_; }
+  const std::string& DiscRoot() const { return discRoot_; }
+  const DiscDrive& Drive() const { return drive_; }
 
  private:
   std::string ReadFile(std::string_view section, std::string_view key, std::string_view file) const;

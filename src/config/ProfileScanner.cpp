@@ -2,15 +2,21 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstring>
 
+#include "config/ByteSearch.h"
+#include "config/Fold1250.h"
 #include "config/ProfileString.h"
-#include "config/Windows1250.h"
 
 namespace orvanta {
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\v' || c == '\f' || c == '\x1a'; }
+bool IsBlank(char c) {
+  constexpr std::uint64_t kBlanks = 1ull << ' ' | 1ull << '\t' | 1ull << '\v' | 1ull << '\f' | 1ull << 0x1A;
+  const auto byte = static_cast<unsigned char>(c);
+  return byte <= ' ' && (kBlanks >> byte & 1) != 0;
+}
 bool IsLineEnd(char c) { return c == '\n' || c == '\r'; }
 
 const char* Find(const char* begin, const char* end, char wanted) {
@@ -21,16 +27,15 @@ const char* Find(const char* begin, const char* end, char wanted) {
 
 const char* LineEnd(const char* at, const char* end) { return Find(at, Find(at, end, '\n'), '\r'); }
 
+/// Behind the last line end, `begin` if there is none.
+const char* LastLineEnd(const char* begin, const char* end) {
+  while (end != begin && !IsLineEnd(end[-1])) --end;
+  return end;
+}
+
 bool OnlyBlanksBefore(const char* begin, const char* at) {
   while (at != begin && IsBlank(at[-1])) --at;
   return at == begin || IsLineEnd(at[-1]);
-}
-
-const char* NextHeader(const char* begin, const char* at, const char* end) {
-  for (;; ++at) {
-    at = Find(at, end, '[');
-    if (at == end || OnlyBlanksBefore(begin, at)) return at;
-  }
 }
 
 std::string_view Trimmed(std::string_view text) {
@@ -43,6 +48,10 @@ std::string_view Unquoted(std::string_view text) {
   if (text.size() < 2 || text.front() != text.back()) return text;
   if (text.front() != '"' && text.front() != '\'') return text;
   return text.substr(1, text.size() - 2);
+}
+
+std::string ValueOf(std::string_view text) {
+  return std::string(Unquoted(Trimmed(text.substr(0, text.find('\0')))).substr(0, kLongestValue));
 }
 
 bool CanBeName(std::string_view name, std::string_view forbidden) {
@@ -79,22 +88,24 @@ bool ProfileScanner::Take(std::string_view lines) {
 
 /// Where the section's lines begin, null if it is not here.
 const char* ProfileScanner::SkipToSection(const char* begin, const char* end) const {
-  for (const char* at = begin; (at = NextHeader(begin, at, end)) != end;) {
-    ++at;
-    if (NamesSection(at, end, section_)) return LineEnd(at, end);
-  }
-  return nullptr;
+  const char first = section_.empty() ? ']' : Fold1250(section_[0]);
+  const char* header = FindAccepted<'['>(begin, end, [&](const char* at) {
+    if (at + 1 != end && at[1] > ' ' && Fold1250(at[1]) != first) return false;
+    return NamesSection(at + 1, end, section_) && OnlyBlanksBefore(begin, at);
+  });
+  return header == end ? nullptr : LineEnd(header, end);
 }
 
 bool ProfileScanner::FindKey(const char* begin, const char* end) {
-  const char* stop = NextHeader(begin, begin, end);
-  for (const char* at = begin; (at = Find(at, stop, '=')) != stop; ++at) {
-    if (!NamesKey(begin, at)) continue;
-    const char* lineEnd = LineEnd(at, stop);
-    value_ = Unquoted(Trimmed({at + 1, Find(at + 1, lineEnd, '\0')})).substr(0, kLongestValue);
-    return true;
-  }
-  return stop != end;
+  const char last = key_.empty() ? '\0' : Fold1250(key_.back());
+  const char* stop = FindAccepted<'[', '='>(begin, end, [&](const char* at) {
+    if (*at == '[') return OnlyBlanksBefore(begin, at);
+    if (at != begin && at[-1] > ' ' && Fold1250(at[-1]) != last) return false;
+    return NamesKey(begin, at);
+  });
+  if (stop == end) return false;
+  if (*stop == '=') value_ = ValueOf({stop + 1, LineEnd(stop, end)});
+  return true;
 }
 
 /// Read backwards from the "=", since most keys of a section differ at their ends: `Menu1`, `Menu2`.
@@ -107,23 +118,22 @@ bool ProfileScanner::NamesKey(const char* begin, const char* equals) const {
 }
 
 std::string StreamedProfileString(const ByteSource& read, std::string_view section, std::string_view key) {
-  constexpr std::size_t kFirstRead = 16 * 1024;
-  std::array<char, 64 * 1024> buffer;
+  // Pieces always begin at the same aligned place, the rest of the line before is put in front of them: the
+  // system copies whole pages to page boundaries fastest.
+  alignas(4096) std::array<char, 2 * kPiece> buffer;
+  char* const piece = buffer.data() + kPiece;
   ProfileScanner scanner(section, key);
   if (!scanner.canMatch()) return {};
   std::size_t kept = 0;
-  for (std::size_t most = kFirstRead;; most = buffer.size()) {
-    std::size_t got = read(std::span(buffer).subspan(kept, std::min(most, buffer.size() - kept)));
-    const char* end = buffer.data() + kept + got;
-    const char* whole = end;
-    if (got != 0) {
-      while (whole != buffer.data() && !IsLineEnd(whole[-1])) --whole;
-    }
-    if (scanner.Take({buffer.data(), whole}) || got == 0) return scanner.value();
-    kept = static_cast<std::size_t>(end - whole);
-    std::memmove(buffer.data(), whole, kept);
-    // The end of a value decides whether it is quoted, so an overlong line gives up its middle, not its end.
-    if (kept == buffer.size()) kept /= 2;
+  for (;;) {
+    const std::size_t got = read({piece, kPiece});
+    const char* const begin = piece - kept;
+    const char* const end = piece + got;
+    const char* const whole = got == 0 ? end : LastLineEnd(begin, end);
+    if (scanner.Take({begin, whole}) || got == 0) return scanner.value();
+    // The end of a value tells whether it is quoted, so an overlong line gives up its middle, not its end.
+    kept = std::min(static_cast<std::size_t>(end - whole), kPiece);
+    std::memmove(piece - kept, whole, kept);
   }
 }
 

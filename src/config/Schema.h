@@ -6,13 +6,12 @@
 
 namespace orvanta {
 
-/// The key of `section` with this very name; null if there is none. The number of a run is no part of the
-/// name.
-constexpr const SchemaKey* FindSchemaKey(std::string_view section, std::string_view name) {
+/// The fixed section has a key of this very name and kind that is no run.
+constexpr bool IsSchemaKey(std::string_view section, std::string_view name, Kind kind) {
   for (const SchemaKey& key : kSchema) {
-    if (key.section == section && key.name == name) return &key;
+    if (key.section == section && key.name == name) return key.kind == kind && key.presence != Presence::Run;
   }
-  return nullptr;
+  return false;
 }
 
 /// Names a key of a fixed section, such as `{"GLOBAL", "BackX"}`. Does not compile if the schema has no such
@@ -24,8 +23,7 @@ struct KeyRef {
   std::string_view name;
 
   consteval KeyRef(std::string_view ofSection, std::string_view named) : section(ofSection), name(named) {
-    const SchemaKey* key = FindSchemaKey(section, name);
-    if (!key || key->kind != K || key->presence == Presence::Run) throw "no such key of this kind";
+    if (!IsSchemaKey(section, name, K)) throw "no such key of this kind";
   }
 };
 

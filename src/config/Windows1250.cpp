@@ -1,8 +1,11 @@
 #include "config/Windows1250.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
+
+#include "config/Fold1250.h"
 
 namespace orvanta {
 namespace {
@@ -30,24 +33,6 @@ int ByteOf(char16_t character) {
   const auto* found = std::find(kUpperHalf.begin(), kUpperHalf.end(), character);
   return found == kUpperHalf.end() ? kNoByte : 0x80 + static_cast<int>(found - kUpperHalf.begin());
 }
-
-/// Capitals whose small letter is not 0x20 further: Š Ś Ť Ž Ź, Ł Ą Ş Ż, Ľ.
-constexpr std::string_view kOddCapitals = "\x8A\x8C\x8D\x8E\x8F\xA3\xA5\xAA\xAF\xBC";
-constexpr std::string_view kOddSmall = "\x9A\x9C\x9D\x9E\x9F\xB3\xB9\xBA\xBF\xBE";
-
-constexpr std::array<unsigned char, 256> MakeFold() {
-  std::array<unsigned char, 256> fold{};
-  for (unsigned i = 0; i < 256; ++i) {
-    const bool capital = (i >= 'A' && i <= 'Z') || (i >= 0xC0 && i <= 0xDE && i != 0xD7);
-    fold[i] = static_cast<unsigned char>(capital ? i + 0x20 : i);
-  }
-  for (std::size_t i = 0; i < kOddCapitals.size(); ++i) {
-    fold[static_cast<unsigned char>(kOddCapitals[i])] = static_cast<unsigned char>(kOddSmall[i]);
-  }
-  return fold;
-}
-
-constexpr std::array<unsigned char, 256> kFold = MakeFold();
 
 /// Takes one character of up to three bytes off the front of `utf8`, as many as Windows-1250 asks for.
 std::optional<char16_t> TakeCharacter(std::string_view& utf8) {
@@ -101,17 +86,6 @@ std::optional<std::string> ToWindows1250(std::string_view utf8) {
     bytes.push_back(static_cast<char>(byte));
   }
   return bytes;
-}
-
-char Fold1250(char byte) { return static_cast<char>(kFold[static_cast<unsigned char>(byte)]); }
-
-bool EqualNoCase1250(std::string_view left, std::string_view right) {
-  if (left.size() != right.size()) return false;
-  // From the end: names that begin alike are common here, names that end alike are not.
-  for (std::size_t i = left.size(); i-- != 0;) {
-    if (Fold1250(left[i]) != Fold1250(right[i])) return false;
-  }
-  return true;
 }
 
 bool EqualNoCase(std::string_view left, std::string_view right) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,13 +13,8 @@ std::string FromWindows1250(std::string_view bytes);
 /// UTF-8 to Windows-1250, nothing if the text is no valid UTF-8 or has a character outside the code page.
 std::optional<std::string> ToWindows1250(std::string_view utf8);
 
-/// The small letter for a capital letter of Windows-1250, every other byte unchanged.
-char Fold1250(char byte);
-
-/// Two texts in Windows-1250 are the same but for small and capital letters.
-bool EqualNoCase1250(std::string_view left, std::string_view right);
-
-/// The same for UTF-8. Outside Windows-1250 only the letters A to Z are matched without regard to case.
+/// Two texts in UTF-8 are the same but for small and capital letters. Outside Windows-1250 only the letters A
+/// to Z are matched without regard to case.
 bool EqualNoCase(std::string_view left, std::string_view right);
 
 }  // namespace orvanta

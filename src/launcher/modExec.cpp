@@ -11,12 +11,9 @@ constexpr int kCriticalBox = 16;
 
 StartRequest::Status StatusOf(HostPath::Outcome outcome) {
   switch (outcome) {
-    case HostPath::Outcome::Found:
-      return StartRequest::Status::Found;
-    case HostPath::Outcome::FileMissing:
-      return StartRequest::Status::FileMissing;
-    case HostPath::Outcome::FolderMissing:
-      break;
+    case HostPath::Outcome::Found: return StartRequest::Status::Found;
+    case HostPath::Outcome::FileMissing: return StartRequest::Status::FileMissing;
+    case HostPath::Outcome::FolderMissing: break;
   }
   return StartRequest::Status::FolderMissing;
 }
@@ -27,13 +24,22 @@ void modExec::ExecItem(const std::string& entry) {
   const std::string file = shell_.ini.IniRead(entry, "Execute", kMenuFile);
   const std::string parameters = shell_.ini.IniRead(entry, "Parameters", kMenuFile);
   shell_.MainForm->MousePointer = Form::kHourglassPointer;
-  const HostPath found = shell_.ini.drive().Find(file);
+  const HostPath found = shell_.ini.Drive().Find(file);
   const int result = shell_.host.StartFile({StatusOf(found.outcome), file, found.path, parameters});
-  if (result > 32) {
-    shell_.host.Loop().RunUntil([this] { return !shell_.modActiveWindow.AppActive; });
-  }
+  if (result > 32) WaitForProgram();
   shell_.MainForm->MousePointer = Form::kDefaultPointer;
   ExecError(result);
+}
+
+void modExec::WaitForProgram() {
+  constexpr Milliseconds kPoll = 50;
+  // The tick looks for the active window. It stands still when the click has come while the music falls
+  // silent, and would not begin again before this wait is over; then the wait looks for itself.
+  const auto active = [this] {
+    return shell_.MainForm->Timer1.Enabled ? shell_.modActiveWindow.AppActive
+                                           : shell_.modActiveWindow.CheckActive();
+  };
+  while (active()) shell_.host.Loop().PumpOrWait(shell_.host.Now() + kPoll);
 }
 
 void modExec::ExecError(std::int32_t code) {

@@ -19,6 +19,8 @@ class modExec {
   void ExecError(std::int32_t code);
 
  private:
+  void WaitForProgram();
+
   Shell& shell_;
 };
 

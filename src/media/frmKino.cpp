@@ -128,20 +128,13 @@ void frmKino::ButtonM_Click(std::int16_t Index) {
     case 0:
       if (PressedButton != 0) Play();
       break;
-    case 1:
-      StopAndClose();
-      break;
+    case 1: StopAndClose(); break;
     case 2:
       if (PressedButton == 0) Pause();
       break;
-    case 3:
-      SetFullScreen(true);
-      break;
-    case 4:
-      SetFullScreen(false);
-      break;
-    default:
-      break;
+    case 3: SetFullScreen(true); break;
+    case 4: SetFullScreen(false); break;
+    default: break;
   }
 }
 

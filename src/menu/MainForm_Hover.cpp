@@ -73,7 +73,8 @@ void MainForm::Strzal(std::int16_t Index) {
     line.Place(-1, -1, -1, -1);
     line.Visible = true;
   });
-  for (std::int32_t j = 0; j <= MouseX; j += 10) {
+  // The number of steps is settled at the click; where they lead to follows the cursor.
+  for (std::int32_t j = 0, last = MouseX; j <= last; j += 10) {
     // At the left edge there is no way to go: the first step stands at the top.
     const double r = MouseX > 0 ? static_cast<double>(j) / MouseX : 0;
     draw(j, std::floor(r * MouseY));

@@ -1,6 +1,6 @@
 // The slider of lists and pages, and what it shares with that of the screenshots.
 
-#include <cstdlib>
+#include <cmath>
 
 #include "menu/MenuGeometry.h"
 #include "startup/Shell.h"
@@ -36,9 +36,9 @@ void MainForm::KnobDown(Image& knob, const MouseEvent& event) {
 
 void MainForm::DragKnob(const Image& knob, const MouseEvent& event, void (MainForm::*move)(std::int32_t)) {
   if (event.Button != kLeftButton || SuwakGrab < 0) return;
-  const std::int32_t d = CLng(shell_.modMouse.CursorPos().y - SuwakGrab - knob.Top);
+  const double d = shell_.modMouse.CursorPos().y - static_cast<double>(SuwakGrab) - knob.Top;
   SuwakDir = d < 0 ? 0 : 1;
-  (this->*move)(std::abs(d));
+  (this->*move)(CLng(std::fabs(d)));
   SuwakDir = -1;
 }
 
@@ -54,7 +54,7 @@ void MainForm::MoveKnob(Image& knob, std::int32_t step) {
   if (move.stopped) SuwakDir = -1;
   knob.Top = SuwakY;
   knob.Refresh();
-  SuwakPos = SuwakY - YMin;
+  SuwakPos = CLng(static_cast<double>(SuwakY) - YMin);
 }
 
 void MainForm::MoveSuwak(std::int32_t step) {
@@ -62,7 +62,8 @@ void MainForm::MoveSuwak(std::int32_t step) {
   MoveKnob(imgSuwak, step);
   if (SuwakPos == LastPos) return;
   if (!imgPomoc.Visible && !imgSeven.Visible) {
-    for (int i = 0; i <= lblPos1.UBound(); ++i) {
+    // An entry opened while the music faded may have put the places of its screenshots there.
+    for (int i = 0; i <= lblPos1.UBound() && static_cast<std::size_t>(i) < PosTop.size(); ++i) {
       Label& label = lblPos1(i);
       label.Top = ScrolledTop(PosTop[static_cast<std::size_t>(i)], SuwakScale, SuwakPos);
       label.ForeColor = LabelColour(label);

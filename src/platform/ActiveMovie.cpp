@@ -13,9 +13,7 @@ ActiveMovie::ActiveMovie(Container& parent, std::string name, MovieKind kind)
   player_->OnFrame = [this] { FrameChanged(); };
 }
 
-ActiveMovie::~ActiveMovie() {
-  player_->OnFrame = nullptr;
-}
+ActiveMovie::~ActiveMovie() { player_->OnFrame = nullptr; }
 
 void ActiveMovie::FileName(const std::filesystem::path& file) {
   sized_ = false;

@@ -15,7 +15,8 @@ enum class ScaleMode { Pixels, Twips };
 
 inline constexpr int kTwipsPerPixel = 15;
 
-/// A form or a picture box: controls stacked in the order of their creation, the elements of one array together.
+/// A form or a picture box: controls stacked in the order of their creation, the elements of one array
+/// together.
 class Container {
  public:
   explicit Container(ScaleMode scale) : scale_(scale) {}
@@ -30,7 +31,9 @@ class Container {
 
   /// A length or place of a child control in whole pixels: nearest, ties to even.
   int ToPixels(double units) const;
-  double FromPixels(int pixels) const { return scale_ == ScaleMode::Twips ? pixels * kTwipsPerPixel : pixels; }
+  double FromPixels(int pixels) const {
+    return scale_ == ScaleMode::Twips ? pixels * kTwipsPerPixel : pixels;
+  }
 
   void Attach(Control& child);
   void Detach(Control& child);

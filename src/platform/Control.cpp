@@ -10,7 +10,9 @@ namespace orvanta {
 
 namespace {
 
-bool SameArray(const Control& a, const Control& b) { return a.Index >= 0 && b.Index >= 0 && a.Name == b.Name; }
+bool SameArray(const Control& a, const Control& b) {
+  return a.Index >= 0 && b.Index >= 0 && a.Name == b.Name;
+}
 
 }  // namespace
 

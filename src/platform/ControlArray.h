@@ -11,12 +11,14 @@
 
 namespace orvanta {
 
-/// Controls of one name, told apart by `Index`. Element 0 (and more, if the design has them) is there for ever;
-/// further ones are loaded and unloaded by number. An element's address stays the same while it is loaded.
+/// Controls of one name, told apart by `Index`. Element 0 (and more, if the design has them) is there for
+/// ever; further ones are loaded and unloaded by number. An element's address stays the same while it is
+/// loaded.
 template <class T>
 class ControlArray {
  public:
-  ControlArray(Container& parent, std::string name, int designed = 1) : parent_(parent), name_(std::move(name)) {
+  ControlArray(Container& parent, std::string name, int designed = 1)
+      : parent_(parent), name_(std::move(name)) {
     for (int i = 0; i < designed; ++i) Add(i);
   }
 
@@ -50,9 +52,15 @@ class ControlArray {
     const auto index = static_cast<std::int16_t>(i);
     elements_.push_back(std::make_unique<T>(parent_, name_, index));
     T& added = *elements_.back();
-    added.Click = [this, index] { if (Click) Click(index); };
-    added.MouseDown = [this, index](const MouseEvent&) { if (MouseDown) MouseDown(index); };
-    added.MouseUp = [this, index](const MouseEvent&) { if (MouseUp) MouseUp(index); };
+    added.Click = [this, index] {
+      if (Click) Click(index);
+    };
+    added.MouseDown = [this, index](const MouseEvent&) {
+      if (MouseDown) MouseDown(index);
+    };
+    added.MouseUp = [this, index](const MouseEvent&) {
+      if (MouseUp) MouseUp(index);
+    };
   }
 
   Container& parent_;

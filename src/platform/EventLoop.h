@@ -73,6 +73,9 @@ class EventLoop {
     EventLoop& loop_;
   };
 
+  /// How many deliveries are running, one inside the other.
+  int Depth() const { return depth_; }
+
   void Add(Timer& timer) { timers_.push_back(&timer); }
   void Remove(Timer& timer) { std::erase(timers_, &timer); }
   /// Drops what is queued for a form that is going.

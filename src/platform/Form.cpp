@@ -29,7 +29,11 @@ Rect Form::Place() const {
   const auto pixels = [](double twips) {
     return static_cast<int>(std::nearbyint(std::clamp(twips / kTwipsPerPixel, -1e8, 1e8)));
   };
-  return {pixels(Left), pixels(Top), pixels(Width), pixels(Height)};
+  // The program takes the cursor's place in the window from the whole pixels of its corner.
+  const auto whole = [](double twips) {
+    return static_cast<int>(std::clamp(twips / kTwipsPerPixel, -1e8, 1e8));
+  };
+  return {whole(Left), whole(Top), pixels(Width), pixels(Height)};
 }
 
 Rect Form::ClientArea() const {
@@ -72,6 +76,8 @@ void Form::Refresh() {
 
 void Form::Unload() {
   if (unloading_) return;
+  // The last thing to end here, so that an unload outside every handler destroys the form as well.
+  EventLoop::Delivery delivery(host_.Loop());
   unloading_ = true;
   Form_Unload();
   Visible = false;
@@ -90,6 +96,8 @@ void Form::PropertyChanged(const void* property) {
     VisibleChanged();
   } else if (property == &WindowState) {
     window_->SetMinimised(WindowState == kMinimised);
+    // The release of a button that is held goes elsewhere.
+    EndPress();
     Form_Resize();
   } else if (property == &MousePointer) {
     pointerStale_ = true;

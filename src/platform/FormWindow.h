@@ -10,6 +10,7 @@ namespace orvanta {
 enum class WindowKind {
   Main,        ///< has a task-bar entry
   Plain,       ///< no task-bar entry, shown without taking the activation
+  Splash,      ///< no task-bar entry, comes to the front
   Modal,       ///< stands before its owner
   FullScreen,  ///< covers the whole screen
 };

@@ -12,12 +12,15 @@ namespace orvanta {
 /// Pictures of a form, numbered from 1, some of them with a text key.
 class ImageList {
  public:
-  void Add(PicturePtr picture, std::string key = {}) { entries_.push_back({std::move(key), std::move(picture)}); }
+  void Add(PicturePtr picture, std::string key = {}) {
+    entries_.push_back({std::move(key), std::move(picture)});
+  }
   int Count() const { return static_cast<int>(entries_.size()); }
 
   /// The entry by number or by key; the empty picture if there is none.
   PicturePtr operator()(int number) const {
-    return number >= 1 && number <= Count() ? entries_[static_cast<std::size_t>(number) - 1].picture : nullptr;
+    return number >= 1 && number <= Count() ? entries_[static_cast<std::size_t>(number) - 1].picture
+                                            : nullptr;
   }
   PicturePtr operator()(std::string_view key) const {
     for (const Entry& entry : entries_) {

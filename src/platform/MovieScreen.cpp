@@ -21,8 +21,11 @@ Rect Fitted(Size inner, const Rect& outer) {
 }  // namespace
 
 MovieScreen::MovieScreen(Form& owner, const ActiveMovie& movie)
-    : Form(owner.TheHost(),
-           {.name = "MovieScreen", .width = 0, .height = 0, .window = WindowKind::FullScreen, .centred = false}),
+    : Form(owner.TheHost(), {.name = "MovieScreen",
+                             .width = 0,
+                             .height = 0,
+                             .window = WindowKind::FullScreen,
+                             .centred = false}),
       movie_(movie) {
   const Size screen = TheHost().ScreenSize();
   Width = screen.width * kTwipsPerPixel;

@@ -13,8 +13,8 @@ class PropertyOwner {
   ~PropertyOwner() = default;
 };
 
-/// A value that is assigned and read like a field and tells its owner when it has changed. Assigning the value
-/// that it has already changes nothing.
+/// A value that is assigned and read like a field and tells its owner when it has changed. Assigning the
+/// value that it has already changes nothing.
 template <class T>
 class Property {
  public:

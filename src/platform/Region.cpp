@@ -7,8 +7,8 @@ namespace orvanta {
 Region Region::Polygon(std::span<const Point> outline) {
   Region region;
   if (outline.size() < 3) return region;
-  const auto [lowest, highest] = std::minmax_element(outline.begin(), outline.end(),
-                                                     [](Point a, Point b) { return a.y < b.y; });
+  const auto [lowest, highest] =
+      std::minmax_element(outline.begin(), outline.end(), [](Point a, Point b) { return a.y < b.y; });
   for (int y = lowest->y; y < highest->y; ++y) {
     std::vector<int> crossings;
     for (std::size_t i = 0; i < outline.size(); ++i) {
@@ -21,7 +21,8 @@ Region Region::Polygon(std::span<const Point> outline) {
     }
     std::sort(crossings.begin(), crossings.end());
     Row row{y, {}};
-    for (std::size_t i = 0; i + 1 < crossings.size(); i += 2) row.runs.push_back({crossings[i], crossings[i + 1]});
+    for (std::size_t i = 0; i + 1 < crossings.size(); i += 2)
+      row.runs.push_back({crossings[i], crossings[i + 1]});
     Tidy(row.runs);
     if (!row.runs.empty()) region.rows_.push_back(std::move(row));
   }
@@ -39,10 +40,10 @@ Region Region::Ellipse(const Rect& box) {
   Region region;
   const double a = box.width / 2.0, b = box.height / 2.0;
   for (int y = 0; y < box.height; ++y) {
-    const double dy = (y + 0.5 - b) / b;
+    const double dy = (y - b) / b;
     const double half = a * std::sqrt(std::max(0.0, 1 - dy * dy));
-    const Run run{box.left + static_cast<int>(std::ceil(a - half - 0.5)),
-                  box.left + static_cast<int>(std::floor(a + half - 0.5)) + 1};
+    const Run run{box.left + static_cast<int>(std::ceil(a - half)),
+                  box.left + static_cast<int>(std::ceil(a + half))};
     if (run.left < run.right) region.rows_.push_back({box.top + y, {run}});
   }
   return region;
@@ -68,9 +69,11 @@ Region Region::United(const Region& other) const {
 }
 
 bool Region::Contains(Point p) const {
-  const auto row = std::lower_bound(rows_.begin(), rows_.end(), p.y, [](const Row& r, int y) { return r.y < y; });
+  const auto row =
+      std::lower_bound(rows_.begin(), rows_.end(), p.y, [](const Row& r, int y) { return r.y < y; });
   if (row == rows_.end() || row->y != p.y) return false;
-  return std::any_of(row->runs.begin(), row->runs.end(), [&](Run r) { return p.x >= r.left && p.x < r.right; });
+  return std::any_of(row->runs.begin(), row->runs.end(),
+                     [&](Run r) { return p.x >= r.left && p.x < r.right; });
 }
 
 int Region::PixelCount() const {

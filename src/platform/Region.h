@@ -16,7 +16,7 @@ class Region {
   /// (x, y) lies inside; a left or upper edge counts as inside, a right or lower one does not.
   static Region Polygon(std::span<const Point> outline);
   static Region Rectangle(const Rect& area);
-  /// The pixels whose centres lie in the ellipse that `box` holds.
+  /// The pixels inside the ellipse that `box` holds, by the same corner as for a polygon.
   static Region Ellipse(const Rect& box);
 
   Region United(const Region& other) const;

@@ -7,8 +7,8 @@
 
 namespace orvanta {
 
-/// Ticks while it is enabled, whenever the event loop runs. Enabling it begins a new interval; ticks that come
-/// late merge into one.
+/// Ticks while it is enabled, whenever the event loop runs. Enabling it begins a new interval; ticks that
+/// come late merge into one.
 class Timer : public PropertyOwner {
  public:
   /// `interval` in milliseconds, at least 1.

@@ -31,12 +31,12 @@ std::string Half(std::uint32_t half) { return std::to_string(static_cast<std::in
 
 }  // namespace
 
-std::string GetSysDir(ControlFilesHost& host) { return host.systemDirectory() + "\\"; }
+std::string GetSysDir(ControlFilesHost& host) { return host.SystemDirectory() + "\\"; }
 
-bool FileExists(ControlFilesHost& host, const std::string& path) { return host.canRead(path); }
+bool FileExists(ControlFilesHost& host, const std::string& path) { return host.CanRead(path); }
 
 std::string FileVersionText(ControlFilesHost& host, const std::string& path) {
-  const auto version = host.version(path);
+  const auto version = host.Version(path);
   if (!version) return {};
   return Half(version->most >> 16) + "." + Half(version->most) + "." + Half(version->least >> 16) + "." +
          Half(version->least);
@@ -65,15 +65,15 @@ bool IsNewerOnDisc(ControlFilesHost& host, const ControlFolders& folders, const 
 }
 
 void RegisterControl(ControlFilesHost& host, const ControlFolders& folders, const std::string& path) {
-  const std::int32_t result = host.start(folders.discSysDir + "REGOCX32.EXE", path);
-  if (result >= 0 && result <= LastFailure) host.message("Blad");
+  const std::int32_t result = host.Start(folders.discSysDir + "REGOCX32.EXE", path);
+  if (result >= 0 && result <= LastFailure) host.Message("Blad");
 }
 
 void CheckControls(ControlFilesHost& host, const ControlFolders& folders) {
   for (const std::string name : ControlNames) {
     const std::string installed = folders.winSysDir + name;
-    if (!FileExists(host, installed)) host.copy(folders.discSysDir + name, installed);
-    if (IsNewerOnDisc(host, folders, name)) host.copy(folders.discSysDir + name, installed);
+    if (!FileExists(host, installed)) host.Copy(folders.discSysDir + name, installed);
+    if (IsNewerOnDisc(host, folders, name)) host.Copy(folders.discSysDir + name, installed);
     RegisterControl(host, folders, installed);
   }
 }

@@ -30,7 +30,7 @@ class Shell {
   void Run();
 
   /// The file or folder that a path of the disc leads to; empty if there is none.
-  std::filesystem::path HostFile(const std::string& path) const { return ini.drive().Find(path).path; }
+  std::filesystem::path HostFile(const std::string& path) const { return ini.Drive().Find(path).path; }
   /// Null if the path leads to no picture.
   PicturePtr LoadPicture(const std::string& path) { return host.LoadPicture(HostFile(path)); }
 

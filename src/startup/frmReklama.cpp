@@ -5,7 +5,7 @@
 namespace orvanta {
 
 frmReklama::frmReklama(Shell& shell)
-    : Form(shell.host, {.name = "frmReklama", .width = 9600, .height = 7170, .window = WindowKind::Plain}),
+    : Form(shell.host, {.name = "frmReklama", .width = 9600, .height = 7170, .window = WindowKind::Splash}),
       Picture1(*this, "Picture1"),
       Picture2(*this, "Picture2"),
       AMR(*this, "AMR", MovieKind::Sound),

@@ -11,7 +11,7 @@ void modMain::Main() {
   CheckScreenSize();
   ShowPicOpen = false;
   ItemSoundHold = false;
-  DiscRoot = shell_.ini.discRoot();
+  DiscRoot = shell_.ini.DiscRoot();
   ControlFilesHost* components = host.ControlFiles();
   if (components) WinSysDir = GetSysDir(*components);
   DiscSysDir = DiscRoot + "SYSTEM\\";

@@ -3,7 +3,7 @@
 #include <array>
 #include <string_view>
 
-namespace orvanta::testing {
+namespace orvanta::test {
 
 /// What the platform call gives for one key of one file. Bytes in Windows-1250.
 struct LookupCase {
@@ -73,4 +73,4 @@ inline constexpr auto kLookupCases = std::to_array<LookupCase>({
     {"nul trailing byte after text", "[s]\r\nk=v\000"sv, "s"sv, "k"sv, "v"sv},
 });
 
-}  // namespace orvanta::testing
+}  // namespace orvanta::test

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-namespace orvanta::testing {
+namespace orvanta::test {
 namespace {
 
 std::vector<std::string> LinesOf(std::string_view text) {
@@ -65,4 +65,4 @@ std::string ReferenceLookup(std::string_view text, std::string_view section, std
   return "";
 }
 
-}  // namespace orvanta::testing
+}  // namespace orvanta::test

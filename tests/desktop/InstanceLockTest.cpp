@@ -26,7 +26,7 @@ class Instances : public testing::Test {
   }
 
   bool another(const InstancePlace& where) const {
-    return InAnotherProcess([&] { return InstanceLock::acquire(where) ? 0 : 1; }) == 1;
+    return InAnotherProcess([&] { return InstanceLock::Acquire(where) ? 0 : 1; }) == 1;
   }
   fs::path lockFile(const std::string& display = ":0") const { return runtime / InstanceFileName(display); }
   fs::path ownTemporary() const { return temporary / ("orvanta-" + std::to_string(geteuid())); }
@@ -38,7 +38,7 @@ class Instances : public testing::Test {
 };
 
 TEST_F(Instances, OnlyOneOfAUserOnADisplay) {
-  auto first = InstanceLock::acquire(place);
+  auto first = InstanceLock::Acquire(place);
   ASSERT_TRUE(first);
   EXPECT_TRUE(another(place));
   EXPECT_TRUE(another({runtime, temporary, ":0.1"})) << "another screen of the same display";
@@ -55,7 +55,7 @@ pid_t StartAtTheSignal(const InstancePlace& place, const std::array<int, 2>& go,
   char byte = 0;
   close(go[1]);
   if (read(go[0], &byte, 1) != 0) _exit(1);
-  const auto lock = InstanceLock::acquire(place);
+  const auto lock = InstanceLock::Acquire(place);
   byte = lock ? 'w' : 'l';
   if (write(results, &byte, 1) == 1) pause();
   _exit(0);
@@ -90,7 +90,7 @@ TEST_F(Instances, ACrashLeavesTheWayFreeEvenWhileAStartedProgramRuns) {
   const fs::path program =
       scratch.script("game", "echo $$ > '" + (scratch.path / "pid").string() + "'; exec sleep 60");
   InAnotherProcess([&] {
-    const auto lock = InstanceLock::acquire(place);
+    const auto lock = InstanceLock::Acquire(place);
     StartProcess({program}, CurrentEnvironment());
     return raise(SIGKILL);
   });
@@ -102,7 +102,7 @@ TEST_F(Instances, ACrashLeavesTheWayFreeEvenWhileAStartedProgramRuns) {
 }
 
 TEST_F(Instances, TheFileIsTheUsersAloneAndCleanersLeaveIt) {
-  const auto lock = InstanceLock::acquire(place);
+  const auto lock = InstanceLock::Acquire(place);
   struct stat status {};
   ASSERT_EQ(stat(lockFile().c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777, static_cast<mode_t>(S_ISVTX | S_IRUSR | S_IWUSR));
@@ -110,7 +110,7 @@ TEST_F(Instances, TheFileIsTheUsersAloneAndCleanersLeaveIt) {
 
 TEST_F(Instances, WithoutARuntimeFolderTheyMeetInTheTemporaryOne) {
   for (const std::string& unusable : {std::string(), (scratch.path / "missing").string()}) {
-    const auto lock = InstanceLock::acquire({unusable, temporary, ":0"});
+    const auto lock = InstanceLock::Acquire({unusable, temporary, ":0"});
     ASSERT_TRUE(lock);
     EXPECT_TRUE(another({"", temporary, ":0"})) << unusable;
   }
@@ -122,38 +122,38 @@ TEST_F(Instances, FoldersThatOthersMayEnterAreNotTrusted) {
   ScratchFolder::mode(runtime, 0777);
   fs::create_directory(ownTemporary());
   ScratchFolder::mode(ownTemporary(), 0777);
-  EXPECT_TRUE(InstanceLock::acquire(place));
+  EXPECT_TRUE(InstanceLock::Acquire(place));
   EXPECT_TRUE(fs::is_empty(runtime));
   EXPECT_TRUE(fs::is_empty(ownTemporary()));
 
   fs::remove(ownTemporary());
   fs::create_directory_symlink(runtime, ownTemporary());
   ScratchFolder::mode(runtime, 0700);
-  EXPECT_TRUE(InstanceLock::acquire({"", temporary, ":0"}));
+  EXPECT_TRUE(InstanceLock::Acquire({"", temporary, ":0"}));
   EXPECT_TRUE(fs::is_empty(runtime));
 }
 
 TEST_F(Instances, AStrangersFolderIsNotTrusted) {
   if (geteuid() != 0) GTEST_SKIP() << "only root can give a folder away";
   ASSERT_EQ(chown(runtime.c_str(), 65534, 65534), 0);
-  EXPECT_TRUE(InstanceLock::acquire(place));
+  EXPECT_TRUE(InstanceLock::Acquire(place));
   EXPECT_TRUE(fs::is_empty(runtime));
 }
 
 TEST_F(Instances, WhatStandsInTheFilesPlaceIsNeitherFollowedNorWaitedFor) {
   fs::create_symlink(scratch.path / "victim", lockFile(":1"));
-  EXPECT_TRUE(InstanceLock::acquire({runtime, temporary, ":1"}));
+  EXPECT_TRUE(InstanceLock::Acquire({runtime, temporary, ":1"}));
   EXPECT_FALSE(fs::exists(scratch.path / "victim"));
 
   ASSERT_EQ(mkfifo(lockFile(":2").c_str(), 0600), 0);
-  EXPECT_TRUE(InstanceLock::acquire({runtime, temporary, ":2"}));
+  EXPECT_TRUE(InstanceLock::Acquire({runtime, temporary, ":2"}));
   fs::create_directory(lockFile(":3"));
-  EXPECT_TRUE(InstanceLock::acquire({runtime, temporary, ":3"}));
+  EXPECT_TRUE(InstanceLock::Acquire({runtime, temporary, ":3"}));
 }
 
 TEST_F(Instances, WithNowhereToLockTheProgramStartsAllTheSame) {
   const InstancePlace nowhere{"", scratch.path / "missing", ":0"};
-  const auto lock = InstanceLock::acquire(nowhere);
+  const auto lock = InstanceLock::Acquire(nowhere);
   EXPECT_TRUE(lock);
   EXPECT_FALSE(another(nowhere));
 }

@@ -28,7 +28,7 @@ class Desktop : public testing::Test {
   int start(const FileLookup& file, const std::string& parameters = "") const {
     return InAnotherProcess([&] {
       useDesktop();
-      return ProgramStart().start(file, parameters, ShowMode::Normal);
+      return ProgramStart().Start(file, parameters, ShowMode::Normal);
     });
   }
   int start(const fs::path& file, const std::string& parameters = "") const {
@@ -42,7 +42,7 @@ class Desktop : public testing::Test {
     return InAnotherProcess([&] {
       useDesktop();
       BecomePlainUser();
-      return ProgramStart().start({"", FileLookup::Result::Found, file}, "", ShowMode::Normal);
+      return ProgramStart().Start({"", FileLookup::Result::Found, file}, "", ShowMode::Normal);
     });
   }
 
@@ -142,7 +142,7 @@ TEST_F(Desktop, WantOfProcessesIsWantOfMemory) {
               BecomePlainUser();
               const rlimit none{0, 0};
               setrlimit(RLIMIT_NPROC, &none);
-              return ProgramStart().start({"", FileLookup::Result::Found, "/bin/true"}, "", ShowMode::Normal);
+              return ProgramStart().Start({"", FileLookup::Result::Found, "/bin/true"}, "", ShowMode::Normal);
             }),
             8);
 }
@@ -260,7 +260,7 @@ TEST_F(Desktop, ProgramsGetTheEnvironmentFromBeforeTheShellsOwn) {
               const ProgramStart starter;
               setenv("ORVANTA_BEFORE", "changed", 1);
               setenv("ORVANTA_AFTER", "yes", 1);
-              return starter.start({"", FileLookup::Result::Found, program}, "", ShowMode::Normal);
+              return starter.Start({"", FileLookup::Result::Found, program}, "", ShowMode::Normal);
             }),
             32);
   EXPECT_EQ(reported(), "yes,\n");

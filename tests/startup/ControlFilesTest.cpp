@@ -13,22 +13,22 @@ using Calls = std::vector<std::string>;
 /// A system with a registry of components, as far as the control files see it: files are names with versions.
 class FakeSystem : public ControlFilesHost {
  public:
-  std::string systemDirectory() override { return "C:\\WINDOWS\\SYSTEM"; }
-  bool canRead(const std::string& path) override { return files.contains(path); }
-  std::optional<FileVersion> version(const std::string& path) override {
+  std::string SystemDirectory() override { return "C:\\WINDOWS\\SYSTEM"; }
+  bool CanRead(const std::string& path) override { return files.contains(path); }
+  std::optional<FileVersion> Version(const std::string& path) override {
     const auto file = files.find(path);
     return file == files.end() ? std::nullopt : file->second;
   }
-  void copy(const std::string& from, const std::string& to) override {
+  void Copy(const std::string& from, const std::string& to) override {
     calls.push_back("copy " + from + " to " + to);
     if (!systemWritable || !files.contains(from)) return;
     files[to] = files[from];
   }
-  std::int32_t start(const std::string& program, const std::string& parameters) override {
+  std::int32_t Start(const std::string& program, const std::string& parameters) override {
     calls.push_back("start " + program + " with " + parameters);
     return startResult;
   }
-  void message(const std::string& text) override { calls.push_back("message " + text); }
+  void Message(const std::string& text) override { calls.push_back("message " + text); }
 
   std::map<std::string, std::optional<FileVersion>> files;
   bool systemWritable = true;

@@ -41,10 +41,11 @@ std::string Number(std::uint32_t n, int bytes) {
 
 }  // namespace
 
-std::string GifBytes(int width, int height) {
+std::string GifBytes(int width, int height, std::uint32_t colour) {
   const std::string size =
       Number(static_cast<std::uint32_t>(width), 2) + Number(static_cast<std::uint32_t>(height), 2);
-  std::string gif = "GIF89a" + size + std::string("\x80\0\0\x40\x60\x80\0\0\0,\0\0\0\0", 14) + size +
+  std::string gif = "GIF89a" + size + std::string("\x80\0\0", 3) + Number(colour >> 16, 1) +
+                    Number(colour >> 8, 1) + Number(colour, 1) + std::string("\0\0\0,\0\0\0\0", 8) + size +
                     std::string("\0\x02", 2);
   // A clear code before every second pixel keeps the codes three bits long, so that no dictionary is needed.
   std::uint32_t bits = 0;
@@ -108,6 +109,13 @@ void TestDisc::Set(const std::string& section, const std::string& key, const std
   Write();
 }
 
+std::string TestDisc::Value(const std::string& section, const std::string& key) const {
+  for (const Line& line : lines_) {
+    if (line.section == section && line.key == key) return line.value;
+  }
+  return {};
+}
+
 void TestDisc::Remove(const std::string& section, const std::string& key) {
   std::erase_if(lines_, [&](const Line& line) { return line.section == section && line.key == key; });
   Write();
@@ -122,8 +130,8 @@ void TestDisc::Entry(const std::string& name, const std::vector<std::pair<std::s
   for (const auto& [key, value] : keys) Set(name, key, value);
 }
 
-void TestDisc::Picture(const std::string& name, int width, int height) {
-  WriteFile(Data() / name, GifBytes(width, height));
+void TestDisc::Picture(const std::string& name, int width, int height, std::uint32_t colour) {
+  WriteFile(Data() / name, GifBytes(width, height, colour));
 }
 
 void TestDisc::Sound(const std::string& name, double seconds) {

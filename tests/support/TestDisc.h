@@ -1,11 +1,15 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace orvanta::test {
+
+/// Of a picture for which no other is asked.
+inline constexpr std::uint32_t kPlainColour = 0x406080;
 
 /// A disc in a temporary folder that goes with the object. It begins complete: every fixed key has a value
 /// and every picture a file; the tree is empty. Texts are UTF-8 and are written in Windows-1250.
@@ -27,13 +31,14 @@ class TestDisc {
   /// An entry with one screenshot; the rest as given.
   void Entry(const std::string& name, const std::vector<std::pair<std::string, std::string>>& keys);
 
-  /// Writes a GIF file of this size below Data.
-  void Picture(const std::string& name, int width, int height);
+  /// Writes a GIF file of this size and colour (0xRRGGBB) below Data.
+  void Picture(const std::string& name, int width, int height, std::uint32_t colour = kPlainColour);
   /// Writes a silent WAV file below Data/Sound.
   void Sound(const std::string& name, double seconds);
   /// Writes any file below the disc's folder.
   void File(const std::string& path, const std::string& bytes);
 
+  std::string Value(const std::string& section, const std::string& key) const;
   /// Section and key of everything that stands in Menu.ini now.
   std::vector<std::pair<std::string, std::string>> Keys() const;
 
@@ -47,7 +52,7 @@ class TestDisc {
   std::vector<Line> lines_;  // those of one section together
 };
 
-/// The bytes of a GIF file of one colour.
-std::string GifBytes(int width, int height);
+/// The bytes of a GIF file of one colour, 0xRRGGBB.
+std::string GifBytes(int width, int height, std::uint32_t colour = kPlainColour);
 
 }  // namespace orvanta::test

@@ -1,7 +1,7 @@
 // GIO finds the application, in this process and within milliseconds. The desktops' helper scripts (xdg-mime,
-// xdg-open) can hang, are not always installed, and each tells a missing application from an unregistered type
-// in its own way. And what GIO has found is what is then started, so a start is never called a success that a
-// second look-up in a script turns into nothing.
+// xdg-open) can hang, are not always installed, and each tells a missing application from an unregistered
+// type in its own way. And what GIO has found is what is then started, so a start is never called a success
+// that a second look-up in a script turns into nothing.
 
 #include "platform/desktop/DefaultApplication.h"
 

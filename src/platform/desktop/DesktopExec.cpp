@@ -15,20 +15,14 @@ bool AsksForTarget(std::string_view word) {
 
 std::string Value(char code, const ExecFields& fields) {
   switch (code) {
-    case '%':
-      return "%";
+    case '%': return "%";
     case 'f':
-    case 'F':
-      return fields.path;
+    case 'F': return fields.path;
     case 'u':
-    case 'U':
-      return fields.uri;
-    case 'c':
-      return fields.name;
-    case 'k':
-      return fields.entry;
-    default:
-      return "";
+    case 'U': return fields.uri;
+    case 'c': return fields.name;
+    case 'k': return fields.entry;
+    default: return "";
   }
 }
 

@@ -39,7 +39,7 @@ int& PreparedForQt(int& argc) {
 DesktopHost::DesktopHost(int& argc, char** argv, std::filesystem::path discFolder)
     : application_(PreparedForQt(argc), argv),
       discFolder_(std::move(discFolder)),
-      instance_(InstanceLock::acquire(InstancePlaceFromEnvironment())) {
+      instance_(InstanceLock::Acquire(InstancePlaceFromEnvironment())) {
   application_.setQuitOnLastWindowClosed(false);
   clock_.start();
 }
@@ -55,13 +55,21 @@ Size DesktopHost::ScreenSize() const {
 }
 
 Point DesktopHost::CursorPos() const {
-  const QPoint cursor = QCursor::pos();
-  return Point{cursor.x(), cursor.y()} - ScreenOrigin();
+  if (!cursor_) {
+    const QPoint cursor = QCursor::pos();
+    cursor_ = Point{cursor.x(), cursor.y()} - ScreenOrigin();
+  }
+  return *cursor_;
 }
 
 Form* DesktopHost::ActiveForm() const {
   const auto* window = dynamic_cast<const DesktopWindow*>(QApplication::activeWindow());
   return window && !window->isMinimized() ? &window->TheForm() : nullptr;
+}
+
+void DesktopHost::TakeInput() {
+  QCoreApplication::processEvents();
+  cursor_.reset();
 }
 
 void DesktopHost::WaitForQt(Milliseconds deadline) {
@@ -73,6 +81,7 @@ void DesktopHost::WaitForQt(Milliseconds deadline) {
     wake.start(std::chrono::milliseconds(left));
   }
   QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+  cursor_.reset();
 }
 
 std::unique_ptr<FormWindow> DesktopHost::MakeWindow(Form& form, WindowKind kind) {
@@ -92,6 +101,7 @@ void DesktopHost::MsgBox(const std::string& text, int style, const std::string& 
 
 void DesktopHost::Sleep(Milliseconds duration) {
   FlushToScreen();
+  cursor_.reset();
   std::this_thread::sleep_for(std::chrono::milliseconds(std::max<Milliseconds>(0, duration)));
 }
 
@@ -107,15 +117,13 @@ PicturePtr DesktopHost::LoadPicture(const std::filesystem::path& file) {
 
 bool DesktopHost::IsSoundCardEnabled() { return orvanta::IsSoundCardEnabled(); }
 
-std::unique_ptr<MoviePlayer> DesktopHost::MakePlayer(MovieKind kind) {
-  return MakeGstPlayer(kind);
-}
+std::unique_ptr<MoviePlayer> DesktopHost::MakePlayer(MovieKind kind) { return MakeGstPlayer(kind); }
 
 int DesktopHost::StartFile(const StartRequest& request) {
   FileLookup::Result result = FileLookup::Result::FolderMissing;
   if (request.status == StartRequest::Status::Found) result = FileLookup::Result::Found;
   if (request.status == StartRequest::Status::FileMissing) result = FileLookup::Result::FileMissing;
-  return programs_.start({request.name, result, request.file}, request.parameters, ShowMode::Normal);
+  return programs_.Start({request.name, result, request.file}, request.parameters, ShowMode::Normal);
 }
 
 }  // namespace orvanta

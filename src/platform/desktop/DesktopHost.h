@@ -28,7 +28,7 @@ class DesktopHost : public Host {
   void WaitForQt(Milliseconds deadline);
 
   Milliseconds Now() override { return clock_.elapsed(); }
-  void TakeInput() override { QCoreApplication::processEvents(); }
+  void TakeInput() override;
   void WaitForInput(Milliseconds deadline) override { WaitForQt(deadline); }
   std::string AppPath() const override { return "D:\\"; }
   std::filesystem::path DriveRoot() const override { return discFolder_; }
@@ -53,6 +53,8 @@ class DesktopHost : public Host {
   const std::optional<InstanceLock> instance_;
   PrivateFonts fonts_;
   QElapsedTimer clock_;
+  // Asking the server takes its time, and between two looks at the input nothing is seen to move.
+  mutable std::optional<Point> cursor_;
 };
 
 }  // namespace orvanta

@@ -46,6 +46,8 @@ void DesktopWindow::changeEvent(QEvent* event) {
   if (event->type() == QEvent::WindowStateChange && isMinimized() != wasMinimised_) {
     wasMinimised_ = isMinimized();
     Post(wasMinimised_ ? FormEvent::Kind::Minimise : FormEvent::Kind::Restore);
+    // Restored so soon that Qt has not noticed the loss of the activation, it tells of no new one either.
+    if (!wasMinimised_ && isActiveWindow()) Post(FormEvent::Kind::Activate);
   }
   QWidget::changeEvent(event);
 }

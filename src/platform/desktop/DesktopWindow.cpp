@@ -72,7 +72,7 @@ void DesktopWindow::SetVisible(bool visible) {
 }
 
 void DesktopWindow::ShowNow() {
-  if (kind_ == WindowKind::Plain) SkipTaskBar(*this);
+  if (kind_ == WindowKind::Plain || kind_ == WindowKind::Splash) SkipTaskBar(*this);
   if (kind_ == WindowKind::FullScreen) {
     showFullScreen();
   } else {

@@ -84,7 +84,7 @@ GstPlayback::GstPlayback(MovieKind kind, const std::filesystem::path& file, cons
 }
 
 GstPlayback::~GstPlayback() {
-  shared_->news.Abandon();
+  shared_->news.Add({.abandoned = true});
   shared_->jobs.Close([shared = shared_] { shared->transport.reset(); });
   if (shared_->jobs.WaitServed(kClosePatience))
     thread_.join();

@@ -91,19 +91,16 @@ std::string InstanceFileName(std::string_view display) {
   return "orvanta-" + escaped.substr(0, LongestDisplay) + ".lock";
 }
 
-std::optional<InstanceLock> InstanceLock::acquire(const InstancePlace& place) {
+std::optional<InstanceLock> InstanceLock::Acquire(const InstancePlace& place) {
   const std::string name = InstanceFileName(place.display);
   for (const bool inRuntimeFolder : {true, false}) {
     const Descriptor folder =
         inRuntimeFolder ? OpenOwnFolder(place.runtimeFolder) : OpenTemporaryFolder(place.temporaryFolder);
     Descriptor file = OpenLockFile(folder, name);
     switch (TryLock(file)) {
-      case Attempt::Locked:
-        return InstanceLock(std::move(file));
-      case Attempt::Taken:
-        return std::nullopt;
-      case Attempt::Impossible:
-        break;
+      case Attempt::Locked: return InstanceLock(std::move(file));
+      case Attempt::Taken: return std::nullopt;
+      case Attempt::Impossible: break;
     }
   }
   return InstanceLock(Descriptor());

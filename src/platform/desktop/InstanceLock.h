@@ -30,7 +30,7 @@ class InstanceLock {
   /// Never waits. Nothing if another instance holds the mark. Where no lock file can be made in either folder
   /// (missing, not the user's alone, full, read-only), the mark is given without one: the program had better
   /// start twice than never.
-  static std::optional<InstanceLock> acquire(const InstancePlace& place);
+  static std::optional<InstanceLock> Acquire(const InstancePlace& place);
 
   InstanceLock(InstanceLock&&) noexcept = default;
   InstanceLock& operator=(InstanceLock&&) noexcept = default;

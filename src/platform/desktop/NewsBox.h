@@ -15,23 +15,21 @@ class NewsBox {
     bool noDecoder = false;  ///< Nothing is installed that decodes what this player is for.
     bool ended = false;
     bool failed = false;
+    bool abandoned = false;  ///< Nobody is interested any more. Holds for ever.
   };
 
   /// Notes what is true in `news`.
   void Add(const News& news);
   /// Gives and forgets everything.
   News Take();
-  /// Waits until data stand ready, or the file has ended or failed, or `Abandon` was called. Leaves an end or
-  /// a failure to be taken.
+  /// Waits until data stand ready, or the file has ended or failed, or the player is abandoned. Leaves an end
+  /// or a failure to be taken.
   News Await(std::chrono::milliseconds patience);
-  /// From now on nothing is waited for.
-  void Abandon();
 
  private:
   std::mutex mutex_;
   std::condition_variable changed_;
   News news_;
-  bool abandoned_ = false;
 };
 
 }  // namespace orvanta

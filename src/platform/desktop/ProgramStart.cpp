@@ -64,80 +64,72 @@ StartCode CodeOfNativeError(int error, const std::filesystem::path& file) {
 
 ProgramStart::ProgramStart(std::vector<std::string> forPrograms) : environment(std::move(forPrograms)) {}
 
-std::int32_t ProgramStart::start(const FileLookup& file, std::string_view parameters, ShowMode) const {
+std::int32_t ProgramStart::Start(const FileLookup& file, std::string_view parameters, ShowMode) const {
   const auto code = [&] {
     const std::string_view scheme = SchemeOf(file.text);
-    if (!scheme.empty()) return openWithApplication(AddressTarget(scheme, file.text));
+    if (!scheme.empty()) return OpenWithApplication(AddressTarget(scheme, file.text));
     if (file.result == FileLookup::Result::FileMissing) return StartCode::FileNotFound;
     if (file.result == FileLookup::Result::FolderMissing) return StartCode::PathNotFound;
     std::error_code error;
     const std::filesystem::path path = std::filesystem::absolute(file.hostPath, error);
-    return error ? CodeOfError(error.value()) : startFile(path, parameters);
+    return error ? CodeOfError(error.value()) : StartFound(path, parameters);
   }();
   return static_cast<std::int32_t>(code);
 }
 
-StartCode ProgramStart::startFile(const std::filesystem::path& file, std::string_view parameters) const {
+StartCode ProgramStart::StartFound(const std::filesystem::path& file, std::string_view parameters) const {
   struct stat status {};
   if (stat(file.c_str(), &status) != 0) return CodeOfError(errno);
-  if (S_ISDIR(status.st_mode)) return openFolder(file);
+  if (S_ISDIR(status.st_mode)) return OpenFolder(file);
   // Pipes and devices would be opened for their effect.
   if (!S_ISREG(status.st_mode)) return StartCode::AccessDenied;
   const Descriptor opened(open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   if (!opened) return CodeOfError(errno);
   const bool executable = (status.st_mode & (S_IXUSR | S_IXGRP | S_IXOTH)) != 0;
   switch (KindOfProgram(opened, file, executable)) {
-    case ProgramKind::Native:
-      return startNative(file, parameters);
-    case ProgramKind::Windows:
-      return startForeign("wine", Joined({file}, SplitArguments(parameters)));
+    case ProgramKind::Native: return StartNative(file, parameters);
+    case ProgramKind::Windows: return StartForeign("wine", Joined({file}, SplitArguments(parameters)));
     case ProgramKind::WindowsFile:
-      return startForeign("wine", Joined({"start", "/unix", file}, SplitArguments(parameters)));
-    case ProgramKind::Dos:
-      return startForeign("dosbox", DosBoxArguments(file, parameters));
-    case ProgramKind::Broken:
-      return StartCode::BadProgram;
-    case ProgramKind::Document:
-      break;
+      return StartForeign("wine", Joined({"start", "/unix", file}, SplitArguments(parameters)));
+    case ProgramKind::Dos: return StartForeign("dosbox", DosBoxArguments(file, parameters));
+    case ProgramKind::Broken: return StartCode::BadProgram;
+    case ProgramKind::Document: break;
   }
-  return openWithApplication(FileTarget(file));
+  return OpenWithApplication(FileTarget(file));
 }
 
-StartCode ProgramStart::startNative(const std::filesystem::path& file, std::string_view parameters) const {
+StartCode ProgramStart::StartNative(const std::filesystem::path& file, std::string_view parameters) const {
   return CodeOfNativeError(StartProcess(Joined({file}, SplitArguments(parameters)), environment), file);
 }
 
-StartCode ProgramStart::startForeign(std::string_view runner, std::vector<std::string> arguments) const {
-  const auto program = FindExecutable(runner, searchPath());
+StartCode ProgramStart::StartForeign(std::string_view runner, std::vector<std::string> arguments) const {
+  const auto program = FindExecutable(runner, SearchPath());
   if (!program) return StartCode::NoAssociation;
   const StartCode code = CodeOfError(StartProcess(Joined({*program}, arguments), environment));
   // The file is there; what was not found is the runner.
   return code == StartCode::FileNotFound ? StartCode::NoAssociation : code;
 }
 
-StartCode ProgramStart::openFolder(const std::filesystem::path& folder) const {
+StartCode ProgramStart::OpenFolder(const std::filesystem::path& folder) const {
   if (access(folder.c_str(), R_OK | X_OK) != 0) return StartCode::AccessDenied;
-  const StartCode code = openWithApplication(FolderTarget(folder));
+  const StartCode code = OpenWithApplication(FolderTarget(folder));
   const bool nothingOpensIt = code == StartCode::NoAssociation || code == StartCode::IncompleteAssociation;
   return nothingOpensIt ? StartCode::AccessDenied : code;
 }
 
-StartCode ProgramStart::openWithApplication(const OpenTarget& target) const {
-  const ApplicationCommand command = FindApplication(target, searchPath());
+StartCode ProgramStart::OpenWithApplication(const OpenTarget& target) const {
+  const ApplicationCommand command = FindApplication(target, SearchPath());
   switch (command.state) {
-    case ApplicationCommand::State::NotRegistered:
-      return StartCode::NoAssociation;
-    case ApplicationCommand::State::Missing:
-      return StartCode::IncompleteAssociation;
-    case ApplicationCommand::State::Found:
-      break;
+    case ApplicationCommand::State::NotRegistered: return StartCode::NoAssociation;
+    case ApplicationCommand::State::Missing: return StartCode::IncompleteAssociation;
+    case ApplicationCommand::State::Found: break;
   }
   const StartCode code = CodeOfError(StartProcess(command.arguments, environment));
   // The document is there; what was not found is the application.
   return code == StartCode::FileNotFound ? StartCode::IncompleteAssociation : code;
 }
 
-std::string_view ProgramStart::searchPath() const {
+std::string_view ProgramStart::SearchPath() const {
   constexpr std::string_view Name = "PATH=";
   constexpr std::string_view Usual = "/usr/local/bin:/usr/bin:/bin";
   const auto path =

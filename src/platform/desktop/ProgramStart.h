@@ -46,15 +46,15 @@ class ProgramStart {
   ///
   /// `parameters` (UTF-8) are the program's command line in the manner of Windows; see `SplitArguments`.
   /// Documents, folders and addresses take none.
-  std::int32_t start(const FileLookup& file, std::string_view parameters, ShowMode mode) const;
+  std::int32_t Start(const FileLookup& file, std::string_view parameters, ShowMode mode) const;
 
  private:
-  StartCode startFile(const std::filesystem::path& file, std::string_view parameters) const;
-  StartCode startNative(const std::filesystem::path& file, std::string_view parameters) const;
-  StartCode startForeign(std::string_view runner, std::vector<std::string> arguments) const;
-  StartCode openFolder(const std::filesystem::path& folder) const;
-  StartCode openWithApplication(const OpenTarget& target) const;
-  std::string_view searchPath() const;
+  StartCode StartFound(const std::filesystem::path& file, std::string_view parameters) const;
+  StartCode StartNative(const std::filesystem::path& file, std::string_view parameters) const;
+  StartCode StartForeign(std::string_view runner, std::vector<std::string> arguments) const;
+  StartCode OpenFolder(const std::filesystem::path& folder) const;
+  StartCode OpenWithApplication(const OpenTarget& target) const;
+  std::string_view SearchPath() const;
 
   std::vector<std::string> environment;
 };

@@ -101,13 +101,10 @@ bool AnyCardPlays() {
 
 SoundOutput FindSoundOutput(std::chrono::milliseconds patience) {
   switch (AskServer(patience)) {
-    case Answer::RealSink:
-      return SoundOutput::Pulse;
-    case Answer::NoServer:
-      return AnyCardPlays() ? SoundOutput::Alsa : SoundOutput::None;
+    case Answer::RealSink: return SoundOutput::Pulse;
+    case Answer::NoServer: return AnyCardPlays() ? SoundOutput::Alsa : SoundOutput::None;
     case Answer::DummyOnly:
-    case Answer::Silence:
-      break;
+    case Answer::Silence: break;
   }
   return SoundOutput::None;
 }

@@ -6,7 +6,9 @@
 
 namespace orvanta {
 
-void HeadlessHost::At(Milliseconds time, std::function<void()> action) { script_.emplace(time, std::move(action)); }
+void HeadlessHost::At(Milliseconds time, std::function<void()> action) {
+  script_.emplace(time, std::move(action));
+}
 
 void HeadlessHost::TakeInput() {
   while (!script_.empty() && script_.begin()->first <= now_) {
@@ -30,6 +32,7 @@ void HeadlessHost::Advance(Milliseconds to) {
 
 void HeadlessHost::Sleep(Milliseconds duration) {
   sleeps.push_back({now_, duration});
+  if (OnSleep) OnSleep();
   Advance(now_ + std::max<Milliseconds>(0, duration));
 }
 

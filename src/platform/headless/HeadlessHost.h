@@ -60,8 +60,9 @@ class HeadlessHost : public Host {
     Milliseconds at, duration;
   };
   std::vector<Pause> sleeps;
+  std::function<void()> OnSleep;  ///< called as a sleep begins, to see what stands on the screen during it
 
-  // The script. Places are pixels of the screen.
+  // The script. Places are pixels of the screen, which the mouse does not leave.
   void At(Milliseconds time, std::function<void()> action);
   void After(Milliseconds delay, std::function<void()> action) { At(now_ + delay, std::move(action)); }
   void MoveMouse(Point to);
@@ -94,8 +95,12 @@ class HeadlessHost : public Host {
   void MsgBox(const std::string& text, int style, const std::string& title) override;
   void Sleep(Milliseconds duration) override;
   PicturePtr LoadPicture(const std::filesystem::path& file) override;
-  void AddFont(const std::filesystem::path& file) override { fonts.push_back("+" + file.filename().string()); }
-  void RemoveFont(const std::filesystem::path& file) override { fonts.push_back("-" + file.filename().string()); }
+  void AddFont(const std::filesystem::path& file) override {
+    fonts.push_back("+" + file.filename().string());
+  }
+  void RemoveFont(const std::filesystem::path& file) override {
+    fonts.push_back("-" + file.filename().string());
+  }
   bool IsSoundCardEnabled() override { return soundCard; }
   std::unique_ptr<MoviePlayer> MakePlayer(MovieKind kind) override;
   int StartFile(const StartRequest& request) override;

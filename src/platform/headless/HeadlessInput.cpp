@@ -31,7 +31,7 @@ void HeadlessHost::PostMouse(FormEvent::Kind kind, int button) {
 }
 
 void HeadlessHost::MoveMouse(Point to) {
-  mouse_ = to;
+  mouse_ = {std::clamp(to.x, 0, screen.width - 1), std::clamp(to.y, 0, screen.height - 1)};
   PostMouse(FormEvent::Kind::MouseMove, held_);
 }
 
@@ -75,6 +75,10 @@ void HeadlessHost::Restore(Form& form) {
 void HeadlessHost::PutOnTop(HeadlessWindow& window, bool activate) {
   std::erase(windows, &window);
   windows.push_back(&window);
+  // A window stands before its owner and takes the activation in its place.
+  for (HeadlessWindow* owned : windows) {
+    if (owned->owner == &window.form && owned->visible) return PutOnTop(*owned, activate);
+  }
   if (activate && window.visible && !window.minimised) SetActive(&window.form);
 }
 

@@ -36,7 +36,8 @@ void HeadlessPlayer::Open(const std::filesystem::path& file) {
     if (state_ != MovieState::NoFile) state_ = MovieState::Stopped;
     return;
   }
-  if (kind_ == MovieKind::Film && !filmSize_.Empty()) frame_ = std::make_shared<PictureFile>(name_, filmSize_);
+  if (kind_ == MovieKind::Film && !filmSize_.Empty())
+    frame_ = std::make_shared<PictureFile>(name_, filmSize_);
   from_ = 0;
   loadedAt_ = since_ = host_.Now() + delay;
   state_ = MovieState::Running;
@@ -105,7 +106,8 @@ std::optional<double> WavLength(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
   std::array<char, 44> head{};
   stream.read(head.data(), static_cast<std::streamsize>(head.size()));
-  if (stream.gcount() < 44 || std::memcmp(head.data(), "RIFF", 4) != 0 || std::memcmp(&head[8], "WAVE", 4) != 0) {
+  if (stream.gcount() < 44 || std::memcmp(head.data(), "RIFF", 4) != 0 ||
+      std::memcmp(&head[8], "WAVE", 4) != 0) {
     return std::nullopt;
   }
   const auto number = [&](std::size_t at) {

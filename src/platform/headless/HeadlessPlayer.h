@@ -41,8 +41,8 @@ class HeadlessPlayer : public MoviePlayer {
   std::string name_;
   MovieState state_ = MovieState::NoFile;
   double length_ = 0;
-  double from_ = 0;            // played up to the last change of state
-  Milliseconds since_ = 0;     // when it last began to run
+  double from_ = 0;         // played up to the last change of state
+  Milliseconds since_ = 0;  // when it last began to run
   Milliseconds loadedAt_ = 0;
   bool playable_ = false;
   int volume_ = 0;
