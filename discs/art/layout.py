@@ -28,9 +28,16 @@ TRACK = (120, 373, 372)  # the music marker's first column, row and last column
 
 # Buttons of the main window: left, top, width, height.
 BUTTONS = {
-    "Snd1": (50, 70, 36, 36), "Snd2": (50, 70, 36, 36), "Hlp": (17, 323, 46, 46), "Info": (17, 382, 46, 46),
-    "Min": (508, 70, 36, 36), "Ext": (552, 70, 36, 36),
-    "Start": (104, 465, 92, 23), "Pokaz": (104, 465, 92, 23), "Pauza": (202, 465, 78, 23), "Stop": (286, 465, 78, 23),
+    "Snd1": (50, 70, 36, 36),
+    "Snd2": (50, 70, 36, 36),
+    "Hlp": (17, 323, 46, 46),
+    "Info": (17, 382, 46, 46),
+    "Min": (508, 70, 36, 36),
+    "Ext": (552, 70, 36, 36),
+    "Start": (104, 465, 92, 23),
+    "Pokaz": (104, 465, 92, 23),
+    "Pauza": (202, 465, 78, 23),
+    "Stop": (286, 465, 78, 23),
 }
 PRODUCER = (436, 465, 122, 23)
 
@@ -38,8 +45,11 @@ PRODUCER = (436, 465, 122, 23)
 CINEMA = (560, 468)
 CINEMA_MIDDLE = (280, 196)
 CINEMA_BUTTONS = {
-    "CPlay": ("Start", 166, 416, 44, 44), "CPause": ("Pauza", 228, 416, 44, 44), "CStop": ("Stop", 290, 416, 44, 44),
-    "CScale": ("Full", 352, 416, 44, 44), "CFScale": ("Small", 352, 416, 44, 44),
+    "CPlay": ("Start", 166, 416, 44, 44),
+    "CPause": ("Pauza", 228, 416, 44, 44),
+    "CStop": ("Stop", 290, 416, 44, 44),
+    "CScale": ("Full", 352, 416, 44, 44),
+    "CFScale": ("Small", 352, 416, 44, 44),
 }
 
 PAGE_X = 35  # the shell puts the pages here, in the menu area

@@ -44,7 +44,7 @@ def pen_strokes(glyph, *lines):
 def curve(points, t):
     """The point at t on the Bezier curve of four points."""
     u = 1 - t
-    return tuple(u ** 3 * a + 3 * u * u * t * b + 3 * u * t * t * c + t ** 3 * d for a, b, c, d in zip(*points))
+    return tuple(u**3 * a + 3 * u * u * t * b + 3 * u * t * t * c + t**3 * d for a, b, c, d in zip(*points))
 
 
 def derive(letter, base, *lines):
@@ -89,11 +89,16 @@ font.fontname = family.replace(" ", "")
 font.familyname = font.fullname = family
 font.weight = "Regular"
 font.sfnt_names = ()
-for entry, text in (("Family", family), ("SubFamily", "Regular"), ("Fullname", family), ("UniqueID", f"{family} 1.0"),
-                    ("Version", "Version 1.0"),
-                    ("Copyright", licence.split("This Font Software")[0].strip()),
-                    ("License", "This Font Software is licensed under the SIL Open Font License, Version 1.1."),
-                    ("License URL", "https://openfontlicense.org")):
+for entry, text in (
+    ("Family", family),
+    ("SubFamily", "Regular"),
+    ("Fullname", family),
+    ("UniqueID", f"{family} 1.0"),
+    ("Version", "Version 1.0"),
+    ("Copyright", licence.split("This Font Software")[0].strip()),
+    ("License", "This Font Software is licensed under the SIL Open Font License, Version 1.1."),
+    ("License URL", "https://openfontlicense.org"),
+):
     font.appendSFNTName("English (US)", entry, text)
 # A line of 1.45 em, with most of the air above: so set, a caption stands in the middle of the menu's hover box.
 ASCENT, DESCENT = 1100, 380
