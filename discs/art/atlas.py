@@ -33,7 +33,7 @@ ENTRIES = [
     Entry("Latimeria", "Latimeria chalumnae", "latimeria", creatures.coelacanth, 150, 700, "do 2 m",
           "Ryba, która zapomniała wymrzeć. Znana z wapiennych odcisków, w 1938 roku trafiła żywa w rybacką sieć. Dni przesypia "
           "w podmorskich jaskiniach, nocą dryfuje głową w dół i słucha prądu.",
-          "Porusza płetwami na krzyż, jak pies idący stępa, a dorosłość osiąga po pięćdziesiątce i dożywa stu lat."),
+          "Porusza płetwami na krzyż, jak koń idący stępa, a dorosłość osiąga po pięćdziesiątce i dożywa stu lat."),
     Entry("Żabnica głębinowa", "Melanocetus johnsonii", "zabnica", creatures.angler, 1000, 4000, "samica do 18 cm",
           "Wędkarka z własną latarnią. Na końcu wędki mieszkają świecące bakterie, a zęby uchylają się tylko do środka. "
           "Łyka zdobycz większą od siebie, bo na następną może czekać miesiąc.",
@@ -65,7 +65,7 @@ ENTRIES = [
     Entry("Rurkoczułkowiec", "Riftia pachyptila", "riftia", creatures.tubeworms, 1500, 2600, "do 2 m",
           "Las przy gorącym kominie. Nie ma ust ani żołądka, karmią go bakterie, które żyją z siarkowodoru. "
           "Czerwone pióropusze chwytają tlen i chowają się do rury, gdy ktoś puka.",
-          "W dwa lata dorasta wysokości drzwi; to rekord wśród bezkręgowców."),
+          "W dwa lata dorasta do wysokości drzwi; to rekord wśród bezkręgowców."),
     Entry("Równonóg olbrzymi", "Bathynomus giganteus", "rownonog", creatures.isopod, 170, 2100, "do 40 cm",
           "Kuzyn stonogi z piwnicy, który na dnie oceanu urósł do rozmiarów kota. Sprząta po wielorybach, a między posiłkami "
           "umie pościć latami. Zaniepokojony zwija się w kulę.",
@@ -83,7 +83,7 @@ ENTRIES = [
           "niż młot w stoczni. Tak widzi w ciemności.",
           "Śpi pionowo, całą rodziną, jak las zatopionych drzew."),
     Entry("Strzykwa pływająca", "Enypniastes eximia", "strzykwa", creatures.sea_cucumber, 500, 5000, "do 25 cm",
-          "Przezroczysta i różowa, widać przez nią wczorajszą kolację. Gdy dno się znudzi, odpycha się i płynie, falując welonem. "
+          "Przezroczysta i różowa, widać przez nią wczorajszą kolację. Gdy dno jej się znudzi, odpycha się i płynie, falując welonem. "
           "Dotknięta, zostawia na napastniku świecącą skórę.",
           "Złapany złodziej świeci potem przez całą noc i wszyscy wiedzą, kto to zrobił.", 1.06),
 ]

@@ -14,10 +14,10 @@ SHOTS = (388, 184, 161, 259)
 # The marks for back and top, in the strip; the main picture bears them at the same place under it.
 BACK_MARK = (5, 2, 30, 29)
 TOP_MARK = (37, 2, 30, 29)
-LINE_NAME = (78, 5)  # the menu's name in the strip
+LINE_NAME = (80, 3)  # the menu's name in the strip
 
 LABEL = (16, 9)  # the first menu label, in the menu area
-TITLE = (122, 112)
+TITLE = (124, 111)
 
 SLIDER_BAR = (440, 40, 26, 260)  # in the menu area
 SLIDER_KNOB = (26, 44)

@@ -56,7 +56,7 @@ def picture(name, x, y, w=None, h=None):
 
 def label(x, y, content, section, fill):
     pixels = number(section, "FontSize") * 96 / 72
-    return svg.text(x, y + pixels * .93, content, pixels, fill, value(section, "FontName"))
+    return svg.text(x, y + pixels * 1.07, content, pixels, fill, value(section, "FontName"))
 
 
 def wrapped(x, y, width, content, pixels, fill, weight="normal"):

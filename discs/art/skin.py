@@ -1,6 +1,7 @@
 """The main window: the vessel's console, drawn beyond the window's edges so that the edge strips can be cut from it."""
 
 import area
+import creatures
 import layout
 import outline
 import parts
@@ -34,11 +35,13 @@ def hull():
 
 
 def hull_defs():
-    # The moulding is what remains of the silhouette when its core, shrunk by the moulding's width, is taken out.
+    # The moulding is what remains of the silhouette when its core, shrunk by the moulding's width, is taken out. The
+    # renderer shrinks by ten device pixels at most, hence in two steps.
     return f"""<clipPath id="outline">{silhouette()}</clipPath>
 {svg.gradient("hullPaint", [(0, "#5f9a91"), (.3, "#3d7571"), (.75, "#265355"), (1, "#183c3f")], 0, 40, 0, 496, "userSpaceOnUse")}
 <filter id="hollow" {_EVERYWHERE} filterUnits="userSpaceOnUse">
-<feMorphology in="SourceAlpha" operator="erode" radius="5.4" result="core"/>
+<feMorphology in="SourceAlpha" operator="erode" radius="2.7"/>
+<feMorphology operator="erode" radius="2.7" result="core"/>
 <feComposite in="SourceGraphic" in2="core" operator="out"/></filter>"""
 
 
@@ -81,7 +84,7 @@ def fittings():
     out = []
     for top, height in outline.RIGHT_STRIPS:
         middle = top + height / 2
-        for x, width, half, metal in ((660, 100, 5, "copper"), (646, 17, 6.5, "steel"), (630, 19, 8.5, "brass"),
+        for x, width, half, metal in ((667, 100, 5, "copper"), (646, 22, 6.5, "steel"), (630, 19, 8.5, "brass"),
                                       (604, 28, 15, "brass"), (592, 14, 20, "brass")):
             out.append(f'<rect x="{x}" y="{middle - half}" width="{width}" height="{2 * half}" '
                        f'fill="url(#{metal}V)"/>')
@@ -103,7 +106,7 @@ def title_plate():
 
 def crown():
     """Between the shoulders: two manometers and the coelacanth in relief."""
-    fish = parts.coelacanth(0, 0, 1, "#a97f3e")
+    fish = parts.coelacanth(0, 0, 1, "#c99b50")
     return (f'<ellipse cx="318" cy="93" rx="62" ry="17" fill="#000" opacity=".5" filter="url(#blur2)" '
             f'transform="translate(1,2)"/>'
             f'<ellipse cx="318" cy="92" rx="62" ry="15.5" fill="{svg.BRASS}" filter="url(#bevel1)"/>'
@@ -138,9 +141,9 @@ def window_port():
     view = (f'<rect x="{cx - 40}" y="{cy - 40}" width="80" height="80" fill="url(#portSea)"/>'
             f'<g opacity=".5"><path d="M{cx - 4},{cy - 40} l-26,80 h16 l18,-80 Z" fill="#c9fff0" opacity=".35"/>'
             f'<path d="M{cx + 12},{cy - 40} l4,80 h14 l-8,-80 Z" fill="#c9fff0" opacity=".25"/></g>'
-            + parts.coelacanth(cx - 24, cy - 10, .2, "#04161b", flip=True)
+            + f'<g transform="translate({cx + 1},{cy - 1}) scale(-.118,.118)">{creatures.coelacanth()}</g>'
             + f'<path d="M{cx - 40},{cy + 18} q14,-8 26,-2 q16,8 30,-1 q12,-6 26,2 v30 h-82 Z" fill="#03131a"/>'
-            + parts.bubbles(cx + 6, cy - 24, 14, 40, 9, 3))
+            + parts.bubbles(cx - 20, cy - 24, 8, 18, 5, 3))
     return parts.porthole(cx, cy, 37, 26, view)
 
 
@@ -201,12 +204,12 @@ def drawing():
 <g transform="translate({x + layout.LINE[0]},{y + layout.LINE[1]})">{area.line_strip()}</g>
 {crown()}{grille()}{title_plate()}{depth_gauge()}{window_port()}{side_plate()}{console()}
 {"".join(parts.screw(sx, sy, 3, sx * 3) for sx, sy in ((48, 240), (590, 98), (590, 462), (62, 470), (48, 116)))}"""
-    defs = parts.DEFS + area.STRIP_DEFS + hull_defs() + "".join([
+    defs = parts.DEFS + creatures.DEFS + area.STRIP_DEFS + hull_defs() + "".join([
         svg.gradient("shaftShade", [(0, "#000", 0), (1, "#000", .35)]),
         svg.gradient("collar", [(0, "#6b4c1e"), (.18, "#d9b065"), (.32, "#fff0c6"), (.5, "#c1964f"), (.8, "#7b5522"),
                                 (1, "#3c280d")], x2=1, y2=0),
         svg.gradient("flange", svg.BRASS_STOPS, 0, 110, 0, 245, "userSpaceOnUse"),
-        svg.lighting("reliefFish", 2.4, 9, shine=.5, exponent=40),
+        svg.lighting("reliefFish", 3.4, 15, shine=.75, exponent=28),
         svg.radial("sunk", [(0, "#6d5020"), (.8, "#4a3412"), (1, "#2a1c08")]),
         svg.gradient("night", [(0, "#04131a"), (1, "#0d2b30")]),
         svg.gradient("bed", [(0, "#86aba2"), (1, "#4f7b76")]),

@@ -116,13 +116,18 @@ def render(drawing, png, oversampling=OVERSAMPLING):
     return png
 
 
-def gif(png, target, colours=256, dither="FloydSteinberg", crop=None, lossy=0):
-    """Reduces a PNG file to a GIF file; `crop` is the part to take, as x, y, width, height; `lossy` the loss allowed."""
-    target = pathlib.Path(target)
+def gif(png, target, colours=256, dither=.6, crop=None, lossy=0):
+    """Reduces a PNG file to a GIF file.
+
+    `dither` is the share of each pixel's error that its neighbours take over, `crop` the part to take, as x, y, width,
+    height, and `lossy` how much may be lost to make the file smaller.
+    """
+    target, cut, few = pathlib.Path(target), pathlib.Path(png).with_suffix(".cut.png"), pathlib.Path(png).with_suffix(".few.png")
     target.parent.mkdir(parents=True, exist_ok=True)
-    cut = ["-crop", f"{crop[2]}x{crop[3]}+{crop[0]}+{crop[1]}", "+repage"] if crop else []
-    how = ["+dither"] if dither is None else ["-dither", dither]
-    run("convert", str(png), *cut, *how, "-colors", str(colours), str(target))
+    part = ["-crop", f"{crop[2]}x{crop[3]}+{crop[0]}+{crop[1]}", "+repage"] if crop else []
+    run("convert", str(png), *part, "-alpha", "off", str(cut))
+    run("pngquant", "--force", "--speed", "1", f"--floyd={dither}" if dither else "--nofs", "--output", str(few), str(colours), str(cut))
+    run("convert", str(few), str(target))
     run("gifsicle", "-b", "-O3", "--no-comments", *([f"--lossy={lossy}"] if lossy else []), str(target))
     return target
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "config/ProfileString.h"
+#include "config/Fold1250.h"
 #include "config/Windows1250.h"
 
 namespace orvanta {

@@ -48,9 +48,12 @@ void EventLoop::DeliverInput(std::uint64_t last) {
   while (!queue_.empty() && queue_.front().number <= last) {
     const FormEvent event = queue_.front().event;
     queue_.pop_front();
-    if (Blocked(event)) continue;
     Delivery delivery(*this);
-    event.form->Deliver(event);
+    if (Blocked(event)) {
+      event.form->Miss(event);
+    } else {
+      event.form->Deliver(event);
+    }
   }
 }
 

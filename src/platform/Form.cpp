@@ -96,6 +96,8 @@ void Form::PropertyChanged(const void* property) {
     VisibleChanged();
   } else if (property == &WindowState) {
     window_->SetMinimised(WindowState == kMinimised);
+    // The release of a button that is held goes elsewhere.
+    EndPress();
     Form_Resize();
   } else if (property == &MousePointer) {
     pointerStale_ = true;

@@ -64,6 +64,8 @@ class Form : public PropertyOwner, public Container {
   /// The window's place on the screen, in pixels.
   Rect Place() const;
   void Deliver(const FormEvent& event);
+  /// An event that a modal window keeps from the form: a release ends its press, without a click.
+  void Miss(const FormEvent& event);
   virtual void Paint(Canvas& canvas, const Rect& area) const;
   void PaintNow();
   /// Brings the pointer up to date with what lies under the cursor.
@@ -89,7 +91,8 @@ class Form : public PropertyOwner, public Container {
   void VisibleChanged();
   void MouseMoved(Point place, int held);
   void MousePressed(Point place, int button);
-  void MouseReleased(Point place, int button);
+  void MouseReleased(Point place, int button, bool mayClick);
+  void EndPress();
   void SetWindowState(int state);
   Control* ControlAt(Point place) { return ChildAt(place); }
 

@@ -29,7 +29,7 @@ void Form::Deliver(const FormEvent& event) {
   switch (event.kind) {
     case Kind::MouseMove: MouseMoved(event.place, event.button); break;
     case Kind::MousePress: MousePressed(event.place, event.button); break;
-    case Kind::MouseRelease: MouseReleased(event.place, event.button); break;
+    case Kind::MouseRelease: MouseReleased(event.place, event.button, true); break;
     case Kind::MouseLeave: cursorInside_ = false; break;
     case Kind::Activate: Form_Activate(); break;
     case Kind::Minimise: SetWindowState(kMinimised); break;
@@ -43,13 +43,19 @@ void Form::Deliver(const FormEvent& event) {
   Settle();
 }
 
+void Form::Miss(const FormEvent& event) {
+  if (event.kind == FormEvent::Kind::MouseRelease) MouseReleased(event.place, event.button, false);
+}
+
+void Form::EndPress() {
+  held_ = 0;
+  if (Control* const control = std::exchange(captured_, nullptr)) Call(control->MouseUp, MouseEvent{});
+}
+
 void Form::MouseMoved(Point place, int held) {
   cursor_ = place;
   cursorInside_ = true;
   pointerStale_ = true;
-  // A release that came while a modal form was open has not been told.
-  held_ &= held;
-  if (held_ == 0) captured_ = nullptr;
   Control* target = captured_ ? captured_ : ControlAt(place);
   if (!target) return;
   const Point inside = place - OriginOf(*target);
@@ -66,9 +72,9 @@ void Form::MousePressed(Point place, int button) {
        MouseEvent{button, 0, static_cast<double>(inside.x), static_cast<double>(inside.y)});
 }
 
-void Form::MouseReleased(Point place, int button) {
+void Form::MouseReleased(Point place, int button, bool mayClick) {
   cursor_ = place;
-  const bool wasHeld = (held_ & button) != 0;
+  const bool wasHeld = mayClick && (held_ & button) != 0;
   held_ &= ~button;
   Control* target = captured_;
   if (held_ == 0) captured_ = nullptr;
@@ -89,6 +95,7 @@ void Form::MouseReleased(Point place, int button) {
 void Form::SetWindowState(int state) {
   if (WindowState == state) return;
   WindowState.SetQuietly(state);
+  EndPress();
   Form_Resize();
 }
 

@@ -2,6 +2,7 @@
 
 #include <chrono>
 
+#include "desktop/ScratchFolder.h"
 #include "desktop/ShellOnScreen.h"
 #include "startup/modFormShape.h"
 
@@ -210,9 +211,12 @@ TEST_F(Detail, TheHourglassStandsUntilAnotherWindowIsActive) {
   Start();
   Open(0);
   const CursorLook arrow = screen_.Cursor();
+  PointAt(MiddleOf(ButtonBox(4)));
+  ExpectLook(4, 1);
   ClickMain(MiddleOf(ButtonBox(4)));
   ExpectLook(4, 2);
-  EXPECT_TRUE(Soon([&] { return std::filesystem::exists(disc_.Folder() / "argumenty"); }));
+  const auto arguments = [&] { return ScratchFolder::contentOf(disc_.Folder() / "argumenty"); };
+  EXPECT_TRUE(Soon([&] { return arguments() == "żółta łódź|/x|dwa|"; })) << arguments();
   PointAt({300, 455});
   EXPECT_TRUE(Soon([&] { return screen_.Cursor().argb != arrow.argb; }));
   const double before = program_->Processor();

@@ -96,13 +96,16 @@ Form& Monkey::Front() {
 Point Monkey::OnControl(Form& form) {
   const auto& controls = form.Controls();
   for (int tries = 0; tries < 20; ++tries) {
-    const Control& control = *controls[static_cast<std::size_t>(Below(random_, static_cast<int>(controls.size())))];
+    const Control& control =
+        *controls[static_cast<std::size_t>(Below(random_, static_cast<int>(controls.size())))];
     if (control.Visible && !control.Bounds().Empty()) return user_.MiddleOf(control);
   }
   return Somewhere();
 }
 
-Point Monkey::Somewhere() { return {Below(random_, Host().screen.width), Below(random_, Host().screen.height)}; }
+Point Monkey::Somewhere() {
+  return {Below(random_, Host().screen.width), Below(random_, Host().screen.height)};
+}
 
 void Monkey::Click(Point at) {
   // Most clicks on the exit button are spared, else no life would be long.
@@ -140,7 +143,9 @@ void Monkey::ChangeWindows() {
     case 0: Host().Minimise(Main()); break;
     case 1:
     case 2: Host().ActivateOther(); break;
-    case 3: Host().RequestClose(Front()); break;
+    case 3:
+      if (&Front() != &Main() || Below(random_, 20) == 0) Host().RequestClose(Front());
+      break;
     case 4:
       if (auto* strip = user_.shell.frmDociagGora.Loaded(); strip && strip->Visible) Host().Activate(*strip);
       break;
@@ -153,7 +158,10 @@ void Monkey::ChangeWindows() {
 
 void Monkey::Act() {
   const int what = Below(random_, 100);
-  if (what < 25) {
+  // In the view of an entry the transport is what matters.
+  if (what < 8 && !Main().picTlo.Visible) {
+    Click(user_.MiddleOf(Main().ButtonM(4 + what % 3)));
+  } else if (what < 25) {
     Click(user_.MiddleOf(Main().ButtonM(1 + Below(random_, 9))));
   } else if (what < 42) {
     const Point label = user_.MiddleOf(Main().lblPos1(Below(random_, Main().lblPos1.UBound() + 1)));
@@ -174,7 +182,7 @@ void Monkey::Act() {
   } else if (what < 94) {
     ChangeWindows();
   } else if (what < 96) {
-    Host().startResult = Below(random_, 36) - 1;
+    Host().startResult = Below(random_, 2) ? 33 : Below(random_, 36) - 1;
   } else if (what < 97) {
     Click(user_.MiddleOf(Main().picShot(0)));
   }

@@ -57,8 +57,8 @@ class Monkey {
   std::string fault_;
   int stepsLeft_ = 0;
   int calms_ = 0;
-  bool resting_ = true;    // the burst is over and the program came back to its loop
-  bool meddled_ = false;   // the mouse did something while the program waited inside something
+  bool resting_ = true;   // the burst is over and the program came back to its loop
+  bool meddled_ = false;  // the mouse did something while the program waited inside something
   int held_ = 0;
   std::size_t designed_ = 0;  // controls of the main window that are there in every view
 };

@@ -29,7 +29,9 @@ void Monkey::Check() {
 void Monkey::CheckTransport() {
   MainForm& form = Main();
   const int latch = form.PressedButton, state = form.AM3.CurrentState();
-  const auto looks = [&](int button, int entry) { return form.ButtonM(button).Picture() == form.ImageList1(entry); };
+  const auto looks = [&](int button, int entry) {
+    return form.ButtonM(button).Picture() == form.ImageList1(entry);
+  };
   Must(latch == -1 || (latch >= 4 && latch <= 6), "the latch is one of the transport buttons");
   if (latch == 5) Must(looks(5, 18), "a latched Pauza looks pressed");
   // What follows holds unless the mouse has meddled with a wait.

@@ -7,8 +7,9 @@ namespace orvanta::test {
 
 namespace {
 
-const std::array<std::string, 14> kNames = {"Żółw",   "Gra & zabawa", "a",    "Muzyka", "Film", "Dalej", "[x]",
-                                            "k=v",    "Programy",     "Kraków", "x y z",  "B2",   "ąęć",   "Ostatni"};
+const std::array<std::string, 14> kNames = {"Żółw",  "Gra & zabawa", "a",   "Muzyka",   "Film",
+                                            "Dalej", "[x]",          "k=v", "Programy", "Kraków",
+                                            "x y z", "B2",           "ąęć", "Ostatni"};
 
 template <class List>
 const auto& Any(const List& list, std::mt19937& random) {
@@ -22,7 +23,8 @@ MonkeyDisc::MonkeyDisc(std::mt19937& random) : sound_(Below(random, 2) == 0) {
   File("film.avi", "film");
   Sound("song.wav", 3);
   Picture("last.gif", 700, 20);
-  for (int voice = Below(random, 4); voice > 1; --voice) Set("VOICES", "Exit" + std::to_string(voice), "exit1.wav");
+  for (int voice = Below(random, 4); voice > 1; --voice)
+    Set("VOICES", "Exit" + std::to_string(voice), "exit1.wav");
   Set("MENUITEM", "BackStyle", std::to_string(Below(random, 2)));
   Tree(random);
   if (!sound_) Spoil(random);
@@ -58,9 +60,9 @@ void MonkeyDisc::Leaf(const std::string& name, std::mt19937& random) {
 }
 
 void MonkeyDisc::Spoil(std::mt19937& random) {
-  const std::array<std::string, 15> garbage = {"",    "abc",  "-32768", "32767", "99999999",       "1e30",
-                                               "-1",  "0.5",  "0",      "%:\\",  "..\\..\\x",      "\"",
-                                               "300", "True", std::string(300, 'x')};
+  const std::array<std::string, 15> garbage = {"",          "abc", "-32768", "32767", "99999999",
+                                               "1e30",      "-1",  "0.5",    "0",     "%:\\",
+                                               "..\\..\\x", "\"",  "300",    "True",  std::string(300, 'x')};
   for (int n = Below(random, 25); n > 0; --n) {
     const auto keys = Keys();
     const auto& [section, key] = Any(keys, random);

@@ -140,9 +140,7 @@ TEST(MainWindow, SitsInTheLowerLeftCornerOfASmallScreenAlone) {
     HeadlessWindow& window = user.host.WindowOf(user.Main());
     EXPECT_EQ((Point{window.place.left, window.place.top}), c.place);
     EXPECT_EQ(user.shell.frmDociagLewo.Loaded() == nullptr, c.small);
-    if (c.small) {
-      EXPECT_DOUBLE_EQ(user.Main().Top, c.screen.height * 15 - 7440 - 20);
-    }
+    EXPECT_EQ(user.Main().Top == c.screen.height * 15 - 7440 - 20, c.small) << "twenty twips, not pixels";
 
     user.Main().Left = 1500;
     user.host.ActivateOther();

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/desktop/MediaUri.h"
+#include "platform/desktop/MediaSource.h"
 
 namespace orvanta {
 namespace {
@@ -30,7 +30,7 @@ bool GstTransport::Load(const std::filesystem::path& file) {
   playbin_ =
       std::make_unique<GstPlaybin>(kind_, FindSoundOutput(), frames_, news_,
                                    GstPlaybin::Listener{onNews_, [this] { return BeginRepetition(); }});
-  playbin_->SetUri(MediaUri(file));
+  playbin_->SetSource(FindMediaSource(file));
   playbin_->SetVolume(volume_);
   if (!playbin_->Preroll()) {
     Die();

@@ -1,0 +1,135 @@
+// What the program costs. Each limit is a share of something measured in the same run, or of one processor.
+
+#include <QImageReader>
+#include <algorithm>
+#include <chrono>
+#include <ctime>
+#include <thread>
+
+#include "desktop/ShellOnScreen.h"
+
+namespace orvanta::test {
+namespace {
+
+namespace fs = std::filesystem;
+using Clock = std::chrono::steady_clock;
+
+double Seconds(Clock::duration duration) { return std::chrono::duration<double>(duration).count(); }
+
+class Thrift : public ShellOnScreen {
+ protected:
+  const fs::path demo_ = fs::path(ORVANTA_SOURCE_DIR) / "discs/demo/Data";
+
+  /// From the start of a program to its first window, the best of several.
+  double TimeToTheFirstWindow(const std::string& command, const std::vector<std::string>& environment) {
+    double best = 100;
+    for (int round = 0; round < 5; ++round) {
+      const Screen watcher;
+      watcher.WatchAppearances();
+      const auto begin = Clock::now();
+      const Program program(command, "/", environment);
+      EXPECT_TRUE(watcher.AwaitAppearance());
+      best = std::min(best, Seconds(Clock::now() - begin));
+    }
+    return best;
+  }
+};
+
+// Faults: a timer that repaints what has not changed, a wait that spins.
+TEST_F(Thrift, AtRestNothingIsPaintedAndTheProcessorSleeps) {
+  disc_.Menu("MAINMENU", {"Programy"});
+  Start();
+  PointAt(MiddleOf(LabelBox(0, true)));
+  std::this_thread::sleep_for(std::chrono::milliseconds(500));
+  std::vector<Screen> watchers(Windows().size());
+  for (std::size_t i = 0; i < watchers.size(); ++i) watchers[i].WatchDrawing(Windows()[i]);
+  const double before = program_->Processor();
+  const auto begin = Clock::now();
+  std::this_thread::sleep_for(std::chrono::seconds(6));
+  const double share = (program_->Processor() - before) / Seconds(Clock::now() - begin);
+  RecordProperty("share", std::to_string(share));
+  EXPECT_LE(share, 0.005);
+  for (Screen& watcher : watchers) EXPECT_EQ(watcher.DrawingSeen(), 0);
+  // The watchers do see what is drawn.
+  PointAt({300, 455});
+  EXPECT_TRUE(Soon([&] { return watchers.back().DrawingSeen() > 0; }));
+}
+
+TEST_F(Thrift, TheFirstWindowIsThereSoon) {
+  fs::copy_file(demo_ / "start.gif", disc_.Data() / "startpic.gif", fs::copy_options::overwrite_existing);
+  const double bare =
+      TimeToTheFirstWindow(ORVANTA_BARE_WINDOW, {"PICTURE=" + (disc_.Data() / "startpic.gif").string()});
+  const double ours = TimeToTheFirstWindow(disc_.Folder() / "orvanta", {});
+  RecordProperty("bare", std::to_string(bare));
+  RecordProperty("ours", std::to_string(ours));
+  EXPECT_LE(ours, 1.5 * bare) << ours << " s against " << bare << " s";
+}
+
+TEST_F(Thrift, ADragOverAThousandLabelsIsCheap) {
+  std::vector<std::string> names;
+  for (int i = 0; i < 1001; ++i) names.push_back("Pozycja " + std::to_string(i));
+  disc_.Menu("MAINMENU", names);
+  Start();
+  const Point knob = InMain(Point{90 + 455, 140 + 50});
+  const auto knobAt = [&](int y) { return screen_.Pixel(InMain(Point{90 + 448, 140 + y})) == kKnob; };
+  ASSERT_TRUE(Soon([&] { return knobAt(40); }));
+  screen_.MoveMouse(knob);
+  screen_.Press();
+  screen_.Rest();
+  const double before = program_->Processor();
+  constexpr int kMoves = 200;
+  for (int y = 1; y <= kMoves; ++y) {
+    screen_.MoveMouse({knob.x, knob.y + y});
+    ASSERT_TRUE(Soon([&] { return knobAt(40 + y + 19); }));
+  }
+  const double each = (program_->Processor() - before) / kMoves;
+  screen_.Release();
+  RecordProperty("milliseconds", std::to_string(each * 1000));
+  EXPECT_LE(each, 0.002);
+}
+
+// Fault: pictures that are read twice, scaled again and again or painted while they are out of sight.
+TEST_F(Thrift, OpeningAnEntryCostsLittleMoreThanItsPictures) {
+  const fs::path art = disc_.Data() / "art.gif";
+  fs::copy_file(demo_ / "start.gif", art);
+  disc_.Picture("dot.gif", 8, 8);
+  disc_.Menu("MAINMENU", {"Obrazki", "Kropki"});
+  for (const std::string entry : {"Obrazki", "Kropki"}) {
+    disc_.Entry(entry, {{"Execute", "%:\\brak.exe"}});
+    for (int shot = 1; shot <= 6; ++shot)
+      disc_.Set(entry, "Shot" + std::to_string(shot), entry == "Obrazki" ? "art.gif" : "dot.gif");
+  }
+  Start();
+  const auto opening = [&](int index) {
+    PointAt(MiddleOf(LabelBox(index, true)));
+    screen_.Rest();
+    screen_.Rest();
+    const double before = program_->Processor();
+    ClickMain(MiddleOf(LabelBox(index, true)));
+    EXPECT_TRUE(Soon([&] { return PixelOfMain({388 + 148, 184 + 30}) == kKnob; }));
+    screen_.Rest();
+    const double used = program_->Processor() - before;
+    ClickMain({515, 110});
+    EXPECT_TRUE(Soon([&] { return PixelOfMain({380, 300}) == kArea; }));
+    return used;
+  };
+  const auto decoding = [&] {
+    timespec begin{}, end{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &begin);
+    for (int i = 0; i < 6; ++i) EXPECT_FALSE(QImageReader(QString::fromStdString(art.string())).read().isNull());
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &end);
+    return static_cast<double>(end.tv_sec - begin.tv_sec) + static_cast<double>(end.tv_nsec - begin.tv_nsec) / 1e9;
+  };
+  double pictures = 1, dots = 1, alone = 1;
+  for (int round = 0; round < 4; ++round) {
+    pictures = std::min(pictures, opening(0));
+    dots = std::min(dots, opening(1));
+    alone = std::min(alone, decoding());
+  }
+  RecordProperty("opening", std::to_string(pictures - dots));
+  RecordProperty("decoding", std::to_string(alone));
+  EXPECT_LE(pictures - dots, 1.3 * alone) << pictures << " s less " << dots << " s, against " << alone << " s";
+}
+
+}  // namespace
+}  // namespace orvanta::test
