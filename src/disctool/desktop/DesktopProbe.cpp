@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "disctool/GifFile.h"
-#include "platform/desktop/MediaUri.h"
+#include "platform/desktop/MediaSource.h"
 
 namespace orvanta {
 namespace {
@@ -55,7 +55,7 @@ bool DesktopProbe::CanPlay(const std::filesystem::path& file, bool film) {
   const Owned<GstDiscoverer> discoverer(gst_discoverer_new(5 * GST_SECOND, nullptr));
   if (!discoverer) return false;
   const Owned<GstDiscovererInfo> info(
-      gst_discoverer_discover_uri(discoverer.get(), MediaUri(file).c_str(), nullptr));
+      gst_discoverer_discover_uri(discoverer.get(), FindMediaSource(file).uri.c_str(), nullptr));
   if (!info || gst_discoverer_info_get_result(info.get()) != GST_DISCOVERER_OK) return false;
   const Streams video(gst_discoverer_info_get_video_streams(info.get()));
   const Streams audio(gst_discoverer_info_get_audio_streams(info.get()));
