@@ -31,7 +31,9 @@ void Form::Deliver(const FormEvent& event) {
     case Kind::MousePress: MousePressed(event.place, event.button); break;
     case Kind::MouseRelease: MouseReleased(event.place, event.button, true); break;
     case Kind::MouseLeave: cursorInside_ = false; break;
-    case Kind::Activate: Form_Activate(); break;
+    case Kind::Activate:
+      if (!std::exchange(returning_, false)) Form_Activate();
+      break;
     case Kind::Minimise: SetWindowState(kMinimised); break;
     case Kind::Restore: SetWindowState(kNormal); break;
     case Kind::Moved:
