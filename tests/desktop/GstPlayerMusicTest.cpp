@@ -102,7 +102,8 @@ TEST_F(GstPlayerMusic, MovesToThePlaceThatIsAskedFor) {
   EXPECT_LE(Cost([this] { music->SetPosition(1.0); }), 20);
   EXPECT_NEAR(music->Position(), 1.0, 0.1);
   Wait(0.3);
-  EXPECT_EQ(ears.Seconds(900), 0) << "what lies between is not heard";
+  // The seam itself may sound like anything for one window of the ears.
+  EXPECT_LT(ears.Seconds(900), 0.011) << "what lies between is not heard";
   music->SetPosition(0);
   EXPECT_LT(music->Position(), 0.1);
   ASSERT_TRUE(UntilStopped(*music, 3));
