@@ -65,13 +65,13 @@ class Detail : public ShellOnScreen {
   }
   void Open(int index) {
     Choose(index, true);
-    PointAt({300, 455});
     ASSERT_TRUE(Soon([&] { return PixelOfMain({380, 300}) == kWhite; })) << "the entry does not open";
+    PointAt({300, 455});
   }
   void BackToTheList() {
     ClickMain(kBackMark);
-    PointAt({300, 455});
     ASSERT_TRUE(Soon([&] { return PixelOfMain({380, 300}) == kArea; }));
+    PointAt({300, 455});
   }
 };
 

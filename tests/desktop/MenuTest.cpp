@@ -167,9 +167,11 @@ TEST_F(Menu, PagesAreOpenedScrolledAndClosed) {
   press(7);
   EXPECT_EQ(AreaDiffers(page(kAbout, 250, false, 0)), "");
   ClickMain({300, 200});
+  EXPECT_TRUE(Soon([&] { return PixelOfMain({400, 380}) == kAreaColour; }));
   PointAt({300, 455});
   EXPECT_EQ(AreaDiffers(ListLook(2, true)), "");
   press(3);
+  EXPECT_TRUE(Soon([&] { return PixelOfMain({400, 380}) == kHelp; }));
   press(3);
   PointAt({300, 455});
   EXPECT_EQ(AreaDiffers(ListLook(2, true)), "") << "the button does not close its page";

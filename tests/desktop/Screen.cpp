@@ -167,7 +167,7 @@ void Screen::Drag(Point from, Point to) const {
 }
 
 // Window managers hold a press back while they look at it; a hand that moves on meanwhile would drag.
-void Screen::Rest() const { std::this_thread::sleep_for(std::chrono::milliseconds(60)); }
+void Screen::Rest() const { std::this_thread::sleep_for(std::chrono::milliseconds(80)); }
 
 void Screen::PressReturn() const {
   constexpr std::uint8_t kReturn = 36;  // on the keyboard that Xvfb has

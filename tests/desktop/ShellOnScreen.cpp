@@ -91,7 +91,8 @@ void ShellOnScreen::AwaitMain() {
       if (screen_.TitleOf(window) == kTitle && screen_.Active() == window) main_ = window;
     return main_ != 0;
   };
-  ASSERT_TRUE(Eventually(find)) << "no main window; printed: " << program_->Printed();
+  ASSERT_TRUE(Eventually(find)) << "no active main window among " << Windows().size()
+                                << "; printed: " << program_->Printed();
   place_ = screen_.PlaceOf(main_);
   ASSERT_TRUE(Soon([&] { return PixelOfMain({300, 455}) == kMain; })) << "the main window stays unpainted";
 }
@@ -123,7 +124,9 @@ void ShellOnScreen::Choose(int index, bool top) const {
   PointAt(MiddleOf(LabelBox(index, top)));
   screen_.Rest();
   screen_.Rest();
-  ClickMain(MiddleOf(LabelBox(index, top)));
+  const Point target = MiddleOf(LabelBox(index, top));
+  ClickMain(target);
+  EXPECT_TRUE(Soon([&] { return PixelOfMain({500, target.y}) == kCross; })) << "no crosshair";
 }
 
 Rgb ShellOnScreen::ButtonColour(int index, int look) {

@@ -53,7 +53,7 @@ class ShellOnScreen : public testing::Test {
 
   /// The place of a label in the main window. Below the top level lists begin lower.
   static Rect LabelBox(int index, bool top);
-  /// Points at a label long enough for a tick, and clicks it.
+  /// Points at a label long enough for a tick, clicks it and waits for the crosshair.
   void Choose(int index, bool top) const;
   static Rgb ButtonColour(int index, int look);
   /// The place of a button of the bar in the main window.
