@@ -13,7 +13,7 @@
 namespace orvanta {
 
 /// The size of a GIF file whose first picture is whole; nothing if the file is none or ends too early.
-/// Whether the picture's data make sense is not looked at. After the GIF89a specification (CompuServe, 1990).
+/// Whether the picture's data make sense is not looked at. After GIF89a (CompuServe, 1990).
 std::optional<Size> WholeGifSize(std::string_view bytes);
 
 using GifColour = std::array<std::uint8_t, 3>;  // red, green, blue

@@ -30,7 +30,7 @@ fs::path CacheHome() {
     const char* value = std::getenv(name);
     return fs::path(value ? value : "");
   };
-  // The specification has paths that are not absolute ignored.
+  // Paths that are not absolute are to be ignored, by the rules that name these folders.
   if (const fs::path cache = variable("XDG_CACHE_HOME"); cache.is_absolute()) return cache;
   const fs::path home = variable("HOME");
   return (home.is_absolute() ? home : fs::path("/")) / ".cache";

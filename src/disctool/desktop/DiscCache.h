@@ -21,7 +21,7 @@ struct OpenedDisc {
 /// removed.
 class DiscCache {
  public:
-  /// In `$XDG_CACHE_HOME/orvanta`, or `~/.cache/orvanta` (XDG Base Directory Specification).
+  /// In `$XDG_CACHE_HOME/orvanta`, or `~/.cache/orvanta` (XDG Base Directories).
   DiscCache();
   explicit DiscCache(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
