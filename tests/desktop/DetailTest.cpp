@@ -220,6 +220,9 @@ TEST_F(Detail, TheHourglassStandsUntilAnotherWindowIsActive) {
   disc_.Set("Program", "Parameters", "\"żółta łódź\" /x dwa");
   Start();
   Open(0);
+  PointAt({300, 455});
+  screen_.Rest();
+  screen_.Rest();
   const CursorLook arrow = screen_.Cursor();
   PointAt(MiddleOf(ButtonBox(4)));
   ExpectLook(4, 1);
