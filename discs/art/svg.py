@@ -209,7 +209,7 @@ def run(*command, quiet=False):
     for piece in command:
         words += piece if isinstance(piece, list) else piece.split() if isinstance(piece, str) else [str(piece)]
     nowhere = subprocess.DEVNULL if quiet else None
-    subprocess.run(words, check=True, stdout=nowhere, stderr=nowhere)
+    subprocess.run(words, check=True, stdin=subprocess.DEVNULL, stdout=nowhere, stderr=nowhere)
 
 
 def workshop():
