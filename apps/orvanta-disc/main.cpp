@@ -12,7 +12,10 @@
 #include "disctool/OutputText.h"
 #include "disctool/Progress.h"
 #include "disctool/desktop/DesktopProbe.h"
+#include "disctool/desktop/DiscCache.h"
 #include "disctool/desktop/Gallery.h"
+#include "disctool/desktop/NewDisc.h"
+#include "disctool/desktop/OpenCommand.h"
 
 namespace {
 
@@ -21,11 +24,13 @@ using orvanta::kMisuse;
 constexpr const char* kDescription =
     "Opens, checks and archives discs for Orvanta Shell.\n\n"
     "Commands:\n"
+    "  open DISC             starts the shell with a disc\n"
     "  check DISC            everything that is wrong with a disc\n"
     "  tree DISC             its menu tree\n"
     "  gallery DISC OUT      pictures of all that it shows, with a page, in the folder OUT\n"
-    "  get DISC SECTION KEY  a setting, as the shell looks it up\n\n"
-    "DISC is a folder or a mounted disc.";
+    "  get DISC SECTION KEY  a setting, as the shell looks it up\n"
+    "  new DIR               a small complete disc to start from\n\n"
+    "DISC is a folder, a mounted disc or an ISO 9660 image, which is unpacked once.";
 
 /// What the user asked for.
 struct Request {
@@ -41,43 +46,78 @@ int Misuse(const QString& message) {
   return kMisuse;
 }
 
-int Check(const Request& request, int& argc, char** argv) {
-  // Pictures and fonts are tried without a display.
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QGuiApplication application(argc, argv);
-  orvanta::DesktopProbe probe;
-  return orvanta::CheckCommand(request.Word(1), probe, {request.Has("json"), request.Has("strict")},
-                               std::cout);
-}
-
-int Tree(const Request& request, int&, char**) {
-  return orvanta::TreeCommand(request.Word(1), request.Has("json"), std::cout, std::cerr);
-}
-
-int Get(const Request& request, int&, char**) {
-  return orvanta::GetCommand(request.Word(1), request.Word(2), request.Word(3), std::cout);
-}
-
-/// Shows progress where somebody can see it.
-template <class Work>
-int WithProgress(const char* title, Work work) {
-  const bool seen = isatty(STDERR_FILENO) != 0;
-  std::optional<orvanta::ProgressBar> bar;
-  if (seen) bar.emplace(std::cerr, title);
-  const std::string problem = work([&bar](std::uintmax_t done, std::uintmax_t all) {
-    if (bar) bar->Show(done, all);
-  });
-  bar.reset();
-  if (problem.empty()) return orvanta::kGood;
+int Failure(const std::string& problem) {
   std::cerr << "orvanta-disc: " << orvanta::Printable(problem) << '\n';
   return orvanta::kFaults;
 }
 
-int Gallery(const Request& request, int& argc, char** argv) {
+/// Calls `work` with a progress bar where somebody can see one.
+template <class Work>
+auto WithProgress(const char* title, Work work) {
+  std::optional<orvanta::ProgressBar> bar;
+  if (isatty(STDERR_FILENO) != 0) bar.emplace(std::cerr, title);
+  return work([&bar](std::uintmax_t done, std::uintmax_t all) {
+    if (bar) bar->Show(done, all);
+  });
+}
+
+/// Calls `work` with the folder of the disc that the user has named; an image is unpacked for it.
+template <class Work>
+int WithDisc(const Request& request, Work work) {
+  const orvanta::OpenedDisc disc = WithProgress("Unpacking", [&](const orvanta::Progress& progress) {
+    return orvanta::DiscCache().Open(request.Word(1), progress);
+  });
+  return disc.problem.empty() ? work(disc.folder) : Failure(disc.problem);
+}
+
+/// Qt's opinions on the machine are no part of what a command has to say.
+void Silent(QtMsgType, const QMessageLogContext&, const QString&) {}
+
+/// Before Qt starts: pictures and fonts need no display.
+int& PreparedForNoDisplay(int& argc) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QGuiApplication application(argc, argv);
-  return WithProgress("Painting", [&](const orvanta::Progress& progress) {
-    return orvanta::MakeGallery(request.Word(1), request.Word(2), progress);
+  qInstallMessageHandler(Silent);
+  return argc;
+}
+
+int Open(const Request& request, int& argc, char** argv) {
+  if (request.Has("clear-cache")) {
+    if (const std::string problem = orvanta::DiscCache().Clear(); !problem.empty()) return Failure(problem);
+    if (request.words.size() == 1) return orvanta::kGood;
+  }
+  return WithDisc(request, [&](const std::filesystem::path& folder) {
+    const std::string problem = orvanta::RunShell(folder, argc, argv);
+    return problem.empty() ? orvanta::kGood : Failure(problem);
+  });
+}
+
+int Check(const Request& request, int& argc, char** argv) {
+  return WithDisc(request, [&](const std::filesystem::path& folder) -> int {
+    const QGuiApplication application(PreparedForNoDisplay(argc), argv);
+    orvanta::DesktopProbe probe;
+    return orvanta::CheckCommand(folder, probe, {request.Has("json"), request.Has("strict")}, std::cout);
+  });
+}
+
+int Tree(const Request& request, int&, char**) {
+  return WithDisc(request, [&](const std::filesystem::path& folder) -> int {
+    return orvanta::TreeCommand(folder, request.Has("json"), std::cout, std::cerr);
+  });
+}
+
+int Gallery(const Request& request, int& argc, char** argv) {
+  return WithDisc(request, [&](const std::filesystem::path& folder) {
+    const QGuiApplication application(PreparedForNoDisplay(argc), argv);
+    const std::string problem = WithProgress("Painting", [&](const orvanta::Progress& progress) {
+      return orvanta::MakeGallery(folder, request.Word(2), progress);
+    });
+    return problem.empty() ? orvanta::kGood : Failure(problem);
+  });
+}
+
+int Get(const Request& request, int&, char**) {
+  return WithDisc(request, [&](const std::filesystem::path& folder) -> int {
+    return orvanta::GetCommand(folder, request.Word(2), request.Word(3), std::cout);
   });
 }
 
@@ -87,10 +127,18 @@ struct Command {
   std::array<const char*, 2> options;
   int (*run)(const Request& request, int& argc, char** argv);
 };
-constexpr Command kCommands[] = {{"check", 1, {"json", "strict"}, Check},
+int New(const Request& request, int& argc, char** argv) {
+  const QGuiApplication application(PreparedForNoDisplay(argc), argv);
+  const std::string problem = orvanta::MakeNewDisc(request.Word(1));
+  return problem.empty() ? orvanta::kGood : Failure(problem);
+}
+
+constexpr Command kCommands[] = {{"open", 1, {"clear-cache"}, Open},
+                                 {"check", 1, {"json", "strict"}, Check},
                                  {"tree", 1, {"json"}, Tree},
+                                 {"gallery", 2, {}, Gallery},
                                  {"get", 3, {}, Get},
-                                 {"gallery", 2, {}, Gallery}};
+                                 {"new", 1, {}, New}};
 
 const Command* FindCommand(const QString& name) {
   for (const Command& command : kCommands)
@@ -107,7 +155,8 @@ int Dispatch(const Request& request, int& argc, char** argv) {
   if (request.words.isEmpty()) return Misuse("a command is missing");
   const Command* command = FindCommand(request.words.first());
   if (!command) return Misuse("there is no command '" + request.words.first() + "'");
-  if (request.words.size() != 1 + command->arguments)
+  const bool onlyClears = request.Has("clear-cache") && request.words.size() == 1;
+  if (request.words.size() != 1 + command->arguments && !onlyClears)
     return Misuse(QString("'%1' takes %2 argument(s)").arg(command->name).arg(command->arguments));
   for (const QString& option : request.options)
     if (!Takes(*command, option))
@@ -125,6 +174,7 @@ std::optional<Request> Parse(int& argc, char** argv, int& status) {
   parser.setApplicationDescription(kDescription);
   const QCommandLineOption help = parser.addHelpOption(), version = parser.addVersionOption();
   parser.addOption({"json", "Write for machines (check, tree)."});
+  parser.addOption({"clear-cache", "Remove the unpacked copies of images first (open)."});
   parser.addOption({"strict", "Warnings count as faults too (check)."});
   parser.addPositionalArgument("command", "What to do.", "COMMAND");
   parser.addPositionalArgument("arguments", "What to do it with.", "[ARGUMENT...]");

@@ -4,13 +4,19 @@ import html
 from dataclasses import dataclass
 
 import creatures
+import dwellers
 import parts
 import scenes
 import svg
 
 W, H = 640, 480
-ZONES = [(0, 200, "strefa słoneczna", "#3aa7ad"), (200, 1000, "strefa mroku", "#14626e"), (1000, 4000, "strefa północy", "#093844"),
-         (4000, 6000, "strefa otchłani", "#04202a"), (6000, 8000, "rowy oceaniczne", "#020d13")]
+ZONES = [
+    (0, 200, "strefa słoneczna", "#3aa7ad"),
+    (200, 1000, "strefa mroku", "#14626e"),
+    (1000, 4000, "strefa północy", "#093844"),
+    (4000, 6000, "strefa otchłani", "#04202a"),
+    (6000, 8000, "rowy oceaniczne", "#020d13"),
+]
 
 
 @dataclass
@@ -30,62 +36,177 @@ class Entry:
 
 
 ENTRIES = [
-    Entry("Latimeria", "Latimeria chalumnae", "latimeria", creatures.coelacanth, 150, 700, "do 2 m",
-          "Ryba, która zapomniała wymrzeć. Znana z wapiennych odcisków, w 1938 roku trafiła żywa w rybacką sieć. Dni przesypia "
-          "w podmorskich jaskiniach, nocą dryfuje głową w dół i słucha prądu.",
-          "Porusza płetwami na krzyż, jak pies idący stępa, a dorosłość osiąga po pięćdziesiątce i dożywa stu lat."),
-    Entry("Żabnica głębinowa", "Melanocetus johnsonii", "zabnica", creatures.angler, 1000, 4000, "samica do 18 cm",
-          "Wędkarka z własną latarnią. Na końcu wędki mieszkają świecące bakterie, a zęby uchylają się tylko do środka. "
-          "Łyka zdobycz większą od siebie, bo na następną może czekać miesiąc.",
-          "Samiec jest dziesięć razy mniejszy i nie umie polować; całe życie szuka jednego światełka."),
-    Entry("Meduza koronowa", "Atolla wyvillei", "meduza", creatures.jellyfish, 500, 4500, "do 15 cm średnicy",
-          "Alarm przeciwwłamaniowy głębin. Zaczepiona, wiruje błękitnymi światłami jak radiowóz i ściąga kogoś większego, "
-          "kto zje napastnika. Jedna z macek jest dłuższa od pozostałych.",
-          "Biolodzy zbudowali sztuczną meduzę z diod i pierwsi nagrali dzięki niej kałamarnicę olbrzymią."),
-    Entry("Ośmiornica uszata", "Grimpoteuthis sp.", "osmiornica", creatures.dumbo, 1000, 7000, "20 do 30 cm",
-          "Mieszka najgłębiej ze wszystkich ośmiornic i steruje płetwami, które wyglądają jak uszy. Nie ma woreczka z atramentem, "
-          "bo w ciemności i tak nie byłoby kogo oślepiać.",
-          "Połyka ofiary w całości, a potem długo siedzi na dnie z miną kogoś, kto właśnie coś zrozumiał."),
-    Entry("Kałamarnica olbrzymia", "Architeuthis dux", "kalamarnica", creatures.squid, 300, 1000, "do 12 m z ramionami",
-          "Przez trzysta lat krążyła po mapach jako kraken, aż w 2004 roku dała się sfotografować. Oko ma wielkości talerza, "
-          "by w porę dostrzec kaszalota. Nie zawsze dostrzega.",
-          "Ślady jej przyssawek znajduje się na skórze wielorybów, rzadziej odwrotnie."),
-    Entry("Połykacz", "Eurypharynx pelecanoides", "polykacz", creatures.gulper, 500, 3000, "do 75 cm",
-          "Węgorz złożony z paszczy i ogona. Rozkłada żuchwę jak parasol, nabiera wody razem z obiadem i przecedza ją przez skrzela. "
-          "Na końcu ogona świeci różowa lampka.",
-          "Nie ma żeber ani łusek; jego szkielet waży mniej niż ta płyta."),
-    Entry("Toporniczek srebrzysty", "Argyropelecus aculeatus", "toporniczek", creatures.hatchet, 100, 600, "do 8 cm",
-          "Cieńszy niż legitymacja, z boków jak lustro, od spodu oświetlony rzędem lamp. Dobiera ich jasność do nieba nad sobą, "
-          "więc dla kogoś, kto patrzy z dołu, po prostu go nie ma.",
-          "Oczy ma skierowane stale w górę, jak wędkarz, który już wie, co to jest haczyk."),
-    Entry("Łodzik piękny", "Nautilus pompilius", "lodzik", creatures.nautilus, 100, 700, "do 25 cm",
-          "Batyskaf natury. Pływa w muszli podzielonej na komory, które napełnia gazem albo wodą, zupełnie jak my zbiorniki balastowe. "
-          "Od czasów dinozaurów nie zmienił projektu.",
-          "Ma około dziewięćdziesięciu czułków i oko bez soczewki, zbudowane jak kamera otworkowa."),
-    Entry("Rurkoczułkowiec", "Riftia pachyptila", "riftia", creatures.tubeworms, 1500, 2600, "do 2 m",
-          "Las przy gorącym kominie. Nie ma ust ani żołądka, karmią go bakterie, które żyją z siarkowodoru. "
-          "Czerwone pióropusze chwytają tlen i chowają się do rury, gdy ktoś puka.",
-          "W dwa lata dorasta wysokości drzwi; to rekord wśród bezkręgowców."),
-    Entry("Równonóg olbrzymi", "Bathynomus giganteus", "rownonog", creatures.isopod, 170, 2100, "do 40 cm",
-          "Kuzyn stonogi z piwnicy, który na dnie oceanu urósł do rozmiarów kota. Sprząta po wielorybach, a między posiłkami "
-          "umie pościć latami. Zaniepokojony zwija się w kulę.",
-          "Pewien okaz w akwarium nie jadł przez pięć lat i wyglądał na zadowolonego."),
-    Entry("Krab yeti", "Kiwa hirsuta", "krab", creatures.yeti_crab, 2200, 2300, "do 15 cm",
-          "Odkryty w 2005 roku przy kominach na południu Pacyfiku. Na włochatych szczypcach hoduje bakterie i kołysze nimi "
-          "nad ciepłą wodą, żeby ogród dobrze rósł. Potem go zjada.",
-          "Taniec z uniesionymi szczypcami to nie powitanie, lecz nawożenie.", 1.06),
-    Entry("Koszyczek Wenery", "Euplectella aspergillum", "gabka", creatures.glass_sponge, 100, 1000, "do 30 cm",
-          "Gąbka, która plecie się ze szkła. Jej włókna przewodzą światło lepiej niż kable w naszej kabinie, a krata wytrzymuje więcej, "
-          "niż pozwalają obliczenia. W środku mieszka para krewetek.",
-          "Krewetki wchodzą tam młode, rosną i zostają na zawsze; w Japonii daje się ją nowożeńcom.", 1.06),
-    Entry("Kaszalot", "Physeter macrocephalus", "kaszalot", creatures.sperm_whale, 0, 2000, "do 18 m",
-          "Jedyny w atlasie, który oddycha tym samym co my. Wstrzymuje oddech na godzinę, schodzi dwa kilometry w dół i stuka głośniej "
-          "niż młot w stoczni. Tak widzi w ciemności.",
-          "Śpi pionowo, całą rodziną, jak las zatopionych drzew."),
-    Entry("Strzykwa pływająca", "Enypniastes eximia", "strzykwa", creatures.sea_cucumber, 500, 5000, "do 25 cm",
-          "Przezroczysta i różowa, widać przez nią wczorajszą kolację. Gdy dno się znudzi, odpycha się i płynie, falując welonem. "
-          "Dotknięta, zostawia na napastniku świecącą skórę.",
-          "Złapany złodziej świeci potem przez całą noc i wszyscy wiedzą, kto to zrobił.", 1.06),
+    Entry(
+        "Latimeria",
+        "Latimeria chalumnae",
+        "latimeria",
+        creatures.coelacanth,
+        150,
+        700,
+        "do 2 m",
+        "Ryba, która zapomniała wymrzeć. Znana z wapiennych odcisków, w 1938 roku trafiła żywa w rybacką sieć. Dni przesypia "
+        "w podmorskich jaskiniach, nocą dryfuje głową w dół i słucha prądu.",
+        "Porusza płetwami na krzyż, jak koń idący stępa, a dorosłość osiąga po pięćdziesiątce i dożywa stu lat.",
+    ),
+    Entry(
+        "Żabnica głębinowa",
+        "Melanocetus johnsonii",
+        "zabnica",
+        creatures.angler,
+        1000,
+        4000,
+        "samica do 18 cm",
+        "Wędkarka z własną latarnią. Na końcu wędki mieszkają świecące bakterie, a zęby uchylają się tylko do środka. "
+        "Łyka zdobycz większą od siebie, bo na następną może czekać miesiąc.",
+        "Samiec jest dziesięć razy mniejszy i nie umie polować; całe życie szuka jednego światełka.",
+    ),
+    Entry(
+        "Meduza koronowa",
+        "Atolla wyvillei",
+        "meduza",
+        creatures.jellyfish,
+        500,
+        4500,
+        "do 15 cm średnicy",
+        "Alarm przeciwwłamaniowy głębin. Zaczepiona, wiruje błękitnymi światłami jak radiowóz i ściąga kogoś większego, "
+        "kto zje napastnika. Jedna z macek jest dłuższa od pozostałych.",
+        "Biolodzy zbudowali sztuczną meduzę z diod i pierwsi nagrali dzięki niej kałamarnicę olbrzymią.",
+    ),
+    Entry(
+        "Ośmiornica uszata",
+        "Grimpoteuthis sp.",
+        "osmiornica",
+        creatures.dumbo,
+        1000,
+        7000,
+        "20 do 30 cm",
+        "Mieszka najgłębiej ze wszystkich ośmiornic i steruje płetwami, które wyglądają jak uszy. Nie ma woreczka z atramentem, "
+        "bo w ciemności i tak nie byłoby kogo oślepiać.",
+        "Połyka ofiary w całości, a potem długo siedzi na dnie z miną kogoś, kto właśnie coś zrozumiał.",
+    ),
+    Entry(
+        "Kałamarnica olbrzymia",
+        "Architeuthis dux",
+        "kalamarnica",
+        creatures.squid,
+        300,
+        1000,
+        "do 12 m z ramionami",
+        "Przez trzysta lat krążyła po mapach jako kraken, aż w 2004 roku dała się sfotografować. Oko ma wielkości talerza, "
+        "by w porę dostrzec kaszalota. Nie zawsze dostrzega.",
+        "Ślady jej przyssawek znajduje się na skórze wielorybów, rzadziej odwrotnie.",
+    ),
+    Entry(
+        "Połykacz",
+        "Eurypharynx pelecanoides",
+        "polykacz",
+        creatures.gulper,
+        500,
+        3000,
+        "do 75 cm",
+        "Węgorz złożony z paszczy i ogona. Rozkłada żuchwę jak parasol, nabiera wody razem z obiadem i przecedza ją przez skrzela. "
+        "Na końcu ogona świeci różowa lampka.",
+        "Nie ma żeber ani łusek; jego szkielet waży mniej niż ta płyta.",
+    ),
+    Entry(
+        "Toporniczek srebrzysty",
+        "Argyropelecus aculeatus",
+        "toporniczek",
+        creatures.hatchet,
+        100,
+        600,
+        "do 8 cm",
+        "Cieńszy niż legitymacja, z boków jak lustro, od spodu oświetlony rzędem lamp. Dobiera ich jasność do nieba nad sobą, "
+        "więc dla kogoś, kto patrzy z dołu, po prostu go nie ma.",
+        "Oczy ma skierowane stale w górę, jak wędkarz, który już wie, co to jest haczyk.",
+    ),
+    Entry(
+        "Łodzik piękny",
+        "Nautilus pompilius",
+        "lodzik",
+        dwellers.nautilus,
+        100,
+        700,
+        "do 25 cm",
+        "Batyskaf natury. Pływa w muszli podzielonej na komory, które napełnia gazem albo wodą, zupełnie jak my zbiorniki balastowe. "
+        "Od czasów dinozaurów nie zmienił projektu.",
+        "Ma około dziewięćdziesięciu czułków i oko bez soczewki, zbudowane jak kamera otworkowa.",
+    ),
+    Entry(
+        "Rurkoczułkowiec",
+        "Riftia pachyptila",
+        "riftia",
+        dwellers.tubeworms,
+        1500,
+        2600,
+        "do 2 m",
+        "Las przy gorącym kominie. Nie ma ust ani żołądka, karmią go bakterie, które żyją z siarkowodoru. "
+        "Czerwone pióropusze chwytają tlen i chowają się do rury, gdy ktoś puka.",
+        "W dwa lata dorasta do wysokości drzwi; to rekord wśród bezkręgowców.",
+    ),
+    Entry(
+        "Równonóg olbrzymi",
+        "Bathynomus giganteus",
+        "rownonog",
+        dwellers.isopod,
+        170,
+        2100,
+        "do 40 cm",
+        "Kuzyn stonogi z piwnicy, który na dnie oceanu urósł do rozmiarów kota. Sprząta po wielorybach, a między posiłkami "
+        "umie pościć latami. Zaniepokojony zwija się w kulę.",
+        "Pewien okaz w akwarium nie jadł przez pięć lat i wyglądał na zadowolonego.",
+    ),
+    Entry(
+        "Krab yeti",
+        "Kiwa hirsuta",
+        "krab",
+        dwellers.yeti_crab,
+        2200,
+        2300,
+        "do 15 cm",
+        "Odkryty w 2005 roku przy kominach na południu Pacyfiku. Na włochatych szczypcach hoduje bakterie i kołysze nimi "
+        "nad ciepłą wodą, żeby ogród dobrze rósł. Potem go zjada.",
+        "Taniec z uniesionymi szczypcami to nie powitanie, lecz nawożenie.",
+        1.06,
+    ),
+    Entry(
+        "Koszyczek Wenery",
+        "Euplectella aspergillum",
+        "gabka",
+        dwellers.glass_sponge,
+        100,
+        1000,
+        "do 30 cm",
+        "Gąbka, która plecie się ze szkła. Jej włókna przewodzą światło lepiej niż kable w naszej kabinie, a krata wytrzymuje więcej, "
+        "niż pozwalają obliczenia. W środku mieszka para krewetek.",
+        "Krewetki wchodzą tam młode, rosną i zostają na zawsze; w Japonii daje się ją nowożeńcom.",
+        1.06,
+    ),
+    Entry(
+        "Kaszalot",
+        "Physeter macrocephalus",
+        "kaszalot",
+        creatures.sperm_whale,
+        0,
+        2000,
+        "do 18 m",
+        "Jedyny w atlasie, który oddycha tym samym co my. Wstrzymuje oddech na godzinę, schodzi dwa kilometry w dół i stuka głośniej "
+        "niż młot w stoczni. Tak widzi w ciemności.",
+        "Śpi pionowo, całą rodziną, jak las zatopionych drzew.",
+    ),
+    Entry(
+        "Strzykwa pływająca",
+        "Enypniastes eximia",
+        "strzykwa",
+        dwellers.sea_cucumber,
+        500,
+        5000,
+        "do 25 cm",
+        "Przezroczysta i różowa, widać przez nią wczorajszą kolację. Gdy dno jej się znudzi, odpycha się i płynie, falując welonem. "
+        "Dotknięta, zostawia na napastniku świecącą skórę.",
+        "Złapany złodziej świeci potem przez całą noc i wszyscy wiedzą, kto to zrobił.",
+        1.06,
+    ),
 ]
 
 
@@ -114,10 +235,17 @@ def plate(entry, number):
 {svg.text(24, 446, entry.caption, 27, "#ffe2a4", svg.PLATE)}{svg.text(25, 468, entry.latin, 17, "#bfe6dc", svg.BOOK, extra='font-style="italic"')}
 {svg.text(616, 444, f"{entry.shallow}–{entry.deep} m", 19, "#7dfbdc", svg.LEGEND, "end")}{svg.text(616, 467, entry.size, 15, "#bfe6dc", svg.LEGEND, "end")}
 {svg.text(24, 34, f"ATLAS GŁĘBIN  •  PLANSZA {number}", 13, "#eafff4", svg.LEGEND, extra='letter-spacing="2.5" opacity=".75"')}"""
-    defs = scenes.DEFS + creatures.DEFS + "".join([
-        svg.gradient("water", [(0, top), (.45, middle), (1, bottom)]),
-        svg.radial("aura", [(0, "#bff5e6", .55), (1, "#bff5e6", 0)]),
-        svg.radial("dim", [(0, "#000", 0), (.62, "#000", 0), (1, "#000", .5)], .5, .45, .78)])
+    defs = (
+        scenes.DEFS
+        + creatures.DEFS
+        + "".join(
+            [
+                svg.gradient("water", [(0, top), (0.45, middle), (1, bottom)]),
+                svg.radial("aura", [(0, "#bff5e6", 0.55), (1, "#bff5e6", 0)]),
+                svg.radial("dim", [(0, "#000", 0), (0.62, "#000", 0), (1, "#000", 0.5)], 0.5, 0.45, 0.78),
+            ]
+        )
+    )
     return svg.document(W, H, body, defs)
 
 
@@ -131,11 +259,13 @@ def _row(depth):
 
 def card(entry, number):
     """The entry's range of depth among the zones of the ocean."""
-    bands = "".join(f'<rect x="24" y="{70 + 74 * k}" width="592" height="74" fill="{colour}"/>'
-                    + svg.text(40, 70 + 74 * k + 28, name, 18, "#eafff4", svg.LEGEND, extra='opacity=".92"')
-                    + svg.text(40, 70 + 74 * k + 50, f"od {first} do {last} m", 13, "#bfe6dc", svg.LEGEND)
-                    + svg.text(250, 70 + 74 * k + 50, f"{last // 10 + 1} atm", 13, "#ffe2a4", svg.LEGEND)
-                    for k, (first, last, name, colour) in enumerate(ZONES))
+    bands = "".join(
+        f'<rect x="24" y="{70 + 74 * k}" width="592" height="74" fill="{colour}"/>'
+        + svg.text(40, 70 + 74 * k + 28, name, 18, "#eafff4", svg.LEGEND, extra='opacity=".92"')
+        + svg.text(40, 70 + 74 * k + 50, f"od {first} do {last} m", 13, "#bfe6dc", svg.LEGEND)
+        + svg.text(250, 70 + 74 * k + 50, f"{last // 10 + 1} atm", 13, "#ffe2a4", svg.LEGEND)
+        for k, (first, last, name, colour) in enumerate(ZONES)
+    )
     top, bottom = _row(entry.shallow), max(_row(entry.deep), _row(entry.shallow) + 8)
     body = f"""<rect width="{W}" height="{H}" fill="url(#paperCard)"/>
 {svg.text(24, 48, entry.caption, 26, svg.INK, svg.PLATE)}{svg.text(616, 48, "karta okazu nr " + str(number), 15, "#8c2c1a", svg.LEGEND, "end")}
@@ -144,7 +274,9 @@ def card(entry, number):
 {svg.text(376, top + 13, f"{entry.shallow} m", 14, "#ffe2a4")}{svg.text(376, max(bottom, top + 28), f"{entry.deep} m", 14, "#ffe2a4")}
 <g transform="translate(520,{min(max((top + bottom) / 2, 140), 380):.0f}) scale(.44)">{entry.drawing()}</g>
 {svg.text(24, 464, entry.latin + ", " + entry.size, 15, svg.INK, svg.BOOK, extra='font-style="italic"')}"""
-    return svg.document(W, H, body, scenes.DEFS + creatures.DEFS + svg.gradient("paperCard", [(0, "#f6eed6"), (1, "#d9cba0")]))
+    return svg.document(
+        W, H, body, scenes.DEFS + creatures.DEFS + svg.gradient("paperCard", [(0, "#f6eed6"), (1, "#d9cba0")])
+    )
 
 
 STYLE = """body{margin:0;background:#04141a;color:#d8efe8;font:17px/1.55 Georgia,"Times New Roman",serif}
@@ -154,17 +286,21 @@ p.sign{color:#7fae9f;font-size:14px;border-top:1px solid #2c5a5a;padding-top:12p
 
 
 def page_frame(title, content):
-    return (f'<!DOCTYPE html>\n<html lang="pl">\n<head>\n<meta charset="utf-8">\n<title>{html.escape(title)}</title>\n'
-            f'<style>\n{STYLE}\n</style>\n</head>\n<body>\n<main>\n{content}\n'
-            f'<p class="sign">Batyskaf nr 7: płyta z głębin. Spółdzielnia Wydawnicza Latimeria.</p>\n</main>\n</body>\n</html>\n')
+    return (
+        f'<!DOCTYPE html>\n<html lang="pl">\n<head>\n<meta charset="utf-8">\n<title>{html.escape(title)}</title>\n'
+        f"<style>\n{STYLE}\n</style>\n</head>\n<body>\n<main>\n{content}\n"
+        f'<p class="sign">Batyskaf nr 7: płyta z głębin. Spółdzielnia Wydawnicza Latimeria.</p>\n</main>\n</body>\n</html>\n'
+    )
 
 
 def page(entry):
     """The entry's document on the disc, in HTML."""
-    return page_frame(f"Atlas głębin: {entry.caption}",
-                      f'<h1>{entry.caption}</h1>\n<p><em>{entry.latin}</em>, {entry.size}, od {entry.shallow} do {entry.deep} m</p>\n'
-                      f'<img src="../Data/atlas/{entry.slug}.gif" alt="{entry.caption}">\n<p>{entry.note}</p>\n<p>{entry.more}</p>\n'
-                      f'<img src="../Data/atlas/{entry.slug}2.gif" alt="Karta okazu">')
+    return page_frame(
+        f"Atlas głębin: {entry.caption}",
+        f"<h1>{entry.caption}</h1>\n<p><em>{entry.latin}</em>, {entry.size}, od {entry.shallow} do {entry.deep} m</p>\n"
+        f'<img src="../Data/atlas/{entry.slug}.gif" alt="{entry.caption}">\n<p>{entry.note}</p>\n<p>{entry.more}</p>\n'
+        f'<img src="../Data/atlas/{entry.slug}2.gif" alt="Karta okazu">',
+    )
 
 
 def catalogue():
@@ -173,4 +309,6 @@ def catalogue():
     return f"[Atlas głębin]\n{menu}\n" + "\n".join(
         f"[{e.caption}]\nExecute=%:\\Atlas\\{e.slug}.html\nNote={e.note}\n"
         f"System=Przeglądarka stron WWW. Głębokość: od {e.shallow} do {e.deep} m.\n"
-        f"Shot1=atlas\\{e.slug}.gif\nShot2=atlas\\{e.slug}2.gif\n" for e in ENTRIES)
+        f"Shot1=atlas\\{e.slug}.gif\nShot2=atlas\\{e.slug}2.gif\n"
+        for e in ENTRIES
+    )

@@ -1,4 +1,4 @@
-"""The inhabitants of the atlas; each is drawn round the origin in a box of about 400 by 280 units, its head to the left."""
+"""The swimmers of the atlas; each is drawn round the origin in a box of about 400 by 280 units, its head to the left."""
 
 import math
 import random
@@ -7,78 +7,110 @@ import parts
 import svg
 
 
-def _soft(name, blur=7, scale=14, shine=.35, exponent=16):
+def _soft(name, blur=7, scale=14, shine=0.35, exponent=16):
     return svg.lighting(name, blur, scale, shine, exponent, 55)
 
 
-DEFS = "".join([
-    _soft("plump"), _soft("tiny", 3, 6, .5, 20), _soft("glassy", 4, 8, .9, 30),
-    svg.gradient("coelaSkin", [(0, "#5f8fb4"), (.5, "#3b6288"), (1, "#22405c")]),
-    svg.gradient("anglerSkin", [(0, "#6b4a44"), (.5, "#4b302f"), (1, "#27181a")]),
-    svg.gradient("gulperSkin", [(0, "#3c3346"), (1, "#19141f")]),
-    svg.gradient("silver", [(0, "#46626f"), (.3, "#c8dde2"), (.6, "#8fb0ba"), (1, "#dff2f2")]),
-    svg.gradient("squidSkin", [(0, "#e2694e"), (.6, "#b43b36"), (1, "#741f2a")]),
-    svg.gradient("dumboSkin", [(0, "#f2a48a"), (.55, "#d9705f"), (1, "#9a3f48")]),
-    svg.gradient("isopodSkin", [(0, "#d9c4cf"), (1, "#7d6478")]),
-    svg.gradient("crabSkin", [(0, "#fff6e6"), (1, "#c9b598")]),
-    svg.gradient("whaleSkin", [(0, "#7f97a3"), (.5, "#536c7a"), (1, "#33454f")]),
-    svg.gradient("pinkGlass", [(0, "#f9b7b0", .85), (1, "#c1526a", .7)]),
-    svg.radial("jellyBell", [(0, "#ffd9c9", .9), (.55, "#d4485a", .75), (1, "#6d1f4a", .85)], .5, .35, .6),
-    svg.radial("lure", [(0, "#ffffff"), (.2, "#d8fff0"), (.5, "#63ffd8", .6), (1, "#63ffd8", 0)]),
-    svg.radial("eye", [(0, "#05080a"), (.5, "#05080a"), (.56, "#d8f7b2"), (1, "#7fae6a")]),
-    svg.radial("darkEye", [(0, "#000"), (.6, "#0a0f12"), (1, "#3b5560")]),
-    svg.radial("shell", [(0, "#fffaf0"), (.6, "#f1dfc2"), (1, "#b98a5c")], .4, .35, .7),
-])
+DEFS = "".join(
+    [
+        _soft("plump"),
+        _soft("tiny", 3, 6, 0.5, 20),
+        _soft("glassy", 4, 8, 0.9, 30),
+        svg.gradient("coelaSkin", [(0, "#5f8fb4"), (0.5, "#3b6288"), (1, "#22405c")]),
+        svg.gradient("anglerSkin", [(0, "#6b4a44"), (0.5, "#4b302f"), (1, "#27181a")]),
+        svg.gradient("gulperSkin", [(0, "#3c3346"), (1, "#19141f")]),
+        svg.gradient("silver", [(0, "#46626f"), (0.3, "#c8dde2"), (0.6, "#8fb0ba"), (1, "#dff2f2")]),
+        svg.gradient("squidSkin", [(0, "#e2694e"), (0.6, "#b43b36"), (1, "#741f2a")]),
+        svg.gradient("dumboSkin", [(0, "#f2a48a"), (0.55, "#d9705f"), (1, "#9a3f48")]),
+        svg.gradient("isopodSkin", [(0, "#d9c4cf"), (1, "#7d6478")]),
+        svg.gradient("crabSkin", [(0, "#fff6e6"), (1, "#c9b598")]),
+        svg.gradient("whaleSkin", [(0, "#7f97a3"), (0.5, "#536c7a"), (1, "#33454f")]),
+        svg.gradient("pinkGlass", [(0, "#f9b7b0", 0.85), (1, "#c1526a", 0.7)]),
+        svg.radial("jellyBell", [(0, "#ffd9c9", 0.9), (0.55, "#d4485a", 0.75), (1, "#6d1f4a", 0.85)], 0.5, 0.35, 0.6),
+        svg.radial("lure", [(0, "#ffffff"), (0.2, "#d8fff0"), (0.5, "#63ffd8", 0.6), (1, "#63ffd8", 0)]),
+        svg.radial("eye", [(0, "#05080a"), (0.5, "#05080a"), (0.56, "#d8f7b2"), (1, "#7fae6a")]),
+        svg.radial("darkEye", [(0, "#000"), (0.6, "#0a0f12"), (1, "#3b5560")]),
+        svg.radial("shell", [(0, "#fffaf0"), (0.6, "#f1dfc2"), (1, "#b98a5c")], 0.4, 0.35, 0.7),
+    ]
+)
 
 
-def _light(x, y, r, opacity=1):
+def light(x, y, r, opacity=1):
+    """A living lamp."""
     return f'<circle cx="{x}" cy="{y}" r="{r}" fill="url(#lure)" opacity="{opacity}"/>'
 
 
-def _eye(x, y, r, kind="eye"):
-    return (f'<circle cx="{x}" cy="{y}" r="{r}" fill="url(#{kind})"/>'
-            f'<circle cx="{x - r * .3}" cy="{y - r * .35}" r="{r * .22}" fill="#fff" opacity=".9"/>')
+def eye(x, y, r, kind="eye"):
+    return (
+        f'<circle cx="{x}" cy="{y}" r="{r}" fill="url(#{kind})"/>'
+        f'<circle cx="{x - r * .3}" cy="{y - r * .35}" r="{r * .22}" fill="#fff" opacity=".9"/>'
+    )
 
 
 def coelacanth():
     dice = random.Random(4)
-    flecks = "".join(f'<ellipse cx="{dice.uniform(14, 185):.1f}" cy="{dice.uniform(22, 78):.1f}" rx="{dice.uniform(.8, 3):.1f}" '
-                     f'ry="{dice.uniform(.7, 1.8):.1f}" fill="#dff0f4" opacity="{dice.uniform(.35, .85):.2f}"/>' for _ in range(80))
+    flecks = "".join(
+        f'<ellipse cx="{dice.uniform(14, 185):.1f}" cy="{dice.uniform(22, 78):.1f}" rx="{dice.uniform(.8, 3):.1f}" '
+        f'ry="{dice.uniform(.7, 1.8):.1f}" fill="#dff0f4" opacity="{dice.uniform(.35, .85):.2f}"/>'
+        for _ in range(80)
+    )
     rays = ""
-    for cx, cy, a0, a1, r0, r1 in ((84, 25, -115, -62, 4, 22), (134, 32, -110, -50, 2, 18), (172, 50, -75, 75, 12, 30),
-                                   (74, 70, 40, 80, 14, 34), (106, 76, 40, 75, 10, 24), (134, 72, 30, 68, 8, 22)):
+    for cx, cy, a0, a1, r0, r1 in (
+        (84, 25, -115, -62, 4, 22),
+        (134, 32, -110, -50, 2, 18),
+        (172, 50, -75, 75, 12, 30),
+        (74, 70, 40, 80, 14, 34),
+        (106, 76, 40, 75, 10, 24),
+        (134, 72, 30, 68, 8, 22),
+    ):
         for k in range(9):
             a = math.radians(a0 + (a1 - a0) * k / 8)
-            rays += (f'<path d="M{cx + r0 * math.cos(a):.1f},{cy + r0 * math.sin(a):.1f} L{cx + r1 * math.cos(a):.1f},'
-                     f'{cy + r1 * math.sin(a):.1f}" stroke="#0f2233" stroke-width=".6" opacity=".7"/>')
+            rays += (
+                f'<path d="M{cx + r0 * math.cos(a):.1f},{cy + r0 * math.sin(a):.1f} L{cx + r1 * math.cos(a):.1f},'
+                f'{cy + r1 * math.sin(a):.1f}" stroke="#0f2233" stroke-width=".6" opacity=".7"/>'
+            )
     fins = "".join(f'<path d="{d}"/>' for d in parts.COELACANTH_FINS)
-    return (f'<g transform="translate(-190,-88) scale(1.72)"><clipPath id="coelaBody"><path d="{parts.COELACANTH_BODY}"/></clipPath>'
-            f'<g filter="url(#tiny)" fill="#2f5475">{fins}</g>{rays}'
-            f'<g filter="url(#tiny)"><path d="{parts.COELACANTH_BODY}" fill="url(#coelaSkin)"/></g>'
-            f'<g clip-path="url(#coelaBody)">{flecks}<path d="M0,66 C60,86 120,78 190,56 V90 H0 Z" fill="#0a1826" opacity=".4"/></g>'
-            f'<path d="M44,24 C54,38 54,58 44,74" fill="none" stroke="#132a3d" stroke-width="1.6" opacity=".8"/>'
-            f'<path d="M4,53 C12,58 20,60 30,59" fill="none" stroke="#0c1c2a" stroke-width="1.6"/>'
-            f'<path d="M30,59 q4,2 3,6" fill="none" stroke="#0c1c2a" stroke-width="1"/>{_eye(25, 42, 5)}</g>')
+    return (
+        f'<g transform="translate(-190,-88) scale(1.72)"><clipPath id="coelaBody"><path d="{parts.COELACANTH_BODY}"/></clipPath>'
+        f'<g filter="url(#tiny)" fill="#2f5475">{fins}</g>{rays}'
+        f'<g filter="url(#tiny)"><path d="{parts.COELACANTH_BODY}" fill="url(#coelaSkin)"/></g>'
+        f'<g clip-path="url(#coelaBody)">{flecks}<path d="M0,66 C60,86 120,78 190,56 V90 H0 Z" fill="#0a1826" opacity=".4"/></g>'
+        f'<path d="M44,24 C54,38 54,58 44,74" fill="none" stroke="#132a3d" stroke-width="1.6" opacity=".8"/>'
+        f'<path d="M4,53 C12,58 20,60 30,59" fill="none" stroke="#0c1c2a" stroke-width="1.6"/>'
+        f'<path d="M30,59 q4,2 3,6" fill="none" stroke="#0c1c2a" stroke-width="1"/>{eye(25, 42, 5)}</g>'
+    )
 
 
 def angler():
     upper = [(-112, 4), (-99, 13), (-86, 19), (-73, 22), (-60, 22), (-48, 19)]
     lower = [(-92, 64), (-102, 58), (-110, 49), (-115, 38), (-82, 60), (-70, 52)]
-    teeth = "".join(f'<path d="M{x - 3},{y - 1} L{x + 1},{y + 17 + (k % 2) * 8} L{x + 4},{y} Z" fill="#efe9d2"/>' for k, (x, y) in enumerate(upper))
-    teeth += "".join(f'<path d="M{x - 3},{y + 1} L{x + 2},{y - 15 - (k % 2) * 7} L{x + 4},{y + 1} Z" fill="#efe9d2"/>' for k, (x, y) in enumerate(lower))
+    teeth = "".join(
+        f'<path d="M{x - 3},{y - 1} L{x + 1},{y + 17 + (k % 2) * 8} L{x + 4},{y} Z" fill="#efe9d2"/>'
+        for k, (x, y) in enumerate(upper)
+    )
+    teeth += "".join(
+        f'<path d="M{x - 3},{y + 1} L{x + 2},{y - 15 - (k % 2) * 7} L{x + 4},{y + 1} Z" fill="#efe9d2"/>'
+        for k, (x, y) in enumerate(lower)
+    )
     dice = random.Random(8)
-    warts = "".join(f'<circle cx="{dice.uniform(-60, 110):.0f}" cy="{dice.uniform(-60, 70):.0f}" r="{dice.uniform(1, 3.4):.1f}" '
-                    f'fill="#8a6660" opacity=".5"/>' for _ in range(46))
-    rays = "".join(f'<path d="M140,{4 + k * 2} L{174},{-30 + k * 12}" stroke="#1b1012" stroke-width="1" opacity=".6"/>' for k in range(7))
+    warts = "".join(
+        f'<circle cx="{dice.uniform(-60, 110):.0f}" cy="{dice.uniform(-60, 70):.0f}" r="{dice.uniform(1, 3.4):.1f}" '
+        f'fill="#8a6660" opacity=".5"/>'
+        for _ in range(46)
+    )
+    rays = "".join(
+        f'<path d="M140,{4 + k * 2} L{174},{-30 + k * 12}" stroke="#1b1012" stroke-width="1" opacity=".6"/>'
+        for k in range(7)
+    )
     return f"""<path d="M-46,-66 C-60,-120 -120,-134 -150,-84" fill="none" stroke="#6b4a44" stroke-width="4" stroke-linecap="round"/>
-{_light(-152, -78, 52, .9)}<circle cx="-152" cy="-78" r="6.5" fill="#eafff8"/>
+{light(-152, -78, 52, .9)}<circle cx="-152" cy="-78" r="6.5" fill="#eafff8"/>
 <path d="M30,-78 q22,-34 52,-28 q10,24 -4,44 Z M10,88 q14,30 40,30 q16,-22 4,-42 Z" fill="#3a2526" filter="url(#tiny)"/>
 <g filter="url(#plump)"><path d="M-112,4 C-106,-56 -44,-90 26,-82 C78,-76 116,-44 136,-14 L178,-42 C188,-12 188,22 180,48 L136,20 C118,62 70,94 10,94 C-32,94 -66,88 -90,68 C-120,58 -130,28 -112,4 Z" fill="url(#anglerSkin)"/></g>
 {warts}{rays}
 <path d="M-112,4 C-90,20 -62,26 -38,18 C-46,46 -66,64 -90,66 C-114,56 -124,28 -112,4 Z" fill="#170608"/>{teeth}
 <path d="M-38,18 q8,4 8,-4" fill="none" stroke="#1b1012" stroke-width="3"/>
 <path d="M44,20 q34,-8 44,14 q-16,22 -44,12 Z" fill="#3a2526" filter="url(#tiny)"/>
-{_eye(-58, -22, 9)}<circle cx="-58" cy="-22" r="13" fill="none" stroke="#1b1012" stroke-width="2" opacity=".5"/>
+{eye(-58, -22, 9)}<circle cx="-58" cy="-22" r="13" fill="none" stroke="#1b1012" stroke-width="2" opacity=".5"/>
 <path d="M-112,4 C-106,-56 -44,-90 26,-82" fill="none" stroke="#63ffd8" stroke-width="2.5" opacity=".35"/>"""
 
 
@@ -88,48 +120,91 @@ def jellyfish():
     for k in range(22):
         x = -84 + k * 8
         sway, length = dice.uniform(-30, 30), dice.uniform(70, 150)
-        arms += (f'<path d="M{x},-6 c{sway},{length * .3:.0f} {-sway},{length * .6:.0f} {sway * .6:.0f},{length:.0f}" fill="none" '
-                 f'stroke="#ff9d8a" stroke-width="{1 + (k % 3)}" opacity="{.35 + .1 * (k % 4):.2f}" stroke-linecap="round"/>')
-    lobes = "".join(f'<ellipse cx="{-88 + k * 19.5:.0f}" cy="-4" rx="12" ry="14" fill="#b23050" opacity=".75"/>' for k in range(10))
-    ring = "".join(_light(-80 + k * 20, -14 + 5 * math.cos((k - 4) * .5), 13, .8) for k in range(9))
-    return (f'{_light(0, -30, 190, .3)}{arms}<path d="M100,-4 C150,10 176,60 190,128" fill="none" stroke="#ffb49e" stroke-width="3" opacity=".8"/>'
-            f'<g filter="url(#glassy)">{lobes}<path d="M-104,-8 C-106,-86 -56,-124 0,-124 C56,-124 106,-86 104,-8 C60,-20 -60,-20 -104,-8 Z" fill="url(#jellyBell)"/></g>'
-            f'<path d="M-58,-60 C-50,-96 50,-96 58,-60 C40,-44 -40,-44 -58,-60 Z" fill="#ffd9c9" opacity=".45" filter="url(#blur3)"/>'
-            f'<path d="M-96,-34 C-60,-52 60,-52 96,-34" fill="none" stroke="#ffd1c0" stroke-width="3" opacity=".6"/>{ring}')
+        arms += (
+            f'<path d="M{x},-6 c{sway},{length * .3:.0f} {-sway},{length * .6:.0f} {sway * .6:.0f},{length:.0f}" fill="none" '
+            f'stroke="#ff9d8a" stroke-width="{1 + (k % 3)}" opacity="{.35 + .1 * (k % 4):.2f}" stroke-linecap="round"/>'
+        )
+    lobes = "".join(
+        f'<ellipse cx="{-88 + k * 19.5:.0f}" cy="-4" rx="12" ry="14" fill="#b23050" opacity=".75"/>' for k in range(10)
+    )
+    ring = "".join(light(-80 + k * 20, -14 + 5 * math.cos((k - 4) * 0.5), 13, 0.8) for k in range(9))
+    return (
+        f'{light(0, -30, 190, .3)}{arms}<path d="M100,-4 C150,10 176,60 190,128" fill="none" stroke="#ffb49e" stroke-width="3" opacity=".8"/>'
+        f'<g filter="url(#glassy)">{lobes}<path d="M-104,-8 C-106,-86 -56,-124 0,-124 C56,-124 106,-86 104,-8 C60,-20 -60,-20 -104,-8 Z" fill="url(#jellyBell)"/></g>'
+        f'<path d="M-58,-60 C-50,-96 50,-96 58,-60 C40,-44 -40,-44 -58,-60 Z" fill="#ffd9c9" opacity=".45" filter="url(#blur3)"/>'
+        f'<path d="M-96,-34 C-60,-52 60,-52 96,-34" fill="none" stroke="#ffd1c0" stroke-width="3" opacity=".6"/>{ring}'
+    )
 
 
 def dumbo():
     arms = ""
-    for x0, x1, y1, w in ((-70, -128, 70, 17), (-46, -86, 108, 18), (-16, -34, 122, 19), (16, 26, 124, 19), (46, 82, 108, 18), (70, 126, 66, 17)):
+    for x0, x1, y1, w in (
+        (-70, -128, 70, 17),
+        (-46, -86, 108, 18),
+        (-16, -34, 122, 19),
+        (16, 26, 124, 19),
+        (46, 82, 108, 18),
+        (70, 126, 66, 17),
+    ):
         arms += f'<path d="M{x0},10 Q{(x0 + x1) / 2 - 6},{y1 * .6} {x1},{y1} q{8 if x1 > 0 else -8},6 {12 if x1 > 0 else -12},-6" fill="none" stroke="#c25f57" stroke-width="{w}" stroke-linecap="round"/>'
-    suckers = "".join(f'<circle cx="{x}" cy="{y}" r="2.6" fill="#ffd9c8" opacity=".8"/>'
-                      for x, y in ((-62, 40), (-78, 62), (-34, 54), (-46, 78), (-12, 62), (-20, 88), (14, 62), (18, 90), (38, 54), (54, 78), (62, 40), (82, 56)))
+    suckers = "".join(
+        f'<circle cx="{x}" cy="{y}" r="2.6" fill="#ffd9c8" opacity=".8"/>'
+        for x, y in (
+            (-62, 40),
+            (-78, 62),
+            (-34, 54),
+            (-46, 78),
+            (-12, 62),
+            (-20, 88),
+            (14, 62),
+            (18, 90),
+            (38, 54),
+            (54, 78),
+            (62, 40),
+            (82, 56),
+        )
+    )
     return f"""<g filter="url(#plump)">{arms}
 <path d="M-92,-44 C-150,-84 -186,-60 -176,-30 C-160,-6 -116,-12 -84,-22 Z M92,-44 C150,-84 186,-60 176,-30 C160,-6 116,-12 84,-22 Z" fill="#d9705f"/>
 <path d="M-90,10 C-104,-70 -60,-124 0,-124 C60,-124 104,-70 90,10 C98,40 80,66 52,56 C30,80 -30,80 -52,56 C-80,66 -98,40 -90,10 Z" fill="url(#dumboSkin)"/></g>{suckers}
 <path d="M-168,-46 C-140,-52 -118,-42 -96,-34 M168,-46 C140,-52 118,-42 96,-34" fill="none" stroke="#8c3a42" stroke-width="3" opacity=".5"/>
-{_eye(-46, -18, 17, "darkEye")}{_eye(46, -18, 17, "darkEye")}
+{eye(-46, -18, 17, "darkEye")}{eye(46, -18, 17, "darkEye")}
 <ellipse cx="-20" cy="-84" rx="34" ry="16" fill="#fff" opacity=".22" filter="url(#blur3)" transform="rotate(-20 -20 -84)"/>
 <path d="M-14,22 q14,10 28,0" fill="none" stroke="#7a2f3a" stroke-width="3" stroke-linecap="round"/>"""
 
 
 def squid():
     arms = ""
-    for k, (dx, dy, c) in enumerate(((-90, 60, 30), (-104, 36, -26), (-112, 10, 22), (-108, -18, -20), (-92, -42, 24), (-84, 84, -18), (-70, -60, -16))):
+    for k, (dx, dy, c) in enumerate(
+        (
+            (-90, 60, 30),
+            (-104, 36, -26),
+            (-112, 10, 22),
+            (-108, -18, -20),
+            (-92, -42, 24),
+            (-84, 84, -18),
+            (-70, -60, -16),
+        )
+    ):
         arms += f'<path d="M-46,6 q{dx * .4:.0f},{dy * .2 + c:.0f} {dx},{dy}" fill="none" stroke="#a83238" stroke-width="{11 - k * .6}" stroke-linecap="round"/>'
-    arms += ('<path d="M-46,14 C-120,60 -150,130 -186,104" fill="none" stroke="#c8484a" stroke-width="5" stroke-linecap="round"/>'
-             '<path d="M-46,-4 C-130,-50 -150,-110 -190,-96" fill="none" stroke="#c8484a" stroke-width="5" stroke-linecap="round"/>'
-             '<ellipse cx="-186" cy="102" rx="15" ry="8" transform="rotate(-24 -186 102)" fill="#e2694e"/>'
-             '<ellipse cx="-190" cy="-96" rx="15" ry="8" transform="rotate(14 -190 -96)" fill="#e2694e"/>')
+    arms += (
+        '<path d="M-46,14 C-120,60 -150,130 -186,104" fill="none" stroke="#c8484a" stroke-width="5" stroke-linecap="round"/>'
+        '<path d="M-46,-4 C-130,-50 -150,-110 -190,-96" fill="none" stroke="#c8484a" stroke-width="5" stroke-linecap="round"/>'
+        '<ellipse cx="-186" cy="102" rx="15" ry="8" transform="rotate(-24 -186 102)" fill="#e2694e"/>'
+        '<ellipse cx="-190" cy="-96" rx="15" ry="8" transform="rotate(14 -190 -96)" fill="#e2694e"/>'
+    )
     dice = random.Random(3)
-    spots = "".join(f'<circle cx="{dice.uniform(-30, 140):.0f}" cy="{dice.uniform(-34, 36):.0f}" r="{dice.uniform(.8, 2.4):.1f}" fill="#5c1520" opacity=".5"/>' for _ in range(90))
+    spots = "".join(
+        f'<circle cx="{dice.uniform(-30, 140):.0f}" cy="{dice.uniform(-34, 36):.0f}" r="{dice.uniform(.8, 2.4):.1f}" fill="#5c1520" opacity=".5"/>'
+        for _ in range(90)
+    )
     return f"""<g transform="rotate(-8)"><g filter="url(#tiny)">{arms}</g><g filter="url(#plump)">
 <path d="M96,-30 C120,-78 168,-76 186,-6 C190,4 190,8 186,16 C166,84 122,84 96,36 Z" fill="#b43b36"/>
 <path d="M-24,-40 C40,-56 130,-40 194,4 C130,50 40,62 -24,44 Z" fill="url(#squidSkin)"/>
 <path d="M-62,-26 C-40,-40 -22,-38 -16,-34 L-16,40 C-30,44 -48,42 -64,32 C-74,14 -74,-8 -62,-26 Z" fill="#c24a40"/></g>
 <clipPath id="mantle"><path d="M-24,-40 C40,-56 130,-40 194,4 C130,50 40,62 -24,44 Z"/></clipPath><g clip-path="url(#mantle)">{spots}</g>
 <path d="M-18,-36 q8,36 0,78" fill="none" stroke="#5c1520" stroke-width="3" opacity=".7"/>
-{_eye(-42, 4, 15, "eye")}</g>"""
+{eye(-42, 4, 15, "eye")}</g>"""
 
 
 def gulper():
@@ -138,130 +213,45 @@ def gulper():
 <path d="M-172,-28 C-130,-24 -100,-10 -80,8" fill="none" stroke="#6d5a78" stroke-width="1.6" stroke-dasharray="2 3"/>
 <path d="M-152,62 C-112,66 -84,44 -76,14" fill="none" stroke="#6d5a78" stroke-width="1.6" stroke-dasharray="2 3"/>
 <path d="M-60,-30 C-40,-4 -44,40 -66,76 M-46,-30 C-28,-6 -32,30 -50,58" fill="none" stroke="#52445e" stroke-width="2" opacity=".7"/>
-{_eye(-146, -42, 5)}<path d="M-40,-40 C20,-16 80,-50 140,-40" fill="none" stroke="#8f7ca0" stroke-width="2" opacity=".5"/>
-{_light(138, 40, 34, .95)}<circle cx="138" cy="40" r="5" fill="#ffd9e6"/>"""
+{eye(-146, -42, 5)}<path d="M-40,-40 C20,-16 80,-50 140,-40" fill="none" stroke="#8f7ca0" stroke-width="2" opacity=".5"/>
+{light(138, 40, 34, .95)}<circle cx="138" cy="40" r="5" fill="#ffd9e6"/>"""
 
 
 def hatchet():
-    belly = "".join(_light(x, y, 11, .95) + f'<circle cx="{x}" cy="{y}" r="3" fill="#eafff8"/>'
-                    for x, y in ((-98, 52), (-80, 76), (-58, 94), (-34, 104), (-8, 102), (14, 90), (34, 68), (54, 48), (80, 36), (100, 28)))
-    scales = "".join(f'<path d="M{-70 + k * 17},{-50 + k % 2 * 6} q-10,46 0,{120 - abs(k - 3) * 14}" fill="none" stroke="#35525e" stroke-width="1.4" opacity=".45"/>' for k in range(8))
+    belly = "".join(
+        light(x, y, 11, 0.95) + f'<circle cx="{x}" cy="{y}" r="3" fill="#eafff8"/>'
+        for x, y in (
+            (-98, 52),
+            (-80, 76),
+            (-58, 94),
+            (-34, 104),
+            (-8, 102),
+            (14, 90),
+            (34, 68),
+            (54, 48),
+            (80, 36),
+            (100, 28),
+        )
+    )
+    scales = "".join(
+        f'<path d="M{-70 + k * 17},{-50 + k % 2 * 6} q-10,46 0,{120 - abs(k - 3) * 14}" fill="none" stroke="#35525e" stroke-width="1.4" opacity=".45"/>'
+        for k in range(8)
+    )
     return f"""<path d="M-10,-78 q16,-40 44,-40 l20,52 Z M120,0 l60,-44 q-14,44 0,92 l-60,-40 Z M40,60 q20,26 46,22 l-10,-38 Z" fill="#8fb0ba" opacity=".8" filter="url(#tiny)"/>
 <g filter="url(#plump)"><path d="M-132,6 C-118,-46 -70,-84 -6,-82 C50,-78 90,-34 140,-14 L140,16 C100,20 60,40 36,78 C16,112 -34,122 -66,100 C-100,78 -124,44 -132,6 Z" fill="url(#silver)"/></g>{scales}
 <path d="M-132,8 C-118,26 -106,40 -86,44 L-74,18 Z" fill="#1b2c33"/><path d="M-130,6 C-112,12 -92,16 -74,18" fill="none" stroke="#dff2f2" stroke-width="2"/>
-<circle cx="-78" cy="-20" r="25" fill="#22363f"/>{_eye(-78, -22, 20)}{belly}"""
-
-
-def nautilus():
-    def spiral(turn, scale):
-        return 96 * math.exp(-.17 * turn) * scale
-    outer = "M" + " L".join(f"{26 + spiral(t, 1) * math.cos(t + 2.5):.1f},{-4 + spiral(t, 1) * math.sin(t + 2.5):.1f}" for t in [k * .08 for k in range(-26, 170)])
-    stripes = ""
-    for k in range(15):
-        t = -1.6 + k * .36
-        a, r = t + 2.5, spiral(t, 1)
-        stripes += (f'<path d="M{26 + r * 1.0 * math.cos(a):.0f},{-4 + r * math.sin(a):.0f} Q{26 + r * .8 * math.cos(a + .28):.0f},{-4 + r * .8 * math.sin(a + .28):.0f} '
-                    f'{26 + r * .5 * math.cos(a + .3):.0f},{-4 + r * .5 * math.sin(a + .3):.0f}" fill="none" stroke="#a4431f" stroke-width="{max(13 - k * .55, 3):.1f}" stroke-linecap="round" opacity=".85"/>')
-    arms = "".join(f'<path d="M-72,{34 + k * 5} c-30,{-12 + k * 5} -46,{-24 + k * 9} -{76 + (k * 37) % 30},{-20 + k * 9}" fill="none" stroke="{"#e9b18a" if k % 2 else "#cf8560"}" stroke-width="6" stroke-linecap="round"/>' for k in range(9))
-    return f"""<g filter="url(#tiny)">{arms}</g>
-<g filter="url(#plump)"><path d="M-84,22 C-96,-70 -30,-124 40,-116 C120,-104 160,-34 136,36 C114,98 34,120 -24,92 C-58,76 -80,54 -84,22 Z" fill="url(#shell)"/></g>
-<clipPath id="nautShell"><path d="M-84,22 C-96,-70 -30,-124 40,-116 C120,-104 160,-34 136,36 C114,98 34,120 -24,92 C-58,76 -80,54 -84,22 Z"/></clipPath>
-<g clip-path="url(#nautShell)">{stripes}<path d="{outer}" fill="none" stroke="#7a4a26" stroke-width="2.2" opacity=".0"/></g>
-<circle cx="30" cy="0" r="13" fill="#3b1f12"/><circle cx="30" cy="0" r="21" fill="none" stroke="#fff3dd" stroke-width="3" opacity=".6"/>
-<g filter="url(#tiny)"><path d="M-88,20 C-64,0 -30,10 -18,92 C-50,96 -84,74 -96,50 Z" fill="#d98f66"/></g>
-<path d="M-90,16 C-60,-10 -34,-4 -8,40" fill="none" stroke="#b9613a" stroke-width="9" stroke-linecap="round"/>{_eye(-56, 38, 11, "eye")}"""
-
-
-def tubeworms():
-    dice = random.Random(12)
-    out = []
-    for k in range(15):
-        x = -150 + k * 21 + dice.uniform(-6, 6)
-        height = 110 + 90 * math.sin((k + 1.5) / 17 * math.pi) * dice.uniform(.7, 1.1)
-        lean = dice.uniform(-22, 22)
-        top_x, top_y = x + lean, 140 - height
-        plume = "".join(f'<path d="M{top_x:.0f},{top_y:.0f} q{math.cos(a) * 12:.0f},{-14 + math.sin(a) * 4:.0f} {math.cos(a) * 16:.0f},{-30 - 8 * math.sin(a):.0f}" '
-                        f'stroke="{"#ff5b4a" if j % 2 else "#c9202a"}" stroke-width="4" fill="none" stroke-linecap="round"/>'
-                        for j, a in enumerate([math.pi * i / 6 for i in range(7)]))
-        out.append((height, f'<g filter="url(#tiny)">{plume}<path d="M{x - 6:.0f},150 Q{x - 6:.0f},{140 - height * .5:.0f} {top_x - 6:.0f},{top_y:.0f} h12 Q{x + 7:.0f},{140 - height * .5:.0f} {x + 7:.0f},150 Z" fill="#e9e2cd"/></g>'
-                    + "".join(f'<path d="M{x - 5 + (top_x - x) * j / 6:.0f},{150 - (height + 10) * j / 6:.0f} h10" stroke="#8f866a" stroke-width="1" opacity=".7"/>' for j in range(1, 6))))
-    return "".join(s for _, s in sorted(out, key=lambda p: -p[0]))
-
-
-def isopod():
-    body = "M-150,20 C-160,-30 -110,-62 -20,-66 C70,-68 130,-44 146,4 C150,26 140,40 120,44 L-120,46 C-140,44 -148,34 -150,20 Z"
-    plates = "".join(f'<path d="M{x},{-72} C{x - 34},{-40} {x - 40},{10} {x - 26},{52}" fill="none" stroke="#5b465a" stroke-width="3"/>'
-                     f'<path d="M{x + 4},{-72} C{x - 30},{-40} {x - 36},{10} {x - 22},{52}" fill="none" stroke="#fff3f8" stroke-width="2" opacity=".5"/>'
-                     for x in (-60, -28, 2, 32, 62, 90, 114, 134))
-    legs = "".join(f'<path d="M{x},36 q-10,22 -2,36 q-14,10 -20,26" fill="none" stroke="#94798d" stroke-width="8" stroke-linecap="round" '
-                   f'stroke-linejoin="round"/>' for x in range(-88, 112, 29))
-    return f"""<g filter="url(#tiny)">{legs}<path d="M118,-26 C160,-30 186,-10 190,12 l-16,-4 6,16 -18,-6 2,16 -18,-8 -4,14 C130,42 122,30 118,16 Z" fill="#a58a9c"/></g>
-<path d="M-142,-18 c-24,-26 -40,-60 -40,-92 M-132,-28 c-8,-36 2,-70 22,-94" fill="none" stroke="#cdb4c4" stroke-width="5" stroke-linecap="round"/>
-<clipPath id="isoBody"><path d="{body}"/></clipPath><g filter="url(#plump)"><path d="{body}" fill="url(#isopodSkin)"/></g><g clip-path="url(#isoBody)">{plates}</g>
-<path d="M-138,2 C-132,-18 -112,-26 -98,-22 L-96,4 C-110,12 -126,12 -138,2 Z" fill="#150d13"/>
-<path d="M-130,-2 C-124,-12 -114,-16 -104,-15 M-128,6 L-102,-2" stroke="#7fd8c8" stroke-width="2.4" fill="none" opacity=".85"/>
-<path d="M-148,28 q16,6 34,4" fill="none" stroke="#5c4456" stroke-width="3"/>"""
-
-
-def yeti_crab():
-    dice = random.Random(9)
-
-    def hair(x0, y0, x1, y1, count):
-        out = ""
-        for k in range(count):
-            t = k / count
-            x, y = x0 + (x1 - x0) * t, y0 + (y1 - y0) * t
-            out += (f'<path d="M{x:.0f},{y:.0f} q{dice.uniform(-9, 9):.0f},{dice.uniform(6, 14):.0f} {dice.uniform(-12, 12):.0f},{dice.uniform(14, 26):.0f}" '
-                    f'stroke="#f6ead0" stroke-width="1.3" fill="none" opacity=".85"/>')
-        return out
-    legs = "".join(f'<path d="M{s * 50},{20 + k * 12} Q{s * (104 + k * 8)},{-16 + k * 26} {s * (136 - k * 8)},{74 + k * 16}" fill="none" stroke="#dccbad" stroke-width="9" stroke-linecap="round"/>'
-                   for s in (-1, 1) for k in range(3))
-    claws = ""
-    for s in (-1, 1):
-        claws += (f'<path d="M{s * 44},-16 L{s * 96},-66 L{s * 112},-100" fill="none" stroke="#e6d6b8" stroke-width="17" stroke-linecap="round" stroke-linejoin="round"/>'
-                  f'<path d="M{s * 100},-92 C{s * 92},-124 {s * 112},-140 {s * 128},-138 L{s * 120},-116 L{s * 140},-130 C{s * 150},-112 {s * 138},-90 {s * 120},-86 Z" fill="#f6ead0"/>')
-    fur = "".join(hair(s * 44, -16, s * 98, -66, 34) + hair(s * 96, -66, s * 116, -96, 24) + hair(s * 58, 10, s * 110, 4, 20) for s in (-1, 1))
-    return f"""<g filter="url(#tiny)">{legs}{claws}</g>{fur}
-<g filter="url(#plump)"><path d="M-56,-24 C-40,-52 40,-52 56,-24 C74,10 62,60 30,78 C12,86 -12,86 -30,78 C-62,60 -74,10 -56,-24 Z" fill="url(#crabSkin)"/></g>
-<path d="M-40,4 q40,16 80,0 M-44,26 q44,18 88,0 M-36,50 q36,16 72,0" fill="none" stroke="#a58f6d" stroke-width="2" opacity=".7"/>
-<path d="M-18,-44 l-10,-18 M18,-44 l10,-18" stroke="#e6d6b8" stroke-width="5" stroke-linecap="round"/>
-<circle cx="-29" cy="-64" r="4.5" fill="#c99"/><circle cx="29" cy="-64" r="4.5" fill="#c99"/>
-<path d="M-10,-46 c-16,-30 -34,-50 -60,-60 M10,-46 c16,-30 34,-50 60,-60" fill="none" stroke="#dccbad" stroke-width="2.4"/>"""
-
-
-def glass_sponge():
-    lattice = ""
-    for k in range(-14, 15):
-        lattice += f'<path d="M{k * 12 - 60},-130 L{k * 12 + 60},120 M{k * 12 + 60},-130 L{k * 12 - 60},120" stroke="#eafffa" stroke-width="1.5" opacity=".55"/>'
-    rings = "".join(f'<path d="M-80,{y} q80,22 160,0" fill="none" stroke="#eafffa" stroke-width="1.7" opacity=".6"/>' for y in range(-128, 120, 15))
-    shape = "M-46,-124 C-70,-60 -64,30 -22,104 C-10,124 10,124 22,104 C64,30 70,-60 46,-124 C20,-136 -20,-136 -46,-124 Z"
-    roots = "".join(f'<path d="M{-14 + k * 4},108 q{-20 + k * 6},20 {-40 + k * 11},36" fill="none" stroke="#eafffa" stroke-width="1.2" opacity=".7"/>' for k in range(9))
-    second = f'<g transform="translate(112,34) scale(.62) rotate(8)"><path d="{shape}" fill="#8fe6dc" opacity=".18"/><clipPath id="sp2"><path d="{shape}"/></clipPath><g clip-path="url(#sp2)">{lattice}{rings}</g></g>'
-    return (f'{_light(0, -10, 170, .35)}{second}{roots}<clipPath id="sp1"><path d="{shape}"/></clipPath>'
-            f'<path d="{shape}" fill="#a9f0e4" opacity=".22"/><g clip-path="url(#sp1)">{lattice}{rings}'
-            f'<rect x="-64" y="-130" width="40" height="260" fill="#fff" opacity=".16" filter="url(#blur6)"/></g>'
-            f'<path d="{shape}" fill="none" stroke="#eafffa" stroke-width="2.4" opacity=".8"/>'
-            f'<ellipse cx="0" cy="-125" rx="46" ry="9" fill="#06323a" stroke="#eafffa" stroke-width="2"/>{_light(4, 30, 34, .7)}')
+<circle cx="-78" cy="-20" r="25" fill="#22363f"/>{eye(-78, -22, 20)}{belly}"""
 
 
 def sperm_whale():
     body = "M-192,-20 C-194,-52 -150,-66 -70,-66 C20,-64 90,-30 150,-14 L190,-46 C196,-34 188,-18 176,-6 C188,8 194,26 186,36 L150,8 C100,40 20,62 -60,54 C-100,50 -120,44 -132,34 C-160,34 -186,30 -190,14 C-192,4 -192,-8 -192,-20 Z"
-    folds = "".join(f'<path d="M{-20 + k * 20},{-20 + (k % 3) * 8} q26,6 {46},{16}" fill="none" stroke="#2a3a43" stroke-width="1.6" opacity=".5"/>' for k in range(6))
+    folds = "".join(
+        f'<path d="M{-20 + k * 20},{-20 + (k % 3) * 8} q26,6 {46},{16}" fill="none" stroke="#2a3a43" stroke-width="1.6" opacity=".5"/>'
+        for k in range(6)
+    )
     return f"""<path d="M-40,48 q10,44 44,46 q10,-24 -8,-50 Z" fill="#3d525d" filter="url(#tiny)"/>
 <g filter="url(#plump)"><path d="{body}" fill="url(#whaleSkin)"/><path d="M70,-34 q20,-20 34,-10 l-2,22 Z" fill="#536c7a"/></g>{folds}
 <path d="M-184,22 C-150,30 -120,26 -96,14" fill="none" stroke="#1d2a31" stroke-width="3"/>
 <path d="M-180,26 C-150,42 -118,40 -98,18" fill="#a9b9bf" opacity=".55"/>
 <path d="M-92,6 q8,-6 16,0" fill="none" stroke="#11191d" stroke-width="4"/><circle cx="-84" cy="6" r="3.4" fill="#05080a"/>
 <path d="M-170,-40 l44,10 M-150,-56 l30,20 M-176,-10 l24,-6" stroke="#c9d8dd" stroke-width="1.4" opacity=".5"/>"""
-
-
-def sea_cucumber():
-    veil = "".join(f'<path d="M{-60 + k * 13},-70 q{-10 + k * 1.5:.0f},-50 {-26 + k * 5},-66" fill="none" stroke="#ffb8b8" stroke-width="8" stroke-linecap="round" opacity=".75"/>' for k in range(11))
-    gut = "M-50,-30 C-10,-60 50,-50 60,-10 C64,20 20,30 -6,20 C-40,10 -50,40 -20,60 C10,76 50,66 66,50"
-    feet = "".join(f'<path d="M{-70 + k * 14},{86 - abs(k - 5) * 2} q{-6 + k},20 {-10 + k * 2},34" fill="none" stroke="#e88a94" stroke-width="6" stroke-linecap="round" opacity=".8"/>' for k in range(11))
-    return f"""{_light(0, 0, 180, .22)}<g filter="url(#glassy)">{veil}{feet}
-<path d="M-84,-40 C-80,-84 80,-84 84,-40 C100,20 92,86 40,98 C10,104 -20,104 -46,96 C-94,80 -100,20 -84,-40 Z" fill="url(#pinkGlass)"/></g>
-<path d="{gut}" fill="none" stroke="#5c1428" stroke-width="13" opacity=".55" stroke-linecap="round" filter="url(#blur1)"/>
-<path d="{gut}" fill="none" stroke="#8c2a3c" stroke-width="5" opacity=".8" stroke-linecap="round"/>
-<path d="M-66,-46 C-50,-68 0,-74 40,-66" fill="none" stroke="#fff" stroke-width="7" opacity=".45" stroke-linecap="round" filter="url(#blur1)"/>
-{"".join(_light(x, y, 14, .55) for x, y in ((-70, 10), (72, -6), (-30, 84), (58, 70), (10, -60)))}"""

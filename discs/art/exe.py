@@ -52,7 +52,20 @@ def image():
     for page in PAGES:
         text = BASE + section.put((page + "\0").encode("utf-16le"))
         # push type; push title; push text; push 0 (no owner); call [MessageBoxW]
-        code += struct.pack("<BIBIBIBBBBI", 0x68, MB_ICONINFORMATION, 0x68, title, 0x68, text, 0x6A, 0, 0xFF, 0x15, slots[b"MessageBoxW"])
+        code += struct.pack(
+            "<BIBIBIBBBBI",
+            0x68,
+            MB_ICONINFORMATION,
+            0x68,
+            title,
+            0x68,
+            text,
+            0x6A,
+            0,
+            0xFF,
+            0x15,
+            slots[b"MessageBoxW"],
+        )
     code += struct.pack("<BBBBI", 0x6A, 0, 0xFF, 0x15, slots[b"ExitProcess"])
     entry = section.put(code, 16)
     size = len(section.data)
@@ -61,9 +74,39 @@ def image():
     coff = b"PE\0\0" + struct.pack("<HHIIIHH", 0x14C, 1, 0, 0, 0, 224, 0x103)
     directories = [(0, 0)] * 16
     directories[1] = (imports, len(descriptors) + 20)
-    optional = struct.pack("<HBBIIIIIIIIIHHHHHHIIIIHHIIIIII", 0x10B, 6, 0, raw, 0, 0, entry, SECTION_RVA, SECTION_RVA, BASE, 0x1000, ALIGN,
-                           4, 0, 1, 0, 4, 0, 0, 0x1000 + -(-size // 0x1000) * 0x1000, SECTION_FILE, 0, 2, 0, 0x100000, 0x1000, 0x100000,
-                           0x1000, 0, 16)
+    optional = struct.pack(
+        "<HBBIIIIIIIIIHHHHHHIIIIHHIIIIII",
+        0x10B,
+        6,
+        0,
+        raw,
+        0,
+        0,
+        entry,
+        SECTION_RVA,
+        SECTION_RVA,
+        BASE,
+        0x1000,
+        ALIGN,
+        4,
+        0,
+        1,
+        0,
+        4,
+        0,
+        0,
+        0x1000 + -(-size // 0x1000) * 0x1000,
+        SECTION_FILE,
+        0,
+        2,
+        0,
+        0x100000,
+        0x1000,
+        0x100000,
+        0x1000,
+        0,
+        16,
+    )
     optional += b"".join(struct.pack("<II", *pair) for pair in directories)
     table = struct.pack("<8sIIIIIIHHI", b".text", size, SECTION_RVA, raw, SECTION_FILE, 0, 0, 0, 0, 0xE0000060)
     head = dos + coff + optional + table

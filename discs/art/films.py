@@ -22,17 +22,19 @@ def _between(t, first, last):
     return _ease((t - first) / (last - first))
 
 
-def _curtain(t, fade=.05):
+def _curtain(t, fade=0.05):
     """Black at both ends of the film."""
     dark = 1 - min(_between(t, 0, fade), 1 - _between(t, 1 - fade, 1))
-    return f'<rect width="{W}" height="{H}" fill="#000" opacity="{dark:.3f}"/>' if dark > .002 else ""
+    return f'<rect width="{W}" height="{H}" fill="#000" opacity="{dark:.3f}"/>' if dark > 0.002 else ""
 
 
 def _title(t, first, last, lines):
-    shown = min(_between(t, first, first + .05), 1 - _between(t, last - .05, last))
+    shown = min(_between(t, first, first + 0.05), 1 - _between(t, last - 0.05, last))
     if shown <= 0:
         return ""
-    text = "".join(svg.text(W / 2, y, line, size, "#fff1cf", font, "middle", 'letter-spacing="1"') for y, line, size, font in lines)
+    text = "".join(
+        svg.text(W / 2, y, line, size, "#fff1cf", font, "middle", 'letter-spacing="1"') for y, line, size, font in lines
+    )
     return f'<g opacity="{shown:.3f}">{text}</g>'
 
 
@@ -41,7 +43,7 @@ def _drift(t, count, seed, speed=40, sway=8):
     dice = random.Random(seed)
     out = []
     for _ in range(count):
-        x0, y0, r, pace = dice.uniform(0, W), dice.uniform(0, H), dice.uniform(.3, 1.2), dice.uniform(.5, 1.5)
+        x0, y0, r, pace = dice.uniform(0, W), dice.uniform(0, H), dice.uniform(0.3, 1.2), dice.uniform(0.5, 1.5)
         x = (x0 - t * speed * pace) % W
         y = (y0 + t * 60 * pace + sway * math.sin(t * 20 * pace + x0)) % H
         out.append(f'<circle cx="{x:.1f}" cy="{y:.1f}" r="{r:.1f}" fill="#d8fff4" opacity="{.2 + r * .3:.2f}"/>')
@@ -50,14 +52,24 @@ def _drift(t, count, seed, speed=40, sway=8):
 
 def walk(t):
     """A walk on the sea bed: the vessel crosses a field of smokers and meets a coelacanth in its light."""
-    vessel_x = 250 - 190 * _ease(t * .9) + 4 * math.sin(t * 22)
+    vessel_x = 250 - 190 * _ease(t * 0.9) + 4 * math.sin(t * 22)
     vessel_y = 34 + 5 * math.sin(t * 16)
-    fish_x = -150 + 330 * _between(t, .25, .98)
+    fish_x = -150 + 330 * _between(t, 0.25, 0.98)
     fish_y = 128 + 6 * math.sin(t * 24)
     far, near = 80 * t - 110, 300 * t - 330  # the bed falls behind as the vessel goes left
-    lx, ly = scenes.lamp(vessel_x, vessel_y, .52)
+    lx, ly = scenes.lamp(vessel_x, vessel_y, 0.52)
     in_beam = max(0, 1 - abs(fish_x + 60 - (lx - 110)) / 120)
-    smokers = "".join(scenes.chimney(x, 236, height, width, seed) for x, height, width, seed in ((90, 84, 40, 3), (150, 52, 30, 6), (330, 110, 46, 9), (420, 70, 36, 2), (520, 90, 40, 5), (600, 60, 34, 8)))
+    smokers = "".join(
+        scenes.chimney(x, 236, height, width, seed)
+        for x, height, width, seed in (
+            (90, 84, 40, 3),
+            (150, 52, 30, 6),
+            (330, 110, 46, 9),
+            (420, 70, 36, 2),
+            (520, 90, 40, 5),
+            (600, 60, 34, 8),
+        )
+    )
     body = f"""<rect width="{W}" height="{H}" fill="url(#deepSea)"/>
 <g transform="translate({far:.1f},0)" filter="url(#blur1)">{scenes.ridge(460, 214, 90, 5, "#0b3b47", 12, .7)}</g>
 {scenes.beam(round(lx, 1), round(ly, 1), 190, 56, 150 + 5 * math.sin(t * 12), .95)}
@@ -77,20 +89,20 @@ def _blink(t, rate, phase):
 
 def light(t):
     """Light in the dark: one lamp calls, others answer, and at the end they all shine together."""
-    together = _between(t, .72, .9)
+    together = _between(t, 0.72, 0.9)
     dice = random.Random(2)
     lamps = ""
     for k in range(46):
         x, y, rate, phase = dice.uniform(8, W - 8), dice.uniform(8, H - 8), dice.uniform(18, 50), dice.uniform(0, 7)
-        born = dice.uniform(.1, .7)
-        glow = _between(t, born, born + .05) * max(_blink(t, rate, phase), together)
-        if glow > .02:
+        born = dice.uniform(0.1, 0.7)
+        glow = _between(t, born, born + 0.05) * max(_blink(t, rate, phase), together)
+        if glow > 0.02:
             lamps += f'<circle cx="{x:.0f}" cy="{y + 4 * math.sin(t * 9 + phase):.1f}" r="{5 + 6 * glow:.1f}" fill="url(#coldGlow)" opacity="{glow * .9:.2f}"/>'
-    angler_x = W + 90 - 230 * _between(t, .05, .45) - 60 * _between(t, .6, 1)
-    seen = .25 + .75 * max(_blink(t, 26, 1), together)
-    jelly_y = 290 - 210 * _between(t, .35, .9)
-    pulse = 1 + .08 * math.sin(t * 60)
-    squid_x = -120 + 252 * _between(t, .55, .95)
+    angler_x = W + 90 - 230 * _between(t, 0.05, 0.45) - 60 * _between(t, 0.6, 1)
+    seen = 0.25 + 0.75 * max(_blink(t, 26, 1), together)
+    jelly_y = 290 - 210 * _between(t, 0.35, 0.9)
+    pulse = 1 + 0.08 * math.sin(t * 60)
+    squid_x = -120 + 252 * _between(t, 0.55, 0.95)
     flash = max(_blink(t, 40, 0), together)
     body = f"""<rect width="{W}" height="{H}" fill="#01060a"/><rect width="{W}" height="{H}" fill="url(#deepSea)" opacity="{.25 + .45 * together:.2f}"/>
 {lamps}

@@ -44,7 +44,7 @@ def pen_strokes(glyph, *lines):
 def curve(points, t):
     """The point at t on the Bezier curve of four points."""
     u = 1 - t
-    return tuple(u ** 3 * a + 3 * u * u * t * b + 3 * u * t * t * c + t ** 3 * d for a, b, c, d in zip(*points))
+    return tuple(u**3 * a + 3 * u * u * t * b + 3 * u * t * t * c + t**3 * d for a, b, c, d in zip(*points))
 
 
 def derive(letter, base, *lines):
@@ -89,12 +89,24 @@ font.fontname = family.replace(" ", "")
 font.familyname = font.fullname = family
 font.weight = "Regular"
 font.sfnt_names = ()
-for entry, text in (("Family", family), ("SubFamily", "Regular"), ("Fullname", family), ("UniqueID", f"{family} 1.0"),
-                    ("Version", "Version 1.0"),
-                    ("Copyright", licence.split("This Font Software")[0].strip()),
-                    ("License", "This Font Software is licensed under the SIL Open Font License, Version 1.1."),
-                    ("License URL", "https://openfontlicense.org")):
+for entry, text in (
+    ("Family", family),
+    ("SubFamily", "Regular"),
+    ("Fullname", family),
+    ("UniqueID", f"{family} 1.0"),
+    ("Version", "Version 1.0"),
+    ("Copyright", licence.split("This Font Software")[0].strip()),
+    ("License", "This Font Software is licensed under the SIL Open Font License, Version 1.1."),
+    ("License URL", "https://openfontlicense.org"),
+):
     font.appendSFNTName("English (US)", entry, text)
+# A line of 1.45 em, with most of the air above: so set, a caption stands in the middle of the menu's hover box.
+ASCENT, DESCENT = 1100, 380
+font.os2_winascent_add = font.os2_windescent_add = font.os2_typoascent_add = font.os2_typodescent_add = False
+font.hhea_ascent_add = font.hhea_descent_add = False
+font.os2_winascent = font.os2_typoascent = font.hhea_ascent = ASCENT
+font.os2_windescent, font.os2_typodescent, font.hhea_descent = DESCENT, -DESCENT, -DESCENT
+font.os2_typolinegap = font.hhea_linegap = 0
 font.os2_weight = 400
 font.os2_stylemap = 64
 font.macstyle = 0

@@ -61,6 +61,8 @@ def window_shapes(attributes=""):
     left, top, right, bottom = ELLIPSE
     pieces = [f'<path d="{polygon_path()}" {attributes}/>']
     pieces += [f'<rect x="{l}" y="{t}" width="{r - l}" height="{b - t}" {attributes}/>' for l, t, r, b in RECTANGLES]
-    pieces.append(f'<ellipse cx="{(left + right) / 2}" cy="{(top + bottom) / 2}" rx="{(right - left) / 2}" '
-                  f'ry="{(bottom - top) / 2}" {attributes}/>')
+    pieces.append(
+        f'<ellipse cx="{(left + right) / 2}" cy="{(top + bottom) / 2}" rx="{(right - left) / 2}" '
+        f'ry="{(bottom - top) / 2}" {attributes}/>'
+    )
     return "".join(pieces)

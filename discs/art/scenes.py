@@ -6,18 +6,24 @@ import random
 import parts
 import svg
 
-DEFS = parts.DEFS + "".join([
-    svg.gradient("sea", [(0, "#8fe6d4"), (.12, "#46b3b0"), (.38, "#14666f"), (.7, "#07323d"), (1, "#020d14")]),
-    svg.gradient("deepSea", [(0, "#0f5560"), (.4, "#08303b"), (1, "#01080d")]),
-    svg.gradient("ray", [(0, "#eafff4", .55), (.5, "#c9fff0", .16), (1, "#c9fff0", 0)]),
-    svg.gradient("beam", [(0, "#fff2c0", .75), (.35, "#ffdf90", .28), (1, "#ffdf90", 0)], x2=1, y2=0),
-    svg.gradient("floatHull", [(0, "#dff5e6"), (.16, "#8fc9bb"), (.42, "#3f8783"), (.75, "#1b4a4d"), (1, "#0a2226")]),
-    svg.gradient("floatBelly", [(0, "#c9694a"), (.4, "#8c3523"), (1, "#2d0d08")]),
-    svg.radial("ball", [(0, "#fff3cf"), (.3, "#e2b869"), (.65, "#93682b"), (1, "#2b1a08")], .5, .5, .55, .33, .26),
-    svg.radial("cabin", [(0, "#fff7d0"), (.5, "#ffc45c"), (1, "#b05a18")]),
-    svg.radial("glow", [(0, "#ffe2a0", .9), (.4, "#ffb84d", .35), (1, "#ffb84d", 0)]),
-    svg.radial("coldGlow", [(0, "#b8fff2", .95), (.4, "#4fe0d0", .35), (1, "#4fe0d0", 0)]),
-])
+DEFS = parts.DEFS + "".join(
+    [
+        svg.gradient("sea", [(0, "#8fe6d4"), (0.12, "#46b3b0"), (0.38, "#14666f"), (0.7, "#07323d"), (1, "#020d14")]),
+        svg.gradient("deepSea", [(0, "#0f5560"), (0.4, "#08303b"), (1, "#01080d")]),
+        svg.gradient("ray", [(0, "#eafff4", 0.55), (0.5, "#c9fff0", 0.16), (1, "#c9fff0", 0)]),
+        svg.gradient("beam", [(0, "#fff2c0", 0.75), (0.35, "#ffdf90", 0.28), (1, "#ffdf90", 0)], x2=1, y2=0),
+        svg.gradient(
+            "floatHull", [(0, "#dff5e6"), (0.16, "#8fc9bb"), (0.42, "#3f8783"), (0.75, "#1b4a4d"), (1, "#0a2226")]
+        ),
+        svg.gradient("floatBelly", [(0, "#c9694a"), (0.4, "#8c3523"), (1, "#2d0d08")]),
+        svg.radial(
+            "ball", [(0, "#fff3cf"), (0.3, "#e2b869"), (0.65, "#93682b"), (1, "#2b1a08")], 0.5, 0.5, 0.55, 0.33, 0.26
+        ),
+        svg.radial("cabin", [(0, "#fff7d0"), (0.5, "#ffc45c"), (1, "#b05a18")]),
+        svg.radial("glow", [(0, "#ffe2a0", 0.9), (0.4, "#ffb84d", 0.35), (1, "#ffb84d", 0)]),
+        svg.radial("coldGlow", [(0, "#b8fff2", 0.95), (0.4, "#4fe0d0", 0.35), (1, "#4fe0d0", 0)]),
+    ]
+)
 
 
 def rays(w, h, seed=4, count=9):
@@ -25,19 +31,23 @@ def rays(w, h, seed=4, count=9):
     dice = random.Random(seed)
     out = []
     for _ in range(count):
-        x, width = dice.random() * w * 1.1, 14 + dice.random() * w * .07
-        lean = (x - w * .42) * .45
-        out.append(f'<path d="M{x - width * .3:.0f},-10 L{x + width * .3:.0f},-10 L{x + lean + width:.0f},{h * (.55 + dice.random() * .4):.0f} '
-                   f'L{x + lean - width:.0f},{h * (.55 + dice.random() * .4):.0f} Z" fill="url(#ray)" opacity="{.25 + dice.random() * .4:.2f}"/>')
+        x, width = dice.random() * w * 1.1, 14 + dice.random() * w * 0.07
+        lean = (x - w * 0.42) * 0.45
+        out.append(
+            f'<path d="M{x - width * .3:.0f},-10 L{x + width * .3:.0f},-10 L{x + lean + width:.0f},{h * (.55 + dice.random() * .4):.0f} '
+            f'L{x + lean - width:.0f},{h * (.55 + dice.random() * .4):.0f} Z" fill="url(#ray)" opacity="{.25 + dice.random() * .4:.2f}"/>'
+        )
     return f'<g filter="url(#blur6)">{"".join(out)}</g>'
 
 
 def snow(w, h, count, seed, top=0):
     """Marine snow: specks that drift down."""
     dice = random.Random(seed)
-    return "".join(f'<circle cx="{dice.random() * w:.1f}" cy="{top + dice.random() * (h - top):.1f}" '
-                   f'r="{.3 + dice.random() ** 3 * 1.3:.2f}" fill="#d8fff4" opacity="{.15 + dice.random() * .45:.2f}"/>'
-                   for _ in range(count))
+    return "".join(
+        f'<circle cx="{dice.random() * w:.1f}" cy="{top + dice.random() * (h - top):.1f}" '
+        f'r="{.3 + dice.random() ** 3 * 1.3:.2f}" fill="#d8fff4" opacity="{.15 + dice.random() * .45:.2f}"/>'
+        for _ in range(count)
+    )
 
 
 def ridge(w, base, height, seed, colour, points=14, opacity=1):
@@ -45,8 +55,8 @@ def ridge(w, base, height, seed, colour, points=14, opacity=1):
     dice = random.Random(seed)
     line = []
     for k in range(points + 1):
-        swell = math.sin(k * 1.7 + seed) * .35 + dice.random() * .65
-        line.append((w * k / points, base - height * max(swell, .05)))
+        swell = math.sin(k * 1.7 + seed) * 0.35 + dice.random() * 0.65
+        line.append((w * k / points, base - height * max(swell, 0.05)))
     path = f"M0,{line[0][1]:.1f}"
     for (x0, y0), (x1, y1) in zip(line, line[1:]):
         path += f" C{x0 + (x1 - x0) * .4:.1f},{y0:.1f} {x0 + (x1 - x0) * .6:.1f},{y1:.1f} {x1:.1f},{y1:.1f}"
@@ -60,31 +70,49 @@ def chimney(x, y, height, width, seed, smoke=True):
     steps = 7
     for k in range(steps + 1):
         t = k / steps
-        half = width * (.5 - .32 * t) * (.8 + dice.random() * .4)
+        half = width * (0.5 - 0.32 * t) * (0.8 + dice.random() * 0.4)
         left.append((x - half, y - height * t))
-        right.append((x + half * .9, y - height * t))
+        right.append((x + half * 0.9, y - height * t))
     points = " ".join(f"{px:.1f},{py:.1f}" for px, py in left + right[::-1])
-    plume = "".join(f'<ellipse cx="{x + math.sin(k * .9 + seed) * width * .12 * k:.1f}" cy="{y - height - k * width * .42:.1f}" '
-                    f'rx="{width * (.16 + k * .09):.1f}" ry="{width * (.28 + k * .05):.1f}" fill="#01070a" opacity="{.55 - k * .055:.2f}"/>'
-                    for k in range(9)) if smoke else ""
-    return (f'<g filter="url(#blur3)">{plume}</g><polygon points="{points}" fill="#04151b"/>'
-            f'<polygon points="{points}" fill="none" stroke="#2c7a7a" stroke-width="1" opacity=".35"/>')
+    plume = (
+        "".join(
+            f'<ellipse cx="{x + math.sin(k * .9 + seed) * width * .12 * k:.1f}" cy="{y - height - k * width * .42:.1f}" '
+            f'rx="{width * (.16 + k * .09):.1f}" ry="{width * (.28 + k * .05):.1f}" fill="#01070a" opacity="{.55 - k * .055:.2f}"/>'
+            for k in range(9)
+        )
+        if smoke
+        else ""
+    )
+    return (
+        f'<g filter="url(#blur3)">{plume}</g><polygon points="{points}" fill="#04151b"/>'
+        f'<polygon points="{points}" fill="none" stroke="#2c7a7a" stroke-width="1" opacity=".35"/>'
+    )
 
 
 def beam(x, y, length, spread, angle, opacity=1):
     """A lamp's cone of light from x, y; the angle is in degrees, 0 to the right, growing downwards."""
-    return (f'<g transform="translate({x},{y}) rotate({angle})" opacity="{opacity}"><path d="M0,-3 L{length},{-spread} '
-            f'Q{length * 1.06},0 {length},{spread} L0,3 Z" fill="url(#beam)" filter="url(#blur2)"/></g>')
+    return (
+        f'<g transform="translate({x},{y}) rotate({angle})" opacity="{opacity}"><path d="M0,-3 L{length},{-spread} '
+        f'Q{length * 1.06},0 {length},{spread} L0,3 Z" fill="url(#beam)" filter="url(#blur2)"/></g>'
+    )
 
 
 def vessel(x, y, scale, lights=True):
     """The bathyscaphe, its bow to the left; about 320 by 190 units, x, y its upper left corner."""
-    rivets = "".join(f'<circle cx="{px}" cy="{py}" r="1" fill="#06181b" opacity=".6"/><circle cx="{px - .4}" cy="{py - .4}" r=".5" fill="#e9fff6" opacity=".7"/>'
-                     for px in range(46, 280, 9) for py in (62, 104))
-    seams = "".join(f'<path d="M{px},56 q-4,26 0,58" fill="none" stroke="#06181b" stroke-width="1.1" opacity=".5"/>'
-                    f'<path d="M{px + 1.4},56 q-4,26 0,58" fill="none" stroke="#dffff2" stroke-width=".6" opacity=".35"/>' for px in (92, 146, 200, 250))
-    ball_rivets = "".join(f'<circle cx="{122 + 33 * math.cos(a):.1f}" cy="{146 + 33 * math.sin(a):.1f}" r="1.3" fill="#3b2409"/>'
-                          for a in [k * math.pi / 9 for k in range(18)])
+    rivets = "".join(
+        f'<circle cx="{px}" cy="{py}" r="1" fill="#06181b" opacity=".6"/><circle cx="{px - .4}" cy="{py - .4}" r=".5" fill="#e9fff6" opacity=".7"/>'
+        for px in range(46, 280, 9)
+        for py in (62, 104)
+    )
+    seams = "".join(
+        f'<path d="M{px},56 q-4,26 0,58" fill="none" stroke="#06181b" stroke-width="1.1" opacity=".5"/>'
+        f'<path d="M{px + 1.4},56 q-4,26 0,58" fill="none" stroke="#dffff2" stroke-width=".6" opacity=".35"/>'
+        for px in (92, 146, 200, 250)
+    )
+    ball_rivets = "".join(
+        f'<circle cx="{122 + 33 * math.cos(a):.1f}" cy="{146 + 33 * math.sin(a):.1f}" r="1.3" fill="#3b2409"/>'
+        for a in [k * math.pi / 9 for k in range(18)]
+    )
     body = f"""
 <path d="M150,18 h34 q5,0 6,6 l4,28 h-54 l4,-28 q1,-6 6,-6 Z" fill="#3f8783" filter="url(#bevel3)"/>
 <rect x="146" y="12" width="42" height="8" rx="3" fill="{svg.BRASS}" filter="url(#bevel1)"/>
@@ -107,8 +135,11 @@ def vessel(x, y, scale, lights=True):
 <path d="M56,172 l-8,-4 m8,4 l-3,8" stroke="#c9a25a" stroke-width="2.4" stroke-linecap="round"/>
 <path d="M40,112 l-10,10" stroke="#8a6a34" stroke-width="4"/>
 <path d="M22,118 l12,-3 7,9 -9,8 Z" fill="#c9a25a" filter="url(#bevel1)"/><ellipse cx="25" cy="125" rx="4" ry="7" transform="rotate(-38 25 125)" fill="#fff3c0"/>"""
-    glow = ('<circle cx="24" cy="125" r="26" fill="url(#glow)"/><circle cx="108" cy="148" r="30" fill="url(#glow)" opacity=".55"/>'
-            if lights else "")
+    glow = (
+        '<circle cx="24" cy="125" r="26" fill="url(#glow)"/><circle cx="108" cy="148" r="30" fill="url(#glow)" opacity=".55"/>'
+        if lights
+        else ""
+    )
     return f'<g transform="translate({x},{y}) scale({scale})">{body}{glow}</g>'
 
 

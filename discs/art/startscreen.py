@@ -11,11 +11,15 @@ WIDTH, HEIGHT, STRIP = 640, 450, 30
 def logo(x, y, size, name="BATYSKAF"):
     """The disc's name in cast brass."""
     style = f'font-family="{svg.DISPLAY}" font-weight="600" font-size="{size}" letter-spacing="{size * .1:.1f}" text-anchor="middle"'
-    return (f'<text x="{x + size * .05}" y="{y + size * .07}" {style} fill="#00080b" opacity=".75" filter="url(#blur3)">{name}</text>'
-            f'<g filter="url(#bevel2)"><text x="{x}" y="{y}" {style} fill="url(#castBrass)">{name}</text></g>')
+    return (
+        f'<text x="{x + size * .05}" y="{y + size * .07}" {style} fill="#00080b" opacity=".75" filter="url(#blur3)">{name}</text>'
+        f'<g filter="url(#bevel2)"><text x="{x}" y="{y}" {style} fill="url(#castBrass)">{name}</text></g>'
+    )
 
 
-LOGO_DEFS = svg.gradient("castBrass", [(0, "#fff3cf"), (.45, "#e4bb6c"), (.5, "#a87932"), (.56, "#d7aa5b"), (1, "#8a5f25")])
+LOGO_DEFS = svg.gradient(
+    "castBrass", [(0, "#fff3cf"), (0.45, "#e4bb6c"), (0.5, "#a87932"), (0.56, "#d7aa5b"), (1, "#8a5f25")]
+)
 
 
 def picture():
@@ -37,34 +41,66 @@ def picture():
 {logo(320, 74, 66)}
 {svg.text(320, 104, "PŁYTA Z GŁĘBIN  •  NUMER 7", 17, "#eafff4", anchor="middle", extra='letter-spacing="4"')}
 {_frame(w, h)}"""
-    defs = scenes.DEFS + creatures.DEFS + LOGO_DEFS + "".join([
-        svg.radial("vignette", [(0, "#000", 0), (.7, "#000", 0), (1, "#000", .55)], .5, .42, .75)])
+    defs = (
+        scenes.DEFS
+        + creatures.DEFS
+        + LOGO_DEFS
+        + "".join([svg.radial("vignette", [(0, "#000", 0), (0.7, "#000", 0), (1, "#000", 0.55)], 0.5, 0.42, 0.75)])
+    )
     return svg.document(w, h, body, defs)
 
 
 def _kelp(w):
     out = []
     for x, height, lean in ((22, 120, 14), (40, 86, -10), (58, 60, 9), (w - 250, 60, 10), (w - 236, 44, -7)):
-        out.append(f'<path d="M{x},452 q{lean},{-height * .3} 0,{-height * .55} q{-lean},{-height * .25} {lean * .4},{-height * .45}" '
-                   f'fill="none" stroke="#02151a" stroke-width="5" stroke-linecap="round"/>')
+        out.append(
+            f'<path d="M{x},452 q{lean},{-height * .3} 0,{-height * .55} q{-lean},{-height * .25} {lean * .4},{-height * .45}" '
+            f'fill="none" stroke="#02151a" stroke-width="5" stroke-linecap="round"/>'
+        )
         for k in range(5):
-            ly = 452 - height * (.15 + k * .17)
+            ly = 452 - height * (0.15 + k * 0.17)
             side = 1 if k % 2 else -1
-            out.append(f'<path d="M{x + lean * .2},{ly} q{side * 12},{-10} {side * 16},{-22} q{-side * 12},{6} {-side * 16},{22} Z" fill="#02151a"/>')
+            out.append(
+                f'<path d="M{x + lean * .2},{ly} q{side * 12},{-10} {side * 16},{-22} q{-side * 12},{6} {-side * 16},{22} Z" fill="#02151a"/>'
+            )
     return "".join(out)
 
 
 def _frame(w, h):
-    return (f'<path d="M0,0 H{w} V{h} H0 Z M7,7 V{h - 2} H{w - 7} V7 Z" fill="{svg.BRASS}" fill-rule="evenodd" filter="url(#bevel2)"/>'
-            + "".join(parts.screw(x, y, 2.6, x + y) for x, y in ((3.6, 3.6), (w - 3.6, 3.6), (3.6, h / 2), (w - 3.6, h / 2))))
+    return (
+        f'<path d="M0,0 H{w} V{h} H0 Z M7,7 V{h - 2} H{w - 7} V7 Z" fill="{svg.BRASS}" fill-rule="evenodd" filter="url(#bevel2)"/>'
+        + "".join(
+            parts.screw(x, y, 2.6, x + y) for x, y in ((3.6, 3.6), (w - 3.6, 3.6), (3.6, h / 2), (w - 3.6, h / 2))
+        )
+    )
 
 
 def strip():
     w, h = WIDTH, STRIP
-    lamps = "".join(f'<circle cx="{x}" cy="16" r="3.6" fill="#05161a"/><circle cx="{x}" cy="16" r="2.6" fill="{c}"/>'
-                    f'<circle cx="{x - .8}" cy="15.2" r=".9" fill="#fff" opacity=".8"/>'
-                    for x, c in ((26, "#ffb84d"), (40, "#ffb84d"), (54, "#35534a"), (586, "#35534a"), (600, "#35534a"), (614, "#ff6a3d")))
-    body = (f'<rect width="{w}" height="{h}" fill="url(#enamelV)"/><rect width="{w}" height="{h}" fill="{svg.BRASS}" filter="url(#bevel2)"/>'
-            + parts.recess(7, 5, w - 14, 20, 8, "#061c21", 2) + lamps
-            + svg.text(w / 2, 20, "Zamykamy właz, zaczynamy zanurzenie...", 14, "#ffdf9e", anchor="middle", extra='letter-spacing="1.5"'))
+    lamps = "".join(
+        f'<circle cx="{x}" cy="16" r="3.6" fill="#05161a"/><circle cx="{x}" cy="16" r="2.6" fill="{c}"/>'
+        f'<circle cx="{x - .8}" cy="15.2" r=".9" fill="#fff" opacity=".8"/>'
+        for x, c in (
+            (26, "#ffb84d"),
+            (40, "#ffb84d"),
+            (54, "#35534a"),
+            (586, "#35534a"),
+            (600, "#35534a"),
+            (614, "#ff6a3d"),
+        )
+    )
+    body = (
+        f'<rect width="{w}" height="{h}" fill="url(#enamelV)"/><rect width="{w}" height="{h}" fill="{svg.BRASS}" filter="url(#bevel2)"/>'
+        + parts.recess(7, 5, w - 14, 20, 8, "#061c21", 2)
+        + lamps
+        + svg.text(
+            w / 2,
+            20,
+            "Zamykamy właz, zaczynamy zanurzenie...",
+            14,
+            "#ffdf9e",
+            anchor="middle",
+            extra='letter-spacing="1.5"',
+        )
+    )
     return svg.document(w, h, body, parts.DEFS)

@@ -49,59 +49,116 @@ def hammered(name, frequency=0.11, scale=1.1):
 
 
 def blur(name, deviation):
-    return (f'<filter id="{name}" x="-50%" y="-50%" width="200%" height="200%">'
-            f'<feGaussianBlur stdDeviation="{deviation}"/></filter>')
+    return (
+        f'<filter id="{name}" x="-50%" y="-50%" width="200%" height="200%">'
+        f'<feGaussianBlur stdDeviation="{deviation}"/></filter>'
+    )
 
 
 def gradient(name, stops, x1=0, y1=0, x2=0, y2=1, units="objectBoundingBox"):
     """A linear gradient; stops are (offset, colour) or (offset, colour, opacity)."""
-    return (f'<linearGradient id="{name}" x1="{x1}" y1="{y1}" x2="{x2}" y2="{y2}" gradientUnits="{units}">'
-            + _stops(stops) + "</linearGradient>")
+    return (
+        f'<linearGradient id="{name}" x1="{x1}" y1="{y1}" x2="{x2}" y2="{y2}" gradientUnits="{units}">'
+        + _stops(stops)
+        + "</linearGradient>"
+    )
 
 
 def radial(name, stops, cx=0.5, cy=0.5, r=0.5, fx=None, fy=None, units="objectBoundingBox"):
-    return (f'<radialGradient id="{name}" cx="{cx}" cy="{cy}" r="{r}" fx="{cx if fx is None else fx}" '
-            f'fy="{cy if fy is None else fy}" gradientUnits="{units}">' + _stops(stops) + "</radialGradient>")
+    return (
+        f'<radialGradient id="{name}" cx="{cx}" cy="{cy}" r="{r}" fx="{cx if fx is None else fx}" '
+        f'fy="{cy if fy is None else fy}" gradientUnits="{units}">' + _stops(stops) + "</radialGradient>"
+    )
 
 
 def _stops(stops):
-    return "".join(f'<stop offset="{s[0]}" stop-color="{s[1]}" stop-opacity="{s[2] if len(s) > 2 else 1}"/>'
-                   for s in stops)
+    return "".join(
+        f'<stop offset="{s[0]}" stop-color="{s[1]}" stop-opacity="{s[2] if len(s) > 2 else 1}"/>' for s in stops
+    )
 
 
-BRASS_STOPS = [(0, "#5d4118"), (.12, "#b98d48"), (.28, "#fff0c4"), (.42, "#dcb368"), (.7, "#8a6128"), (.9, "#4c3110"),
-               (1, "#2c1b07")]
-STEEL_STOPS = [(0, "#39474a"), (.15, "#8fa3a5"), (.3, "#eef6f4"), (.45, "#a9bbbb"), (.75, "#4f6063"), (1, "#1a2426")]
-RUBBER_STOPS = [(0, "#05090a"), (.25, "#3c4a4d"), (.35, "#5a6a6d"), (.55, "#1a2325"), (1, "#020405")]
-COPPER_STOPS = [(0, "#4a1d10"), (.15, "#a8552f"), (.3, "#ffd0a8"), (.45, "#cf7a4c"), (.75, "#74321b"), (1, "#2b0f07")]
-ENAMEL_STOPS = [(0, "#14312f"), (.12, "#37706d"), (.3, "#a4d2c6"), (.42, "#5b968f"), (.72, "#24504f"), (.92, "#0e2628"),
-                (1, "#071618")]
+BRASS_STOPS = [
+    (0, "#5d4118"),
+    (0.12, "#b98d48"),
+    (0.28, "#fff0c4"),
+    (0.42, "#dcb368"),
+    (0.7, "#8a6128"),
+    (0.9, "#4c3110"),
+    (1, "#2c1b07"),
+]
+STEEL_STOPS = [
+    (0, "#39474a"),
+    (0.15, "#8fa3a5"),
+    (0.3, "#eef6f4"),
+    (0.45, "#a9bbbb"),
+    (0.75, "#4f6063"),
+    (1, "#1a2426"),
+]
+RUBBER_STOPS = [(0, "#05090a"), (0.25, "#3c4a4d"), (0.35, "#5a6a6d"), (0.55, "#1a2325"), (1, "#020405")]
+COPPER_STOPS = [
+    (0, "#4a1d10"),
+    (0.15, "#a8552f"),
+    (0.3, "#ffd0a8"),
+    (0.45, "#cf7a4c"),
+    (0.75, "#74321b"),
+    (1, "#2b0f07"),
+]
+ENAMEL_STOPS = [
+    (0, "#14312f"),
+    (0.12, "#37706d"),
+    (0.3, "#a4d2c6"),
+    (0.42, "#5b968f"),
+    (0.72, "#24504f"),
+    (0.92, "#0e2628"),
+    (1, "#071618"),
+]
 
-COMMON = "".join([
-    lighting("bevel1", .7, 1.6), lighting("bevel2", 1.3, 3), lighting("bevel3", 2.2, 5),
-    lighting("hull", 4.5, 9, shine=.35, exponent=12), hammered("hammer"),
-    lighting("relief", .9, 2.4, shine=1.1, exponent=14),
-    blur("blur1", 1), blur("blur2", 2), blur("blur3", 3), blur("blur6", 6), blur("blur12", 12), blur("blur25", 25),
-    *[gradient(f"{name}V", stops) + gradient(f"{name}H", stops, x2=1, y2=0) for name, stops in (
-        ("brass", BRASS_STOPS), ("steel", STEEL_STOPS), ("rubber", RUBBER_STOPS), ("copper", COPPER_STOPS),
-        ("enamel", ENAMEL_STOPS))],
-    gradient("brassPlate", [(0, "#e9c981"), (.5, "#b98d48"), (1, "#7a5622")], x2=1),
-    gradient("ivory", [(0, "#f7f0da"), (1, "#d9cca6")]),
-    gradient("glassShine", [(0, "#fff", .55), (.5, "#fff", .08), (1, "#fff", 0)]),
-])
+COMMON = "".join(
+    [
+        lighting("bevel1", 0.7, 1.6),
+        lighting("bevel2", 1.3, 3),
+        lighting("bevel3", 2.2, 5),
+        lighting("hull", 4.5, 9, shine=0.35, exponent=12),
+        hammered("hammer"),
+        lighting("relief", 0.9, 2.4, shine=1.1, exponent=14),
+        blur("blur1", 1),
+        blur("blur2", 2),
+        blur("blur3", 3),
+        blur("blur6", 6),
+        blur("blur12", 12),
+        blur("blur25", 25),
+        *[
+            gradient(f"{name}V", stops) + gradient(f"{name}H", stops, x2=1, y2=0)
+            for name, stops in (
+                ("brass", BRASS_STOPS),
+                ("steel", STEEL_STOPS),
+                ("rubber", RUBBER_STOPS),
+                ("copper", COPPER_STOPS),
+                ("enamel", ENAMEL_STOPS),
+            )
+        ],
+        gradient("brassPlate", [(0, "#e9c981"), (0.5, "#b98d48"), (1, "#7a5622")], x2=1),
+        gradient("ivory", [(0, "#f7f0da"), (1, "#d9cca6")]),
+        gradient("glassShine", [(0, "#fff", 0.55), (0.5, "#fff", 0.08), (1, "#fff", 0)]),
+    ]
+)
 
 
 def document(width, height, body, defs="", view=None):
     """A complete SVG document; `view` is the part of the drawing that is seen, as x, y, width, height."""
     x, y, w, h = view or (0, 0, width, height)
-    return (f'<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" width="{width}" '
-            f'height="{height}" viewBox="{x} {y} {w} {h}"><defs>{COMMON}{defs}</defs>{body}</svg>')
+    return (
+        f'<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" width="{width}" '
+        f'height="{height}" viewBox="{x} {y} {w} {h}"><defs>{COMMON}{defs}</defs>{body}</svg>'
+    )
 
 
 def text(x, y, content, size, fill, font=LEGEND, anchor="start", extra=""):
     content = content.replace("&", "&amp;").replace("<", "&lt;")
-    return (f'<text x="{x}" y="{y}" font-family="{font}" font-size="{size}" fill="{fill}" text-anchor="{anchor}" '
-            f'{extra}>{content}</text>')
+    return (
+        f'<text x="{x}" y="{y}" font-family="{font}" font-size="{size}" fill="{fill}" text-anchor="{anchor}" '
+        f"{extra}>{content}</text>"
+    )
 
 
 def render(drawing, png, oversampling=OVERSAMPLING):
@@ -110,27 +167,49 @@ def render(drawing, png, oversampling=OVERSAMPLING):
     png.parent.mkdir(parents=True, exist_ok=True)
     svg_file = png.with_suffix(".svg")
     svg_file.write_text(drawing, encoding="utf-8")
-    run("rsvg-convert", "--unlimited", "-z", str(oversampling), str(svg_file), "-o", str(png))
+    run(f"rsvg-convert --unlimited -z {oversampling} -o", png, svg_file)
     if oversampling > 1:
-        run("convert", str(png), "-filter", "Box", "-resize", f"{100 / oversampling}%", str(png))
+        run("convert", png, f"-filter Box -resize {100 / oversampling}%", png)
     return png
 
 
-def gif(png, target, colours=256, dither="FloydSteinberg", crop=None, lossy=0):
-    """Reduces a PNG file to a GIF file; `crop` is the part to take, as x, y, width, height; `lossy` the loss allowed."""
-    target = pathlib.Path(target)
+def gif(png, target, colours=256, dither=0.6, crop=None, lossy=0):
+    """Reduces a PNG file to a GIF file.
+
+    `dither` is the share of each pixel's error that its neighbours take over, `crop` the part to take, as x, y, width,
+    height, and `lossy` how much may be lost to make the file smaller.
+    """
+    png, target = pathlib.Path(png), pathlib.Path(target)
+    cut, few = png.with_suffix(".cut.png"), png.with_suffix(".few.png")
     target.parent.mkdir(parents=True, exist_ok=True)
-    cut = ["-crop", f"{crop[2]}x{crop[3]}+{crop[0]}+{crop[1]}", "+repage"] if crop else []
-    how = ["+dither"] if dither is None else ["-dither", dither]
-    run("convert", str(png), *cut, *how, "-colors", str(colours), str(target))
-    run("gifsicle", "-b", "-O3", "--no-comments", *([f"--lossy={lossy}"] if lossy else []), str(target))
+    part = crop_to(*crop) if crop else ""
+    run("convert", png, part, "-alpha off", cut)
+    run("pngquant --force --speed 1", f"--floyd={dither}" if dither else "--nofs", "--output", few, str(colours), cut)
+    run("convert", few, target)
+    run("gifsicle -b -O3 --no-comments", f"--lossy={lossy}" if lossy else "", target)
     return target
 
 
+def crop_to(x, y, w, h):
+    """The words for convert that leave only this part of a picture."""
+    return f"-crop {w}x{h}+{x}+{y} +repage"
+
+
+def lay(ground, box, glass, target):
+    """Lays the picture `glass` on the part `box` of the picture `ground`."""
+    run("convert", ground, crop_to(*box), glass, "-composite", target)
+
+
 def run(*command, quiet=False):
-    """Runs a program; with `quiet` its chatter goes nowhere."""
+    """Runs a program; with `quiet` its chatter goes nowhere.
+
+    A text among the arguments is parted at its blanks; a path and each item of a list stay whole.
+    """
+    words = []
+    for piece in command:
+        words += piece if isinstance(piece, list) else piece.split() if isinstance(piece, str) else [str(piece)]
     nowhere = subprocess.DEVNULL if quiet else None
-    subprocess.run(command, check=True, stdout=nowhere, stderr=nowhere)
+    subprocess.run(words, check=True, stdin=subprocess.DEVNULL, stdout=nowhere, stderr=nowhere)
 
 
 def workshop():

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <cstring>
 
-#if defined(__SSE2__) && !defined(ORVANTA_PORTABLE_SEARCH)
+#if defined(__x86_64__) && !defined(ORVANTA_PORTABLE_SEARCH)
 #include <immintrin.h>
 #endif
 
@@ -32,47 +32,57 @@ const char* FindPortably(const char* begin, const char* end, Accept accept) {
   }
 }
 
-#if defined(__SSE2__) && !defined(ORVANTA_PORTABLE_SEARCH)
+#if defined(__x86_64__) && !defined(ORVANTA_PORTABLE_SEARCH)
 
 template <char... kBytes>
-__m128i MatchesSse2(const char* at) {
-  const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-  __m128i found = _mm_setzero_si128();
-  ((found = _mm_or_si128(found, _mm_cmpeq_epi8(bytes, _mm_set1_epi8(kBytes)))), ...);
+[[gnu::target("avx2")]] inline __m256i MatchesAvx2(const char* at) {
+  const __m256i bytes = _mm256_loadu_si256(reinterpret_cast<const __m256i_u*>(at));
+  __m256i found = _mm256_setzero_si256();
+  ((found = _mm256_or_si256(found, _mm256_cmpeq_epi8(bytes, _mm256_set1_epi8(kBytes)))), ...);
   return found;
 }
 
-inline std::uint64_t BitsSse2(__m128i found) { return static_cast<unsigned>(_mm_movemask_epi8(found)); }
+/// One bit for each of 64 bytes.
+[[gnu::target("avx2")]] inline std::uint64_t BitsAvx2(__m256i low, __m256i high) {
+  const std::uint64_t upper = static_cast<std::uint32_t>(_mm256_movemask_epi8(high));
+  return upper << 32 | static_cast<std::uint32_t>(_mm256_movemask_epi8(low));
+}
 
-/// The same with SSE2, which every x86-64 has, 64 bytes a step.
-template <char... kBytes, class Accept>
-const char* FindWithSse2(const char* begin, const char* end, Accept accept) {
-  const char* at = begin;
-  for (; end - at >= 64; at += 64) {
-    const __m128i a = MatchesSse2<kBytes...>(at), b = MatchesSse2<kBytes...>(at + 16);
-    const __m128i c = MatchesSse2<kBytes...>(at + 32), d = MatchesSse2<kBytes...>(at + 48);
-    if (BitsSse2(_mm_or_si128(_mm_or_si128(a, b), _mm_or_si128(c, d))) == 0) continue;
-    std::uint64_t candidates = BitsSse2(a) | BitsSse2(b) << 16 | BitsSse2(c) << 32 | BitsSse2(d) << 48;
-    do {
-      const char* candidate = at + std::countr_zero(candidates);
-      if (accept(candidate)) return candidate;
-      candidates &= candidates - 1;
-    } while (candidates != 0);
+template <class Accept>
+const char* FirstAccepted(const char* at, std::uint64_t candidates, Accept& accept) {
+  for (; candidates != 0; candidates &= candidates - 1) {
+    if (const char* candidate = at + std::countr_zero(candidates); accept(candidate)) return candidate;
   }
-  return FindPortably<kBytes...>(at, end, accept);
+  return nullptr;
+}
+
+/// The same, 128 bytes a step.
+template <char... kBytes, class Accept>
+[[gnu::target("avx2")]] const char* FindWithAvx2(const char* begin, const char* end, Accept accept) {
+  const char* const stop = begin + (end - begin) / 128 * 128;
+  for (const char* at = begin; at != stop; at += 128) {
+    const __m256i a = MatchesAvx2<kBytes...>(at), b = MatchesAvx2<kBytes...>(at + 32);
+    const __m256i c = MatchesAvx2<kBytes...>(at + 64), d = MatchesAvx2<kBytes...>(at + 96);
+    if (_mm256_movemask_epi8(_mm256_or_si256(_mm256_or_si256(a, b), _mm256_or_si256(c, d))) == 0) continue;
+    const char* found = FirstAccepted(at, BitsAvx2(a, b), accept);
+    if (!found) found = FirstAccepted(at + 64, BitsAvx2(c, d), accept);
+    if (!found) continue;
+    _mm256_zeroupper();  // GCC 12 forgets it here, and what follows would run at half the speed
+    return found;
+  }
+  return FindPortably<kBytes...>(stop, end, accept);
 }
 
 #endif
 
-/// The fastest of the ways. Vectors pay because they need not begin anew behind each candidate, of which a
-/// catalogue has one in 40 to 300 bytes.
+/// The fastest way that the processor knows. Vectors pay because they need not begin anew behind each
+/// candidate, of which a catalogue has one in 40 to 500 bytes.
 template <char... kBytes, class Accept>
 const char* FindAccepted(const char* begin, const char* end, Accept accept) {
-#if defined(__SSE2__) && !defined(ORVANTA_PORTABLE_SEARCH)
-  return FindWithSse2<kBytes...>(begin, end, accept);
-#else
-  return FindPortably<kBytes...>(begin, end, accept);
+#if defined(__x86_64__) && !defined(ORVANTA_PORTABLE_SEARCH)
+  if (__builtin_cpu_supports("avx2")) return FindWithAvx2<kBytes...>(begin, end, accept);
 #endif
+  return FindPortably<kBytes...>(begin, end, accept);
 }
 
 }  // namespace orvanta

@@ -33,6 +33,10 @@ const char* LastLineEnd(const char* begin, const char* end) {
   return end;
 }
 
+/// Settles most candidates by one byte beside them: it is ASCII, no blank, and no form of the letter asked
+/// for.
+bool CannotMatch(char found, char asked) { return found > ' ' && ((found ^ asked) & ~0x20) != 0; }
+
 bool OnlyBlanksBefore(const char* begin, const char* at) {
   while (at != begin && IsBlank(at[-1])) --at;
   return at == begin || IsLineEnd(at[-1]);
@@ -88,19 +92,19 @@ bool ProfileScanner::Take(std::string_view lines) {
 
 /// Where the section's lines begin, null if it is not here.
 const char* ProfileScanner::SkipToSection(const char* begin, const char* end) const {
-  const char first = section_.empty() ? ']' : Fold1250(section_[0]);
-  const char* header = FindAccepted<'['>(begin, end, [&](const char* at) {
-    if (at + 1 != end && at[1] > ' ' && Fold1250(at[1]) != first) return false;
-    return NamesSection(at + 1, end, section_) && OnlyBlanksBefore(begin, at);
+  const char first = section_.empty() ? ']' : section_[0];
+  const char* header = FindAccepted<'['>(begin, end, [=, section = section_](const char* at) {
+    if (at + 1 != end && CannotMatch(at[1], first)) return false;
+    return NamesSection(at + 1, end, section) && OnlyBlanksBefore(begin, at);
   });
   return header == end ? nullptr : LineEnd(header, end);
 }
 
 bool ProfileScanner::FindKey(const char* begin, const char* end) {
-  const char last = key_.empty() ? '\0' : Fold1250(key_.back());
-  const char* stop = FindAccepted<'[', '='>(begin, end, [&](const char* at) {
+  const char last = key_.empty() ? '\n' : key_.back();
+  const char* stop = FindAccepted<'[', '='>(begin, end, [=, this](const char* at) {
     if (*at == '[') return OnlyBlanksBefore(begin, at);
-    if (at != begin && at[-1] > ' ' && Fold1250(at[-1]) != last) return false;
+    if (at != begin && CannotMatch(at[-1], last)) return false;
     return NamesKey(begin, at);
   });
   if (stop == end) return false;

@@ -42,11 +42,11 @@ class ProfileScanner {
 /// Fills a part of the buffer and says how much; 0 at the end of the text.
 using ByteSource = std::function<std::size_t(std::span<char>)>;
 
+/// How much is asked for at a time; two of them fit into a processor's first cache.
+inline constexpr std::size_t kPiece = 16 * 1024;
+
 /// Looks `key` up in a text that `read` supplies piece by piece, and asks for no more than it needs. It takes
 /// the same memory for every text: a line longer than a piece loses its middle.
 std::string StreamedProfileString(const ByteSource& read, std::string_view section, std::string_view key);
-
-/// How much is asked for at a time: what two of fit into a processor's first cache.
-inline constexpr std::size_t kPiece = 16 * 1024;
 
 }  // namespace orvanta

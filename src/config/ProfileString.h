@@ -10,8 +10,8 @@ namespace orvanta {
 inline constexpr int kLongestValue = 254;
 
 /// Reads one key of an INI file, bytes in Windows-1250. A file, section or key that is not there gives the
-/// empty string, and so does anything that is no regular file. The file is read anew at each call, only as
-/// far as needed, and nothing is kept.
+/// empty string; so do folders, pipes, terminals and devices without an end. The file is read anew at each
+/// call, only as far as needed, and nothing is kept.
 ///
 /// The rules are those of the platform call GetPrivateProfileStringA:
 /// - CR, LF and CRLF end a line. Space, tab, VT, FF and Ctrl+Z are blanks around names and values.

@@ -30,7 +30,7 @@ ExitStatus TreeCommand(const std::filesystem::path& disc, bool json, std::ostrea
 
 ExitStatus GetCommand(const std::filesystem::path& disc, std::string_view section, std::string_view key,
                       std::ostream& out) {
-  const INI_Read ini(std::string(Catalogue::kDiscRoot), DiscDrive(disc));
+  const INI_Read ini{std::string(Catalogue::kDiscRoot), DiscDrive(disc)};
   const std::string value = ini.IniRead(section, key, kMenuFile);
   if (value.empty()) return kFaults;
   out << value << '\n';

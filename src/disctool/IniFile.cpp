@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "config/ProfileString.h"
 #include "config/Fold1250.h"
+#include "config/ProfileString.h"
 #include "config/Windows1250.h"
 
 namespace orvanta {

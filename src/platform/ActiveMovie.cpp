@@ -45,6 +45,7 @@ void ActiveMovie::ApplyPlayCount() { player_->SetPlayCount(autoRewind_ ? std::ma
 void ActiveMovie::FullScreenMode(bool on) {
   if (on == (screen_ != nullptr)) return;
   if (on) {
+    Parent().OwnerForm().ExpectReturn();
     screen_ = std::make_unique<MovieScreen>(Parent().OwnerForm(), *this);
     screen_->Visible = true;
     return;

@@ -80,6 +80,10 @@ void EventLoop::Forget(const Form& form) {
   std::erase_if(timers_, [&](const Timer* timer) { return &timer->OwnerForm() == &form; });
 }
 
-void EventLoop::Bury(std::unique_ptr<Form> form) { graveyard_.push_back(std::move(form)); }
+void EventLoop::Bury(std::unique_ptr<Form> form) {
+  // Outside every delivery nobody needs the form, and it must not outlive the host of its window.
+  Delivery delivery(*this);
+  graveyard_.push_back(std::move(form));
+}
 
 }  // namespace orvanta

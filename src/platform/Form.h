@@ -70,6 +70,8 @@ class Form : public PropertyOwner, public Container {
   void PaintNow();
   /// Brings the pointer up to date with what lies under the cursor.
   void Settle();
+  /// A window of one of its controls takes the activation: that it comes back is no activation of the form.
+  void ExpectReturn() { returning_ = true; }
   void Adopt(Control& control) { controls_.push_back(&control); }
   void Forget(Control& control);
   std::function<void()> Released;  ///< set by the slot: the form is unloaded
@@ -108,6 +110,7 @@ class Form : public PropertyOwner, public Container {
   bool shownBefore_ = false;
   bool unloading_ = false;
   bool pointerStale_ = false;
+  bool returning_ = false;
   Pointer pointer_ = Pointer::Default;
 };
 

@@ -31,7 +31,9 @@ void Form::Deliver(const FormEvent& event) {
     case Kind::MousePress: MousePressed(event.place, event.button); break;
     case Kind::MouseRelease: MouseReleased(event.place, event.button, true); break;
     case Kind::MouseLeave: cursorInside_ = false; break;
-    case Kind::Activate: Form_Activate(); break;
+    case Kind::Activate:
+      if (!std::exchange(returning_, false)) Form_Activate();
+      break;
     case Kind::Minimise: SetWindowState(kMinimised); break;
     case Kind::Restore: SetWindowState(kNormal); break;
     case Kind::Moved:
@@ -56,9 +58,6 @@ void Form::MouseMoved(Point place, int held) {
   cursor_ = place;
   cursorInside_ = true;
   pointerStale_ = true;
-  // A release that came while a modal form was open has not been told.
-  held_ &= held;
-  if (held_ == 0) captured_ = nullptr;
   Control* target = captured_ ? captured_ : ControlAt(place);
   if (!target) return;
   const Point inside = place - OriginOf(*target);

@@ -42,7 +42,7 @@ TEST(ProfileString, AgreesWithThePlatformOnKnownFiles) {
   for (const auto& known : kLookupCases) {
     SCOPED_TRACE(known.name);
     EXPECT_EQ(ProfileStringOf(known.file, known.section, known.key), known.expected);
-    for (std::size_t most : {1, 2, 7}) {
+    for (const unsigned most : {1U, 2U, 7U}) {
       EXPECT_EQ(InPieces(known.file, most, known.section, known.key), known.expected);
     }
     EXPECT_EQ(ReferenceLookup(known.file, known.section, known.key), known.expected);

@@ -110,7 +110,12 @@ TEST_F(Detail, EachKindOfEntryHasItsView) {
 }
 
 // Faults: a sensitive area that is off by a pixel, a look that is not painted before the program blocks.
-TEST_F(Detail, EveryButtonHasItsThreeLooks) {
+class Looks : public Detail {
+ protected:
+  void ExpectEveryButtonsLooks();
+};
+
+void Looks::ExpectEveryButtonsLooks() {
   disc_.Menu("MAINMENU", {"Muzyka", "Film"});
   Entry("Muzyka", "PlayAs", "MUSIC");
   Entry("Film", "PlayAs", "MOVIE");
@@ -145,6 +150,10 @@ TEST_F(Detail, EveryButtonHasItsThreeLooks) {
   Open(1);
   hover(9);
 }
+
+TEST_F(Looks, OfEveryButton) { ExpectEveryButtonsLooks(); }
+
+TEST_F(Looks, OfEveryButtonOn640x480) { ExpectEveryButtonsLooks(); }
 
 // Faults: pictures that do not move with the knob, a viewer that scales, hides or closes by its caption.
 TEST_F(Detail, ScreenshotsAreScrolledAndOpened) {
@@ -211,6 +220,9 @@ TEST_F(Detail, TheHourglassStandsUntilAnotherWindowIsActive) {
   disc_.Set("Program", "Parameters", "\"żółta łódź\" /x dwa");
   Start();
   Open(0);
+  PointAt({300, 455});
+  screen_.Rest();
+  screen_.Rest();
   const CursorLook arrow = screen_.Cursor();
   PointAt(MiddleOf(ButtonBox(4)));
   ExpectLook(4, 1);

@@ -91,6 +91,13 @@ TEST_F(GstPlayerFailure, AFilmThatIsCutShortEndsWhereItIsCut) {
   EXPECT_TRUE(film->Loaded());
 }
 
+TEST_F(GstPlayerFailure, ALoopOfNothingEndsInsteadOfSpinning) {
+  const std::string sound = ScratchFolder::contentOf(files.Wave("whole.wav", {600}));
+  music->SetPlayCount(99999);
+  music->Open(files.folder.file("head.wav", sound.substr(0, 44)));
+  EXPECT_TRUE(UntilStopped(*music, 1));
+}
+
 TEST_F(GstPlayerFailure, AFileThatIsGoneInMidPlayEndsWithoutAHang) {
   const auto file = files.Film("a.avi", "-c:v rawvideo -c:a pcm_u8", MediaFiles::Tones(8, 600));
   film->Open(file);

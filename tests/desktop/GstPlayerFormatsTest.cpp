@@ -123,6 +123,18 @@ TEST_F(GstPlayerOddFiles, AnOldVoiceWithBytesAfterItsSoundIsHeardWhole) {
   EXPECT_NEAR(ears.Seconds(800), 0.5, 0.03);
 }
 
+// GStreamer takes such a sound for half as long as it is.
+TEST_F(GstPlayerOddFiles, AMonoAdpcmSoundMovesToThePlaceThatIsAskedFor) {
+  music->Open(files.Encoded("a.wav", "-c:a adpcm_ima_wav -ar 22050", {600, 800, 1000, 1200}));
+  if (!Until(2, [this] { return music->Loaded(); })) GTEST_SKIP() << "needs avdec_adpcm_ima_wav";
+  Wait(0.2);
+  music->SetPosition(1.5);
+  ASSERT_TRUE(UntilStopped(*music, 3));
+  Wait(0.1);
+  EXPECT_LE(ears.Seconds(1000), 0.1) << "the block in which it lies";
+  EXPECT_NEAR(ears.Seconds(1200), 0.5, 0.1);
+}
+
 TEST_F(GstPlayerOddFiles, ASongWithACoverStartsAtOnce) {
   const auto song = files.Encoded("a.mp3", "-b:a 128k", {800, 800});
   const auto film = files.Film("cover.png", "-frames:v 1 -map 0:v", {800});

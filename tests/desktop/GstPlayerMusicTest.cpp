@@ -102,7 +102,8 @@ TEST_F(GstPlayerMusic, MovesToThePlaceThatIsAskedFor) {
   EXPECT_LE(Cost([this] { music->SetPosition(1.0); }), 20);
   EXPECT_NEAR(music->Position(), 1.0, 0.1);
   Wait(0.3);
-  EXPECT_EQ(ears.Seconds(900), 0) << "what lies between is not heard";
+  // The seam itself may sound like anything for one window of the ears.
+  EXPECT_LT(ears.Seconds(900), 0.011) << "what lies between is not heard";
   music->SetPosition(0);
   EXPECT_LT(music->Position(), 0.1);
   ASSERT_TRUE(UntilStopped(*music, 3));
@@ -134,10 +135,10 @@ TEST_P(GstPlayerLoop, RepeatsWithoutAGap) {
   const MediaFiles::Tones tones(3, 600);
   music->Open(GetParam().options.empty() ? files.Wave("a.wav", tones)
                                          : files.Encoded(GetParam().name, GetParam().options, tones));
-  music->SetPlayCount(3);
-  ASSERT_TRUE(UntilStopped(*music, 8));
+  music->SetPlayCount(2);
+  ASSERT_TRUE(UntilStopped(*music, 6));
   Wait(0.1);
-  EXPECT_NEAR(ears.Seconds(600), 4.5, 0.15);
+  EXPECT_NEAR(ears.Seconds(600), 3.0, 0.1);
   const auto heard = ears.Heard(600);
   for (std::size_t i = 1; i < heard.size(); ++i) EXPECT_LE(heard[i].from - heard[i - 1].to, 0.05);
 }

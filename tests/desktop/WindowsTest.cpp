@@ -128,8 +128,8 @@ TEST_F(Windows, MinimisingTakesTheStripsAlongAndRestoringBringsThemBack) {
     SCOPED_TRACE(round);
     PointAt(MiddleOf(ButtonBox(8)));
     EXPECT_TRUE(Soon([&] { return PixelOfMain(MiddleOf(ButtonBox(8))) == ButtonColour(8, 1); }));
-    ClickMain(MiddleOf(ButtonBox(8)));
     const auto begin = Clock::now();
+    ClickMain(MiddleOf(ButtonBox(8)));
     EXPECT_TRUE(Soon([&] { return PixelOfMain(MiddleOf(ButtonBox(8))) == ButtonColour(8, 2); }));
     EXPECT_TRUE(Soon([&] { return screen_.HasState(Main(), "_NET_WM_STATE_HIDDEN"); }));
     EXPECT_GT(Clock::now() - begin, std::chrono::milliseconds(400));

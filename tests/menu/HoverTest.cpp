@@ -124,7 +124,11 @@ TEST_F(Hovering, SurvivesAClickAtOrLeftOfTheMenusEdge) {
     user.Start();
     Hover(user, x, 20);
     user.host.sleeps.clear();
+    std::vector<double> rows;
+    user.host.After(0, [&] { rows.push_back(user.Main().Line2(1).Y1); });
     user.Main().lblPos1_Click(0);
+    EXPECT_EQ(rows, x == 0 ? std::vector<double>{0} : std::vector<double>{})
+        << "no way to go, so from the top";
     EXPECT_EQ(user.host.sleeps.size(), x == 0 ? 2U : 1U);
     EXPECT_EQ(user.Main().Line2(0).X1(), x);
   }

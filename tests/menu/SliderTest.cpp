@@ -47,7 +47,10 @@ TEST_F(Slider, ScrollsTheListAndColoursWhatCrossesTheLimits) {
 
   Grab(user);
   EXPECT_EQ(user.host.WindowOf(main).pointer, Pointer::ClosedHand);
-  Move(user, 300, 100);  // far beside the knob
+  Move(user, 0, 1);
+  EXPECT_EQ(main.lblPos1(0).Top(), 14);
+  EXPECT_EQ(main.lblPos1(0).ForeColor(), kDim) << "one pixel above its first place";
+  Move(user, 300, 99);  // far beside the knob
   EXPECT_EQ(main.imgSuwak.Top(), 140);
   for (int i = 0; i < 18; ++i) {
     SCOPED_TRACE(i);

@@ -98,9 +98,16 @@ Point Monkey::OnControl(Form& form) {
   for (int tries = 0; tries < 20; ++tries) {
     const Control& control =
         *controls[static_cast<std::size_t>(Below(random_, static_cast<int>(controls.size())))];
-    if (control.Visible && !control.Bounds().Empty()) return user_.MiddleOf(control);
+    if (control.Visible && !control.Bounds().Empty()) return MiddleOf(control);
   }
   return Somewhere();
+}
+
+Point Monkey::MiddleOf(const Control& control) {
+  // A disc can put a control anywhere, the cursor stays on the screen.
+  const Point middle = user_.MiddleOf(control);
+  return {std::clamp(middle.x, 0, Host().screen.width - 1),
+          std::clamp(middle.y, 0, Host().screen.height - 1)};
 }
 
 Point Monkey::Somewhere() {
@@ -128,12 +135,12 @@ void Monkey::Hold(int button) {
 void Monkey::Drag() {
   for (const Image* knob : {&Main().imgSuwak, &Main().imgSSuwak}) {
     if (!knob->Visible) continue;
-    const Point at = user_.MiddleOf(*knob);
+    const Point at = MiddleOf(*knob);
     if (!held_) {
       Host().MoveMouse(at);
       Hold(kLeftButton);
     }
-    Host().MoveMouse({at.x, at.y + Below(random_, 300) - 150});
+    Host().MoveMouse({at.x, std::clamp(at.y + Below(random_, 300) - 150, 0, Host().screen.height - 1)});
     if (Below(random_, 3) == 0 && (held_ & kLeftButton)) Hold(kLeftButton);
   }
 }
@@ -160,11 +167,11 @@ void Monkey::Act() {
   const int what = Below(random_, 100);
   // In the view of an entry the transport is what matters.
   if (what < 8 && !Main().picTlo.Visible) {
-    Click(user_.MiddleOf(Main().ButtonM(4 + what % 3)));
+    Click(MiddleOf(Main().ButtonM(4 + what % 3)));
   } else if (what < 25) {
-    Click(user_.MiddleOf(Main().ButtonM(1 + Below(random_, 9))));
+    Click(MiddleOf(Main().ButtonM(1 + Below(random_, 9))));
   } else if (what < 42) {
-    const Point label = user_.MiddleOf(Main().lblPos1(Below(random_, Main().lblPos1.UBound() + 1)));
+    const Point label = MiddleOf(Main().lblPos1(Below(random_, Main().lblPos1.UBound() + 1)));
     Host().MoveMouse(label);
     if (what < 38) Click(label);
   } else if (what < 62) {
@@ -178,13 +185,13 @@ void Monkey::Act() {
   } else if (what < 86) {
     Drag();
   } else if (what < 90) {
-    Click(user_.MiddleOf(Below(random_, 4) ? Main().imgBack : Main().imgUp));
+    Click(MiddleOf(Below(random_, 4) ? Main().imgBack : Main().imgUp));
   } else if (what < 94) {
     ChangeWindows();
   } else if (what < 96) {
     Host().startResult = Below(random_, 2) ? 33 : Below(random_, 36) - 1;
   } else if (what < 97) {
-    Click(user_.MiddleOf(Main().picShot(0)));
+    Click(MiddleOf(Main().picShot(0)));
   }
 }
 

@@ -38,6 +38,7 @@ class Monkey {
   void Hold(int button);
   void Drag();
   void ChangeWindows();
+  Point MiddleOf(const Control& control);
   Point Somewhere();
   Point OnControl(Form& form);
   Form& Front();

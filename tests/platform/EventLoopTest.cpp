@@ -72,6 +72,14 @@ TEST_F(Looping, ATickThatPumpsIsReenteredAtItsNextInterval) {
   EXPECT_EQ(host.Now(), 50 + 2 * 60);
 }
 
+TEST_F(Looping, ATickThatAnotherTicksPumpHasDeliveredDoesNotComeAgain) {
+  Timer first(form, 50, [&] { Pump(); });
+  Timer second(form, 50, [&] { ticks.push_back(host.Now()); });
+  first.Enabled = second.Enabled = true;
+  host.RunFor(50);
+  EXPECT_EQ(ticks, std::vector<Milliseconds>{50});
+}
+
 TEST_F(Looping, MovesOfTheMouseMergeBetweenPresses) {
   Image image(form, "image");
   image.Move(0, 0, 100, 100);

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Zgadnij głębokość: gra w okienku (zenity, kdialog) albo w terminalu.
+# Zgadnij głębokość: gra w okienku (zenity, kdialog, xmessage) albo w terminalu.
 
 tytul='Zgadnij głębokość'
 
@@ -11,14 +11,44 @@ pytaj() {
     case $okna in
         zenity) zenity --entry --title="$tytul" --text="$1" ;;
         kdialog) kdialog --title "$tytul" --inputbox "$1" ;;
+        xmessage) ustaw "$1" ;;
         *) printf '%s ' "$1" >&2; read -r odpowiedz && printf '%s\n' "$odpowiedz" ;;
     esac
+}
+
+# Stare okienko nie zna polskich liter; ostatni argument to tekst.
+stary() {
+    for tekst; do :; done
+    tekst=$(printf '%s' "$tekst" | iconv -f UTF-8 -t ASCII//TRANSLIT)
+    if [ $# -eq 3 ]; then xmessage -title 'Zgadnij glebokosc' -fn fixed -center "$1" "$2" "$tekst"
+    else xmessage -title 'Zgadnij glebokosc' -fn fixed -center "$tekst"; fi
+}
+
+# Okienko bez pola do pisania: liczbę ustawia się guzikami.
+ustaw() {
+    wartosc=500
+    while :; do
+        stary -buttons '-100:11,-10:12,+10:13,+100:14,Mierz:15,Koniec:16' "$1
+
+        $wartosc m" >/dev/null
+        case $? in
+            11) wartosc=$((wartosc - 100)) ;;
+            12) wartosc=$((wartosc - 10)) ;;
+            13) wartosc=$((wartosc + 10)) ;;
+            14) wartosc=$((wartosc + 100)) ;;
+            15) printf '%s\n' "$wartosc"; return 0 ;;
+            *) return 1 ;;
+        esac
+        [ "$wartosc" -lt 10 ] && wartosc=10
+        [ "$wartosc" -gt 1000 ] && wartosc=1000
+    done
 }
 
 powiedz() {
     case $okna in
         zenity) zenity --info --title="$tytul" --text="$1" ;;
         kdialog) kdialog --title "$tytul" --msgbox "$1" ;;
+        xmessage) stary "$1" ;;
         *) printf '%s\n' "$1"; sleep 2 ;;
     esac
 }
@@ -48,7 +78,6 @@ else
     for terminal in x-terminal-emulator xterm konsole gnome-terminal; do
         command -v "$terminal" >/dev/null && exec "$terminal" -e "$0" --terminal
     done
-    command -v xmessage >/dev/null && exec xmessage -center "Gra potrzebuje programu zenity, kdialog albo terminala."
-    exit 1
+    okna=xmessage
 fi
 graj

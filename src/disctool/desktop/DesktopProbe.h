@@ -10,7 +10,7 @@ class DesktopProbe : public DiscProbe {
  public:
   std::optional<Size> PictureSize(const std::filesystem::path& file) override;
   bool IsFont(const std::filesystem::path& file) override;
-  /// Plays nothing. A file that keeps GStreamer busy for ten seconds cannot be played.
+  /// Plays nothing. A file that keeps GStreamer busy for five seconds cannot be played.
   bool CanPlay(const std::filesystem::path& file, bool film) override;
 };
 

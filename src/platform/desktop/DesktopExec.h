@@ -14,7 +14,7 @@ struct ExecFields {
   std::string entry;  ///< %k, the path of the entry's file
 };
 
-/// Fills in the words of an entry's `Exec` line (freedesktop.org, "Desktop Entry Specification", "The Exec
+/// Fills in the words of an entry's `Exec` line (freedesktop.org, "Desktop Entry", "The Exec
 /// key"). Codes of older editions and unknown ones go. A line that asks for no file gets the path at its end.
 std::vector<std::string> ExpandExec(const std::vector<std::string>& words, const ExecFields& fields);
 

@@ -53,8 +53,11 @@ void DesktopWindow::changeEvent(QEvent* event) {
 }
 
 void DesktopWindow::moveEvent(QMoveEvent* event) {
-  if (!isVisible() || isMinimized()) return;
-  const Point place = Point{event->pos().x(), event->pos().y()} - host_.ScreenOrigin();
+  if (isVisible() && !isMinimized() && !showing_) NoteMove(event->pos());
+}
+
+void DesktopWindow::NoteMove(const QPoint& corner) {
+  const Point place = Point{corner.x(), corner.y()} - host_.ScreenOrigin();
   if (place == Point{place_.left, place_.top}) return;
   place_.left = place.x;
   place_.top = place.y;

@@ -73,6 +73,8 @@ void DesktopWindow::SetVisible(bool visible) {
 
 void DesktopWindow::ShowNow() {
   if (kind_ == WindowKind::Plain || kind_ == WindowKind::Splash) SkipTaskBar(*this);
+  // A window manager that frames the window takes it to the screen's corner for a moment.
+  showing_ = true;
   if (kind_ == WindowKind::FullScreen) {
     showFullScreen();
   } else {
@@ -81,10 +83,13 @@ void DesktopWindow::ShowNow() {
   // Painting reaches the screen only from the exposure on.
   const Milliseconds end = host_.Now() + kExposurePatience;
   while (host_.Now() < end && !(windowHandle() && windowHandle()->isExposed())) host_.WaitForQt(end);
-  // Some window managers move a window that is larger than the screen.
+  showing_ = false;
   const Point origin = host_.ScreenOrigin();
   const QPoint wanted(place_.left + origin.x, place_.top + origin.y);
-  if (kind_ == WindowKind::Modal && pos() != wanted) move(wanted);
+  if (pos() == wanted) return;
+  // Some window managers move a window that is larger than the screen.
+  if (kind_ == WindowKind::Modal) return move(wanted);
+  NoteMove(pos());
 }
 
 void DesktopWindow::SetMinimised(bool minimised) {

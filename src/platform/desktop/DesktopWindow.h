@@ -44,6 +44,7 @@ class DesktopWindow : public QWidget, public FormWindow {
  private:
   void Post(FormEvent::Kind kind, Point place = {}, int button = 0);
   void PostMouse(FormEvent::Kind kind, const QMouseEvent& event, int button);
+  void NoteMove(const QPoint& corner);
   void ShowNow();
 
   DesktopHost& host_;
@@ -52,6 +53,7 @@ class DesktopWindow : public QWidget, public FormWindow {
   Rect place_;
   QRegion dirty_;
   bool wasMinimised_ = false;
+  bool showing_ = false;
   int paints_ = 0;
 };
 

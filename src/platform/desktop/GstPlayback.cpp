@@ -31,6 +31,8 @@ struct GstPlayback::Shared {
   unsigned done = 0;
 
   void Load(const std::filesystem::path& file);
+  void PlayIfWanted();
+  void GoTo(double seconds);
   void FinishOrder(unsigned number);
   void Heed();
   void AnswerTimes();
@@ -39,12 +41,24 @@ struct GstPlayback::Shared {
 void GstPlayback::Shared::Load(const std::filesystem::path& file) {
   const bool loads = transport->Load(file);
   const MovieTimes first = transport->Times();
-  if (loads) transport->Play();
+  if (loads) PlayIfWanted();
   const std::scoped_lock lock(mutex);
   loaded = loads;
   failed = !transport->Alive();
   times.length = first.length;
   changed.notify_all();
+}
+
+void GstPlayback::Shared::PlayIfWanted() {
+  std::unique_lock lock(mutex);
+  const bool wanted = state == MovieState::Running;
+  lock.unlock();
+  if (wanted) transport->Play();
+}
+
+void GstPlayback::Shared::GoTo(double seconds) {
+  transport->Seek(seconds);
+  PlayIfWanted();  // the end may have come up while the order was waiting
 }
 
 void GstPlayback::Shared::FinishOrder(unsigned number) {
@@ -97,9 +111,9 @@ void GstPlayback::AwaitFirstData(std::chrono::milliseconds patience) const {
   shared_->changed.wait_for(lock, patience, [this] { return shared_->loaded || shared_->failed; });
 }
 
-void GstPlayback::Order(MovieState outcome, std::function<void()> job) {
+void GstPlayback::Order(std::optional<MovieState> outcome, std::function<void()> job) {
   const std::scoped_lock lock(shared_->mutex);
-  shared_->state = outcome;
+  shared_->state = outcome.value_or(shared_->state);
   shared_->jobs.Post([shared = shared_, job = std::move(job), number = ++shared_->ordered] {
     job();
     shared->FinishOrder(number);
@@ -122,7 +136,7 @@ void GstPlayback::Stop() {
 
 void GstPlayback::SetPosition(double seconds) {
   const double wanted = std::max(0.0, seconds);
-  Order(State(), [shared = shared_, wanted] { shared->transport->Seek(wanted); });
+  Order(std::nullopt, [shared = shared_, wanted] { shared->GoTo(wanted); });
   const std::scoped_lock lock(shared_->mutex);
   shared_->times.position = wanted;
 }
@@ -155,9 +169,12 @@ double GstPlayback::Position() {
 }
 
 double GstPlayback::Length() {
-  if (shared_->times.length <= 0) RefreshTimes();
-  const std::scoped_lock lock(shared_->mutex);
-  return shared_->times.length;
+  const auto known = [this] {
+    const std::scoped_lock lock(shared_->mutex);
+    return shared_->times.length;
+  };
+  if (known() <= 0) RefreshTimes();
+  return known();
 }
 
 /// A question that is still open from an earlier call is not waited for again: the player hangs.

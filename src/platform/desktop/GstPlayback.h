@@ -2,7 +2,9 @@
 
 #include <chrono>
 #include <filesystem>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <thread>
 
 #include "platform/MoviePlayer.h"
@@ -50,7 +52,8 @@ class GstPlayback {
  private:
   struct Shared;
 
-  void Order(MovieState outcome, std::function<void()> job);
+  /// Without an `outcome` the state stays what it is.
+  void Order(std::optional<MovieState> outcome, std::function<void()> job);
   void RefreshTimes();
 
   std::shared_ptr<Shared> shared_;

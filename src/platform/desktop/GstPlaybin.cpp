@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/desktop/GstFilmSink.h"
+#include "platform/desktop/WaveTimeline.h"
 
 namespace orvanta {
 namespace {
@@ -61,6 +62,7 @@ bool GstPlaybin::Build(FrameBoxPtr frames) {
   g_object_set(playbin_.get(), "flags", kPlayVideo | kPlayAudio, "audio-sink", sound_.Element(), "video-sink",
                pictures.get(), nullptr);
   g_signal_connect(playbin_.get(), "about-to-finish", G_CALLBACK(OnAboutToFinish), this);
+  g_signal_connect(playbin_.get(), "element-setup", G_CALLBACK(OnElement), this);
   bus_.reset(gst_element_get_bus(playbin_.get()));
   gst_bus_set_sync_handler(bus_.get(), OnMessage, this, nullptr);
   return true;
@@ -72,9 +74,9 @@ GstPlaybin::~GstPlaybin() {
   gst_bus_set_sync_handler(bus_.get(), nullptr, nullptr, nullptr);
 }
 
-void GstPlaybin::SetUri(std::string uri) {
-  uri_ = std::move(uri);
-  if (playbin_) g_object_set(playbin_.get(), "uri", uri_.c_str(), nullptr);
+void GstPlaybin::SetSource(MediaSource source) {
+  source_ = std::move(source);
+  if (playbin_) g_object_set(playbin_.get(), "uri", source_.uri.c_str(), nullptr);
 }
 
 void GstPlaybin::Ready() {
@@ -83,7 +85,7 @@ void GstPlaybin::Ready() {
 }
 
 bool GstPlaybin::Preroll() {
-  if (!playbin_ || uri_.empty() || news_.Take().abandoned) return false;
+  if (!playbin_ || source_.uri.empty() || news_.Take().abandoned) return false;
   const auto change = gst_element_set_state(playbin_.get(), GST_STATE_PAUSED);
   if (change == GST_STATE_CHANGE_ASYNC) return AwaitData(kPrerollPatience);
   return change != GST_STATE_CHANGE_FAILURE;
@@ -161,7 +163,16 @@ GstBusSyncReply GstPlaybin::OnMessage(GstBus*, GstMessage* message, gpointer sel
 
 void GstPlaybin::OnAboutToFinish(GstElement* playbin, gpointer self) {
   auto& own = *static_cast<GstPlaybin*>(self);
-  if (own.listener_.playsOnceMore()) g_object_set(playbin, "uri", own.uri_.c_str(), nullptr);
+  if (own.listener_.playsOnceMore()) g_object_set(playbin, "uri", own.source_.uri.c_str(), nullptr);
+}
+
+void GstPlaybin::OnElement(GstElement*, GstElement* element, gpointer self) {
+  const double stretch = static_cast<GstPlaybin*>(self)->source_.waveStretch;
+  GstElementFactory* factory = gst_element_get_factory(element);
+  if (stretch == 1 || !factory || std::string_view(GST_OBJECT_NAME(factory)) != "wavparse") return;
+  GstPad* sound = gst_element_get_static_pad(element, "src");
+  StretchTimeline(sound, stretch);
+  gst_object_unref(sound);
 }
 
 }  // namespace orvanta

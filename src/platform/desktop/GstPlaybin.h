@@ -3,11 +3,11 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <string>
 
 #include "platform/MoviePlayer.h"
 #include "platform/desktop/FrameBox.h"
 #include "platform/desktop/GstAudioSink.h"
+#include "platform/desktop/MediaSource.h"
 #include "platform/desktop/NewsBox.h"
 
 namespace orvanta {
@@ -28,7 +28,7 @@ class GstPlaybin {
   GstPlaybin(const GstPlaybin&) = delete;
   GstPlaybin& operator=(const GstPlaybin&) = delete;
 
-  void SetUri(std::string uri);
+  void SetSource(MediaSource source);
   void SetVolume(int hundredthsOfDecibel) { sound_.SetVolume(hundredthsOfDecibel); }
 
   /// Lets go of the file.
@@ -50,11 +50,12 @@ class GstPlaybin {
   bool LacksDecoder(GstMessage* message) const;
   static GstBusSyncReply OnMessage(GstBus* bus, GstMessage* message, gpointer self);
   static void OnAboutToFinish(GstElement* playbin, gpointer self);
+  static void OnElement(GstElement* playbin, GstElement* element, gpointer self);
 
   const MovieKind kind_;
   NewsBox& news_;
   const Listener listener_;
-  std::string uri_;
+  MediaSource source_;
   GstAudioSink sound_;
   GstHandle<GstElement> playbin_;
   GstHandle<GstBus> bus_;

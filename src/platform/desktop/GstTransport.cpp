@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/desktop/MediaUri.h"
+#include "platform/desktop/MediaSource.h"
 
 namespace orvanta {
 namespace {
@@ -19,6 +19,13 @@ constexpr double kStillAtBeginning = 0.1;
 // stream goes on.
 constexpr std::chrono::seconds kEarly{1};
 
+// Seconds. Only what lasts at least so long is repeated without a gap: the next repetition is read in
+// advance, and of an empty file there is no end of it.
+constexpr double kLeastGapless = 0.05;
+
+// A repetition that is over sooner has nothing in it.
+constexpr std::chrono::milliseconds kLeastRepetition{10};
+
 }  // namespace
 
 GstTransport::GstTransport(MovieKind kind, FrameBoxPtr frames, NewsBox& news, std::function<void()> onNews)
@@ -27,10 +34,9 @@ GstTransport::GstTransport(MovieKind kind, FrameBoxPtr frames, NewsBox& news, st
 bool GstTransport::Load(const std::filesystem::path& file) {
   // Harmless where it has been done. The first time on a machine it lists the plugins, which takes seconds.
   if (!gst_init_check(nullptr, nullptr, nullptr)) return false;
-  playbin_ =
-      std::make_unique<GstPlaybin>(kind_, FindSoundOutput(), frames_, news_,
-                                   GstPlaybin::Listener{onNews_, [this] { return BeginRepetition(); }});
-  playbin_->SetUri(MediaUri(file));
+  playbin_ = std::make_unique<GstPlaybin>(kind_, FindSoundOutput(), frames_, news_,
+                                          GstPlaybin::Listener{onNews_, [this] { return PlaysOnceMore(); }});
+  playbin_->SetSource(FindMediaSource(file));
   playbin_->SetVolume(volume_);
   if (!playbin_->Preroll()) {
     Die();
@@ -38,6 +44,7 @@ bool GstTransport::Load(const std::filesystem::path& file) {
   }
   const double first = playbin_->Position().value_or(0);
   origin_ = first < kLeastOrigin ? 0 : first;
+  length_ = playbin_->Duration().value_or(0);
   mode_ = Mode::Paused;
   return true;
 }
@@ -51,7 +58,8 @@ void GstTransport::Play() {
   if (mode_ == Mode::Dead) return;
   playbin_->Play();
   mode_ = Mode::Playing;
-  if (fresh) startedAt_ = Clock::now();
+  repeatedAt_ = Clock::now();
+  if (fresh) startedAt_ = repeatedAt_;
 }
 
 void GstTransport::Pause() {
@@ -95,7 +103,7 @@ bool GstTransport::HeedNews() {
   if (news.failed) Die();
   if (!news.ended || mode_ == Mode::Dead || mode_ == Mode::Stopped) return false;
   // Clips of about a second are over before the player is asked whether they are to be repeated.
-  if (BeginRepetition() && playbin_->Seek(origin_)) return false;
+  if (Repeats()) return false;
   playbin_->Pause();
   mode_ = Mode::Paused;
   atEnd_ = true;
@@ -131,6 +139,14 @@ void GstTransport::RestartSound() {
 
 bool GstTransport::StartsOver(double seconds) {
   return seconds <= 0 && mode_ == Mode::Playing && begun_ == 1 && Times().position < kStillAtBeginning;
+}
+
+// On one of GStreamer's threads.
+bool GstTransport::PlaysOnceMore() { return length_ >= kLeastGapless && BeginRepetition(); }
+
+bool GstTransport::Repeats() {
+  const auto last = std::exchange(repeatedAt_, Clock::now());
+  return repeatedAt_ - last >= kLeastRepetition && BeginRepetition() && playbin_->Seek(origin_);
 }
 
 bool GstTransport::BeginRepetition() {

@@ -47,6 +47,8 @@ class GstTransport {
   void RewindEnded();
   void RestartSound();
   bool StartsOver(double seconds);
+  bool PlaysOnceMore();
+  bool Repeats();
   bool BeginRepetition();
   void Die();
 
@@ -60,11 +62,12 @@ class GstTransport {
   int volume_ = 0;
   Mode mode_ = Mode::Dead;
   double origin_ = 0;  ///< What the file's own clock shows at its beginning.
-  double length_ = 0;
+  std::atomic<double> length_ = 0;
   double startFrom_ = 0;  ///< While stopped: where the next start is.
   bool atEnd_ = false;
   bool pausedEarly_ = false;
   Clock::time_point startedAt_;
+  Clock::time_point repeatedAt_;
 };
 
 }  // namespace orvanta

@@ -33,14 +33,14 @@ if command -v zenity >/dev/null; then
     zenity --text-info --title="$tytul" --filename="$plan" --font=monospace --width=560 --height=460
 elif command -v kdialog >/dev/null; then
     kdialog --title "$tytul" --textbox "$plan" 560 460
-elif command -v xmessage >/dev/null; then
-    xmessage -title "$tytul" -center -file "$plan"
 else
+    # Skrypt w cudzysłowie pojedynczym czyta plik dopiero w terminalu.
+    # shellcheck disable=SC2016
+    czytaj='cat "$1"; printf "\n[Enter zamyka okno] "; read -r _'
     for terminal in x-terminal-emulator xterm konsole gnome-terminal; do
-        if command -v "$terminal" >/dev/null; then
-            "$terminal" -e sh -c 'cat "$1"; printf "\n[Enter zamyka okno] "; read -r _' sh "$plan"
-            break
-        fi
+        command -v "$terminal" >/dev/null && "$terminal" -e sh -c "$czytaj" sh "$plan" && exit 0
     done
+    # Stare okienko nie zna polskich liter.
+    iconv -f UTF-8 -t ASCII//TRANSLIT "$plan" | xmessage -title 'Tabela zanurzen' -fn fixed -center -file -
 fi
 exit 0

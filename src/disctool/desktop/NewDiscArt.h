@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QImage>
+#include <map>
+#include <string>
+
+namespace orvanta {
+
+/// The pictures of a new disc by the names of their files, without ".gif".
+std::map<std::string, QImage> NewDiscArt();
+
+}  // namespace orvanta
