@@ -132,7 +132,7 @@ TEST_F(Windows, MinimisingTakesTheStripsAlongAndRestoringBringsThemBack) {
     ClickMain(MiddleOf(ButtonBox(8)));
     EXPECT_TRUE(Soon([&] { return PixelOfMain(MiddleOf(ButtonBox(8))) == ButtonColour(8, 2); }));
     EXPECT_TRUE(Soon([&] { return screen_.HasState(Main(), "_NET_WM_STATE_HIDDEN"); }));
-    EXPECT_GT(Clock::now() - begin, std::chrono::milliseconds(450));
+    EXPECT_GT(Clock::now() - begin, std::chrono::milliseconds(400));
     EXPECT_TRUE(Soon([&] { return ShellOnScreen::Windows().size() == 1; })) << "a strip stays";
     const Size whole = screen_.Extent();
     ExpectColour({0, 0, whole.width, whole.height}, kBehind);

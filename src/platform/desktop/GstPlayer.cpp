@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "platform/desktop/FrameBox.h"
@@ -22,10 +23,10 @@ class GstPlayer : public MoviePlayer {
   void Pause() override;
   void Stop() override;
   MovieState State() override;
-  bool Loaded() override { return playback_ && playback_->Loaded(); }
-  double Position() override { return playback_ ? playback_->Position() : 0; }
+  bool Loaded() override { return Opened() && playback_->Loaded(); }
+  double Position() override { return Opened() ? playback_->Position() : 0; }
   void SetPosition(double seconds) override;
-  double Length() override { return playback_ ? playback_->Length() : 0; }
+  double Length() override { return Opened() ? playback_->Length() : 0; }
   int Volume() override { return settings_.volume; }
   void SetVolume(int hundredthsOfDecibel) override;
   void SetPlayCount(int count) override;
@@ -35,11 +36,13 @@ class GstPlayer : public MoviePlayer {
  private:
   void Begin();
   void Close();
+  bool Opened() const;
 
   const MovieKind kind_;
   QObject receiver_;
   GstPlayback::Settings settings_;
   std::filesystem::path file_;
+  std::chrono::steady_clock::time_point begun_;
   bool hadFile_ = false;  ///< A file has been loaded at some time before the present one.
   FrameBoxPtr frames_;
   std::unique_ptr<GstPlayback> playback_;
@@ -48,7 +51,6 @@ class GstPlayer : public MoviePlayer {
 void GstPlayer::Open(const std::filesystem::path& file) {
   file_ = file;
   Begin();
-  playback_->AwaitFirstData(kOpenPatience);
 }
 
 void GstPlayer::Begin() {
@@ -57,36 +59,46 @@ void GstPlayer::Begin() {
     if (OnFrame) OnFrame();
   });
   playback_ = std::make_unique<GstPlayback>(kind_, file_, settings_, frames_);
+  begun_ = std::chrono::steady_clock::now();
+}
+
+/// False without a file. Callers expect a file to be open once it is named; they are made to wait for that
+/// only when they ask, so that a window that is shown meanwhile does not come later.
+bool GstPlayer::Opened() const {
+  if (!playback_) return false;
+  const auto left = begun_ + kOpenPatience - std::chrono::steady_clock::now();
+  playback_->AwaitFirstData(std::chrono::duration_cast<std::chrono::milliseconds>(left));
+  return true;
 }
 
 void GstPlayer::Close() {
-  hadFile_ = hadFile_ || Loaded();
+  hadFile_ = hadFile_ || (playback_ && playback_->Loaded());
   if (frames_) frames_->Close();
   playback_.reset();
 }
 
 void GstPlayer::Run() {
-  if (!playback_) return;
+  if (!Opened()) return;
   if (!playback_->Failed()) return playback_->Run();
   if (playback_->Loaded()) Begin();  // a file that was lost while it played may be back
 }
 
 void GstPlayer::Pause() {
-  if (playback_ && !playback_->Failed()) playback_->Pause();
+  if (Opened() && !playback_->Failed()) playback_->Pause();
 }
 
 void GstPlayer::Stop() {
-  if (playback_ && !playback_->Failed()) playback_->Stop();
+  if (Opened() && !playback_->Failed()) playback_->Stop();
 }
 
 MovieState GstPlayer::State() {
-  if (!playback_) return MovieState::NoFile;
+  if (!Opened()) return MovieState::NoFile;
   const MovieState state = playback_->State();
   return state == MovieState::NoFile && hadFile_ ? MovieState::Stopped : state;
 }
 
 void GstPlayer::SetPosition(double seconds) {
-  if (playback_ && !playback_->Failed()) playback_->SetPosition(seconds);
+  if (Opened() && !playback_->Failed()) playback_->SetPosition(seconds);
 }
 
 void GstPlayer::SetVolume(int hundredthsOfDecibel) {
