@@ -163,6 +163,16 @@ TEST_F(Shots, TheViewerKeepsTheMainWindowFromClicksAndTheTickGoing) {
   EXPECT_FALSE(user.ended);
 }
 
+TEST_F(Shots, AButtonLetGoOverTheViewerIsNotHeldBelowIt) {
+  Begin(1);
+  user.host.MoveMouse(user.MiddleOf(Main().picShot(0)));
+  user.host.Press(kRightButton);
+  user.Run(10);
+  View(0, [&] { user.host.Release(kRightButton); });
+  user.Click(Main().imgUp);
+  EXPECT_EQ(Main().MenuLevel, 0) << "the click reaches what lies under the cursor";
+}
+
 TEST_F(Shots, TheViewerStaysOpenWhileTheMainWindowIsMinimised) {
   Begin(1);
   View(0, [&] {
