@@ -126,8 +126,7 @@ void ShellOnScreen::Choose(int index, bool top) const {
   screen_.Rest();
   const Point target = MiddleOf(LabelBox(index, top));
   ClickMain(target);
-  // Only waited for: a machine under load can miss a short one, and the caller looks at what comes of it.
-  Soon([&] { return PixelOfMain({500, target.y}) == kCross; });
+  EXPECT_TRUE(Soon([&] { return PixelOfMain({500, target.y}) == kCross; })) << "no crosshair";
 }
 
 Rgb ShellOnScreen::ButtonColour(int index, int look) {
