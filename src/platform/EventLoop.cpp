@@ -14,6 +14,8 @@ EventLoop::Delivery::~Delivery() {
   while (!loop_.graveyard_.empty()) std::exchange(loop_.graveyard_, {}).clear();
 }
 
+EventLoop::EventLoop(EventSource& source) : source_(source) {}
+
 EventLoop::~EventLoop() = default;
 
 void EventLoop::Post(const FormEvent& event) {
@@ -58,15 +60,15 @@ void EventLoop::DeliverInput(std::uint64_t last) {
 }
 
 void EventLoop::DeliverTicks(Milliseconds now) {
-  std::vector<Timer*> due;
-  std::copy_if(timers_.begin(), timers_.end(), std::back_inserter(due),
-               [now](const Timer* timer) { return timer->Due() <= now; });
-  std::stable_sort(due.begin(), due.end(), [](Timer* a, Timer* b) { return a->Due() < b->Due(); });
-  for (Timer* timer : due) {
-    // A handler before this one may have removed the timer, or pumped and so delivered its tick.
-    if (std::find(timers_.begin(), timers_.end(), timer) == timers_.end() || timer->Due() > now) continue;
+  // Looked up anew each time: a handler may remove timers, or pump and so deliver their ticks. A tick moves
+  // its timer beyond now.
+  const auto earliest = [this] {
+    return std::min_element(timers_.begin(), timers_.end(),
+                            [](const Timer* a, const Timer* b) { return a->Due() < b->Due(); });
+  };
+  for (auto timer = earliest(); timer != timers_.end() && (*timer)->Due() <= now; timer = earliest()) {
     Delivery delivery(*this);
-    timer->Tick(now);
+    (*timer)->Tick(now);
   }
 }
 

@@ -34,7 +34,7 @@ class EventSource {
 /// outside `Pump` and what calls it. Handlers may pump again.
 class EventLoop {
  public:
-  explicit EventLoop(EventSource& source) : source_(source) {}
+  explicit EventLoop(EventSource& source);
   EventLoop(const EventLoop&) = delete;
   EventLoop& operator=(const EventLoop&) = delete;
   ~EventLoop();

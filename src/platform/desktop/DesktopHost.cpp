@@ -1,10 +1,8 @@
 #include "platform/desktop/DesktopHost.h"
 
-#include <QCursor>
 #include <QImageReader>
 #include <QMessageBox>
 #include <QScreen>
-#include <QTimer>
 #include <algorithm>
 #include <chrono>
 #include <thread>
@@ -28,6 +26,8 @@ int& PreparedForQt(int& argc) {
   qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
   qunsetenv("QT_SCALE_FACTOR");
   qunsetenv("QT_SCREEN_SCALE_FACTORS");
+  // Nothing here lives on GLib's main loop, and Qt's own takes half the time to find that nothing happened.
+  qputenv("QT_NO_GLIB", "1");
   const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
   const bool mayChoose = platform.isEmpty() || platform.startsWith("wayland");
   if (mayChoose && qEnvironmentVariableIsSet("DISPLAY")) qputenv("QT_QPA_PLATFORM", "xcb;wayland");
@@ -54,13 +54,7 @@ Size DesktopHost::ScreenSize() const {
   return {size.width(), size.height()};
 }
 
-Point DesktopHost::CursorPos() const {
-  if (!cursor_) {
-    const QPoint cursor = QCursor::pos();
-    cursor_ = Point{cursor.x(), cursor.y()} - ScreenOrigin();
-  }
-  return *cursor_;
-}
+Point DesktopHost::CursorPos() const { return cursor_.Place(clock_.elapsed()) - ScreenOrigin(); }
 
 Form* DesktopHost::ActiveForm() const {
   const auto* window = dynamic_cast<const DesktopWindow*>(QApplication::activeWindow());
@@ -69,19 +63,17 @@ Form* DesktopHost::ActiveForm() const {
 
 void DesktopHost::TakeInput() {
   QCoreApplication::processEvents();
-  cursor_.reset();
+  cursor_.Look(Now());
 }
 
 void DesktopHost::WaitForQt(Milliseconds deadline) {
-  QTimer wake;
   if (deadline != kNever) {
-    wake.setSingleShot(true);
-    wake.setTimerType(Qt::PreciseTimer);
     const Milliseconds left = std::clamp<Milliseconds>(deadline - Now(), 0, 3600 * 1000);
-    wake.start(std::chrono::milliseconds(left));
+    wake_.start(static_cast<int>(left), Qt::PreciseTimer, &alarm_);
   }
   QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-  cursor_.reset();
+  wake_.stop();
+  cursor_.Look(Now());
 }
 
 std::unique_ptr<FormWindow> DesktopHost::MakeWindow(Form& form, WindowKind kind) {
@@ -101,7 +93,7 @@ void DesktopHost::MsgBox(const std::string& text, int style, const std::string& 
 
 void DesktopHost::Sleep(Milliseconds duration) {
   FlushToScreen();
-  cursor_.reset();
+  cursor_.Doubt();
   std::this_thread::sleep_for(std::chrono::milliseconds(std::max<Milliseconds>(0, duration)));
 }
 

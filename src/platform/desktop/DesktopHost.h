@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QApplication>
+#include <QBasicTimer>
 #include <QElapsedTimer>
 #include <filesystem>
 #include <memory>
 #include <optional>
 
 #include "platform/Host.h"
+#include "platform/desktop/CursorWatch.h"
 #include "platform/desktop/Fonts.h"
 #include "platform/desktop/InstanceLock.h"
 #include "platform/desktop/ProgramStart.h"
@@ -26,6 +28,8 @@ class DesktopHost : public Host {
   Point ScreenOrigin() const;
   /// Lets Qt wait for an event, to `deadline` at the longest, and handle it.
   void WaitForQt(Milliseconds deadline);
+  /// What the program's windows are told of the cursor.
+  CursorWatch& Cursor() const { return cursor_; }
 
   Milliseconds Now() override { return clock_.elapsed(); }
   void TakeInput() override;
@@ -53,8 +57,9 @@ class DesktopHost : public Host {
   const std::optional<InstanceLock> instance_;
   PrivateFonts fonts_;
   QElapsedTimer clock_;
-  // Asking the server takes its time, and between two looks at the input nothing is seen to move.
-  mutable std::optional<Point> cursor_;
+  QObject alarm_;  // who is woken: a timer's event needs somebody to go to
+  QBasicTimer wake_;
+  mutable CursorWatch cursor_;
 };
 
 }  // namespace orvanta

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QMouseEvent>
+#include <cmath>
 
 #include "platform/desktop/DesktopHost.h"
 #include "platform/desktop/DesktopWindow.h"
@@ -22,8 +23,17 @@ void DesktopWindow::Post(FormEvent::Kind kind, Point place, int button) {
 }
 
 void DesktopWindow::PostMouse(FormEvent::Kind kind, const QMouseEvent& event, int button) {
+  SeeCursor(event);
   Post(kind, {event.pos().x(), event.pos().y()}, button);
 }
+
+void DesktopWindow::SeeCursor(const QSinglePointEvent& event) {
+  // Some mice tell parts of a pixel.
+  const QPointF place = event.globalPosition();
+  host_.Cursor().Saw({static_cast<int>(std::floor(place.x())), static_cast<int>(std::floor(place.y()))});
+}
+
+void DesktopWindow::enterEvent(QEnterEvent* event) { SeeCursor(*event); }
 
 void DesktopWindow::mouseMoveEvent(QMouseEvent* event) {
   PostMouse(FormEvent::Kind::MouseMove, *event, BitsOf(event->buttons()));
@@ -39,9 +49,13 @@ void DesktopWindow::mouseReleaseEvent(QMouseEvent* event) {
 
 void DesktopWindow::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
 
-void DesktopWindow::leaveEvent(QEvent*) { Post(FormEvent::Kind::MouseLeave); }
+void DesktopWindow::leaveEvent(QEvent*) {
+  host_.Cursor().Lose();
+  Post(FormEvent::Kind::MouseLeave);
+}
 
 void DesktopWindow::changeEvent(QEvent* event) {
+  host_.Cursor().Lose();
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) Post(FormEvent::Kind::Activate);
   if (event->type() == QEvent::WindowStateChange && isMinimized() != wasMinimised_) {
     wasMinimised_ = isMinimized();

@@ -6,6 +6,8 @@
 #include "platform/Form.h"
 #include "platform/FormWindow.h"
 
+class QSinglePointEvent;
+
 namespace orvanta {
 
 class DesktopHost;
@@ -36,6 +38,7 @@ class DesktopWindow : public QWidget, public FormWindow {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void enterEvent(QEnterEvent* event) override;
   void leaveEvent(QEvent* event) override;
   void changeEvent(QEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
@@ -44,6 +47,7 @@ class DesktopWindow : public QWidget, public FormWindow {
  private:
   void Post(FormEvent::Kind kind, Point place = {}, int button = 0);
   void PostMouse(FormEvent::Kind kind, const QMouseEvent& event, int button);
+  void SeeCursor(const QSinglePointEvent& event);
   void NoteMove(const QPoint& corner);
   void ShowNow();
 
