@@ -12,12 +12,25 @@
 
 namespace orvanta {
 
-/// The first of the bytes `kBytes` in [begin, end) that `accept(const char*)` takes, else `end`. Candidates
-/// are offered in their order, each once.
+/// What may stand in front of a byte that is searched for: a letter in either case, or a byte that is no
+/// visible ASCII character. It settles most candidates, so that only few are looked at one by one.
+struct Behind {
+  char letter;
+  bool operator()(char before) const { return before <= ' ' || ((before ^ letter) & ~0x20) == 0; }
+};
+
+/// Anything may: candidates are rare.
+struct Anywhere {
+  bool operator()(char) const { return true; }
+};
+
+/// The first of the bytes `kBytes` in [begin, end) that stands at the begin or behind what `behind` lets
+/// stand there, and that `accept(const char*)` takes, else `end`. Candidates are offered in their order, each
+/// once.
 ///
 /// One std::memchr for each byte, the nearest find first.
-template <char... kBytes, class Accept>
-const char* FindPortably(const char* begin, const char* end, Accept accept) {
+template <char... kBytes, class Before, class Accept>
+const char* FindPortably(const char* begin, const char* end, Before behind, Accept accept) {
   const auto find = [end](const char* at, char byte) {
     if (at == end) return end;
     const void* found = std::memchr(at, byte, static_cast<std::size_t>(end - at));
@@ -27,7 +40,7 @@ const char* FindPortably(const char* begin, const char* end, Accept accept) {
   std::array nearest{find(begin, kBytes)...};
   for (;;) {
     const auto first = std::min_element(nearest.begin(), nearest.end());
-    if (*first == end || accept(*first)) return *first;
+    if (*first == end || ((*first == begin || behind((*first)[-1])) && accept(*first))) return *first;
     *first = find(*first + 1, kWanted[static_cast<std::size_t>(first - nearest.begin())]);
   }
 }
@@ -41,6 +54,21 @@ template <char... kBytes>
   ((found = _mm256_or_si256(found, _mm256_cmpeq_epi8(bytes, _mm256_set1_epi8(kBytes)))), ...);
   return found;
 }
+
+/// The byte in front of each of 32, a zero in front of the first of all.
+[[gnu::target("avx2")]] inline __m256i BeforeAvx2(const char* at, const char* begin) {
+  if (at != begin) return _mm256_loadu_si256(reinterpret_cast<const __m256i_u*>(at - 1));
+  const __m256i bytes = _mm256_loadu_si256(reinterpret_cast<const __m256i_u*>(at));
+  return _mm256_alignr_epi8(bytes, _mm256_permute2x128_si256(bytes, bytes, 0x08), 15);
+}
+
+[[gnu::target("avx2")]] inline __m256i AllowedAvx2(__m256i before, Behind behind) {
+  const __m256i other = _mm256_xor_si256(before, _mm256_set1_epi8(behind.letter));
+  const __m256i same = _mm256_cmpeq_epi8(_mm256_and_si256(other, _mm256_set1_epi8(~0x20)), __m256i{});
+  return _mm256_or_si256(same, _mm256_cmpgt_epi8(_mm256_set1_epi8(' ' + 1), before));
+}
+
+[[gnu::target("avx2")]] inline __m256i AllowedAvx2(__m256i, Anywhere) { return _mm256_set1_epi8(-1); }
 
 /// One bit for each of 64 bytes.
 [[gnu::target("avx2")]] inline std::uint64_t BitsAvx2(__m256i low, __m256i high) {
@@ -57,32 +85,38 @@ const char* FirstAccepted(const char* at, std::uint64_t candidates, Accept& acce
 }
 
 /// The same, 128 bytes a step.
-template <char... kBytes, class Accept>
-[[gnu::target("avx2")]] const char* FindWithAvx2(const char* begin, const char* end, Accept accept) {
+template <char... kBytes, class Before, class Accept>
+[[gnu::target("avx2")]] const char* FindWithAvx2(const char* begin, const char* end, Before behind,
+                                                 Accept accept) {
   const char* const stop = begin + (end - begin) / 128 * 128;
   for (const char* at = begin; at != stop; at += 128) {
     const __m256i a = MatchesAvx2<kBytes...>(at), b = MatchesAvx2<kBytes...>(at + 32);
     const __m256i c = MatchesAvx2<kBytes...>(at + 64), d = MatchesAvx2<kBytes...>(at + 96);
     if (_mm256_movemask_epi8(_mm256_or_si256(_mm256_or_si256(a, b), _mm256_or_si256(c, d))) == 0) continue;
-    const char* found = FirstAccepted(at, BitsAvx2(a, b), accept);
-    if (!found) found = FirstAccepted(at + 64, BitsAvx2(c, d), accept);
+    const auto allowed = [&](const char* place, __m256i found) __attribute__((target("avx2"))) {
+      return _mm256_and_si256(found, AllowedAvx2(BeforeAvx2(place, begin), behind));
+    };
+    const char* found = FirstAccepted(at, BitsAvx2(allowed(at, a), allowed(at + 32, b)), accept);
+    if (!found) {
+      found = FirstAccepted(at + 64, BitsAvx2(allowed(at + 64, c), allowed(at + 96, d)), accept);
+    }
     if (!found) continue;
     _mm256_zeroupper();  // GCC 12 forgets it here, and what follows would run at half the speed
     return found;
   }
-  return FindPortably<kBytes...>(stop, end, accept);
+  return FindPortably<kBytes...>(stop, end, behind, accept);
 }
 
 #endif
 
 /// The fastest way that the processor knows. Vectors pay because they need not begin anew behind each
 /// candidate, of which a catalogue has one in 40 to 500 bytes.
-template <char... kBytes, class Accept>
-const char* FindAccepted(const char* begin, const char* end, Accept accept) {
+template <char... kBytes, class Before, class Accept>
+const char* FindAccepted(const char* begin, const char* end, Before behind, Accept accept) {
 #if defined(__x86_64__) && !defined(ORVANTA_PORTABLE_SEARCH)
-  if (__builtin_cpu_supports("avx2")) return FindWithAvx2<kBytes...>(begin, end, accept);
+  if (__builtin_cpu_supports("avx2")) return FindWithAvx2<kBytes...>(begin, end, behind, accept);
 #endif
-  return FindPortably<kBytes...>(begin, end, accept);
+  return FindPortably<kBytes...>(begin, end, behind, accept);
 }
 
 }  // namespace orvanta

@@ -58,8 +58,10 @@ std::string ValueOf(std::string_view text) {
   return std::string(Unquoted(Trimmed(text.substr(0, text.find('\0')))).substr(0, kLongestValue));
 }
 
-bool CanBeName(std::string_view name, std::string_view forbidden) {
-  return Trimmed(name).size() == name.size() && name.find_first_of(forbidden) == name.npos;
+bool CanBeName(std::string_view name, char forbidden) {
+  if (!name.empty() && (IsBlank(name.front()) || IsBlank(name.back()))) return false;
+  return std::none_of(name.begin(), name.end(),
+                      [forbidden](char c) { return c == forbidden || IsLineEnd(c); });
 }
 
 /// `at` is behind the "[".
@@ -77,7 +79,7 @@ bool NamesSection(const char* at, const char* end, std::string_view section) {
 ProfileScanner::ProfileScanner(std::string_view section, std::string_view key)
     : section_(section),
       key_(key),
-      canMatch_(CanBeName(section, "]\r\n") && CanBeName(key, "=\r\n") && !key.starts_with(';') &&
+      canMatch_(CanBeName(section, ']') && CanBeName(key, '=') && !key.starts_with(';') &&
                 !key.starts_with('[')) {}
 
 bool ProfileScanner::Take(std::string_view lines) {
@@ -93,7 +95,7 @@ bool ProfileScanner::Take(std::string_view lines) {
 /// Where the section's lines begin, null if it is not here.
 const char* ProfileScanner::SkipToSection(const char* begin, const char* end) const {
   const char first = section_.empty() ? ']' : section_[0];
-  const char* header = FindAccepted<'['>(begin, end, [=, section = section_](const char* at) {
+  const char* header = FindAccepted<'['>(begin, end, Anywhere{}, [=, section = section_](const char* at) {
     if (at + 1 != end && CannotMatch(at[1], first)) return false;
     return NamesSection(at + 1, end, section) && OnlyBlanksBefore(begin, at);
   });
@@ -102,10 +104,8 @@ const char* ProfileScanner::SkipToSection(const char* begin, const char* end) co
 
 bool ProfileScanner::FindKey(const char* begin, const char* end) {
   const char last = key_.empty() ? '\n' : key_.back();
-  const char* stop = FindAccepted<'[', '='>(begin, end, [=, this](const char* at) {
-    if (*at == '[') return OnlyBlanksBefore(begin, at);
-    if (at != begin && CannotMatch(at[-1], last)) return false;
-    return NamesKey(begin, at);
+  const char* stop = FindAccepted<'[', '='>(begin, end, Behind{last}, [=, this](const char* at) {
+    return *at == '[' ? OnlyBlanksBefore(begin, at) : NamesKey(begin, at);
   });
   if (stop == end) return false;
   if (*stop == '=') value_ = ValueOf({stop + 1, LineEnd(stop, end)});
