@@ -82,7 +82,8 @@ double Stretch(const WaveHeader& wave, int headBytes, int headSamples) {
   const int body = wave.blockAlign - headBytes * wave.channels;
   if (wave.channels < 1 || body < 2) return 1;
   const double samples = static_cast<double>(body) * 2 / wave.channels + headSamples;
-  return samples / (body / 2 * 2);
+  const int counted = body / 2 * 2;
+  return samples / counted;
 }
 
 }  // namespace
