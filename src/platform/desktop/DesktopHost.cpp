@@ -1,6 +1,7 @@
 #include "platform/desktop/DesktopHost.h"
 
 #include <QCursor>
+#include <QIcon>
 #include <QImageReader>
 #include <QMessageBox>
 #include <QScreen>
@@ -34,6 +35,15 @@ int& PreparedForQt(int& argc) {
   return argc;
 }
 
+/// In the sizes that task bars and lists of windows ask for.
+QIcon ProgramIcon() {
+  QIcon icon;
+  for (const char* file :
+       {":/icon/orvanta-16.png", ":/icon/orvanta-32.png", ":/icon/orvanta-48.png", ":/icon/orvanta-128.png"})
+    icon.addFile(QString::fromLatin1(file));
+  return icon;
+}
+
 }  // namespace
 
 DesktopHost::DesktopHost(int& argc, char** argv, std::filesystem::path discFolder)
@@ -41,6 +51,7 @@ DesktopHost::DesktopHost(int& argc, char** argv, std::filesystem::path discFolde
       discFolder_(std::move(discFolder)),
       instance_(InstanceLock::Acquire(InstancePlaceFromEnvironment())) {
   application_.setQuitOnLastWindowClosed(false);
+  QApplication::setWindowIcon(ProgramIcon());
   clock_.start();
 }
 
