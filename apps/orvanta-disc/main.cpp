@@ -46,7 +46,9 @@ int Misuse(const QString& message) {
   return kMisuse;
 }
 
-int Failure(const std::string& problem) {
+/// Tells of a problem; an empty one is none.
+int Outcome(const std::string& problem) {
+  if (problem.empty()) return orvanta::kGood;
   std::cerr << "orvanta-disc: " << orvanta::Printable(problem) << '\n';
   return orvanta::kFaults;
 }
@@ -67,7 +69,7 @@ int WithDisc(const Request& request, Work work) {
   const orvanta::OpenedDisc disc = WithProgress("Unpacking", [&](const orvanta::Progress& progress) {
     return orvanta::DiscCache().Open(request.Word(1), progress);
   });
-  return disc.problem.empty() ? work(disc.folder) : Failure(disc.problem);
+  return disc.problem.empty() ? work(disc.folder) : Outcome(disc.problem);
 }
 
 /// Qt's opinions on the machine are no part of what a command has to say.
@@ -82,12 +84,12 @@ int& PreparedForNoDisplay(int& argc) {
 
 int Open(const Request& request, int& argc, char** argv) {
   if (request.Has("clear-cache")) {
-    if (const std::string problem = orvanta::DiscCache().Clear(); !problem.empty()) return Failure(problem);
-    if (request.words.size() == 1) return orvanta::kGood;
+    const int status = Outcome(orvanta::DiscCache().Clear());
+    if (status != orvanta::kGood || request.words.size() == 1) return status;
   }
+  if (!orvanta::ErrorsAreRead()) return Outcome(orvanta::OpenInWindows(request.Word(1), argc, argv));
   return WithDisc(request, [&](const std::filesystem::path& folder) {
-    const std::string problem = orvanta::RunShell(folder, argc, argv);
-    return problem.empty() ? orvanta::kGood : Failure(problem);
+    return Outcome(orvanta::RunShell(folder, argc, argv));
   });
 }
 
@@ -108,10 +110,9 @@ int Tree(const Request& request, int&, char**) {
 int Gallery(const Request& request, int& argc, char** argv) {
   return WithDisc(request, [&](const std::filesystem::path& folder) {
     const QGuiApplication application(PreparedForNoDisplay(argc), argv);
-    const std::string problem = WithProgress("Painting", [&](const orvanta::Progress& progress) {
+    return Outcome(WithProgress("Painting", [&](const orvanta::Progress& progress) {
       return orvanta::MakeGallery(folder, request.Word(2), progress);
-    });
-    return problem.empty() ? orvanta::kGood : Failure(problem);
+    }));
   });
 }
 
@@ -121,18 +122,17 @@ int Get(const Request& request, int&, char**) {
   });
 }
 
+int New(const Request& request, int& argc, char** argv) {
+  const QGuiApplication application(PreparedForNoDisplay(argc), argv);
+  return Outcome(orvanta::MakeNewDisc(request.Word(1)));
+}
+
 struct Command {
   const char* name;
   int arguments;
   std::array<const char*, 2> options;
   int (*run)(const Request& request, int& argc, char** argv);
 };
-int New(const Request& request, int& argc, char** argv) {
-  const QGuiApplication application(PreparedForNoDisplay(argc), argv);
-  const std::string problem = orvanta::MakeNewDisc(request.Word(1));
-  return problem.empty() ? orvanta::kGood : Failure(problem);
-}
-
 constexpr Command kCommands[] = {{"open", 1, {"clear-cache"}, Open},
                                  {"check", 1, {"json", "strict"}, Check},
                                  {"tree", 1, {"json"}, Tree},

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "disctool/desktop/DiscImage.h"
+#include "disctool/desktop/HeldSignals.h"
 
 namespace orvanta {
 namespace {
@@ -134,6 +135,7 @@ OpenedDisc DiscCache::Unpack(const fs::path& image, const std::string& name, con
   if (!contents.problem.empty()) return failed(contents.problem);
   RemoveOthers(name);
   if (const std::string problem = NoRoom(folder_, contents); !problem.empty()) return failed(problem);
+  const HeldSignals untilItIsWholeOrGone;
   const fs::path unfinished = folder_ / (name + std::string(kUnfinished));
   if (mkdir(unfinished.c_str(), S_IRWXU) != 0) return Failed(Problem(unfinished));
   std::string problem = UnpackImage(image, contents, unfinished, progress);

@@ -5,11 +5,11 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <csignal>
 #include <cstring>
 #include <map>
 #include <span>
 
+#include "disctool/desktop/HeldSignals.h"
 #include "disctool/desktop/ImageReader.h"
 #include "platform/desktop/Descriptor.h"
 
@@ -92,7 +92,7 @@ class Unpacker {
       part = part.subspan(static_cast<std::size_t>(put));
     }
     progress_(written_, contents_.bytes);
-    return {};
+    return EndPending() ? "interrupted" : std::string();
   }
 
   const fs::path& folder_;

@@ -1,7 +1,6 @@
 #include "platform/desktop/DesktopHost.h"
 
 #include <QCursor>
-#include <QIcon>
 #include <QImageReader>
 #include <QMessageBox>
 #include <QScreen>
@@ -13,6 +12,7 @@
 
 #include "platform/desktop/DesktopWindow.h"
 #include "platform/desktop/GstPlayer.h"
+#include "platform/desktop/ProgramIcon.h"
 #include "platform/desktop/QtPicture.h"
 #include "platform/desktop/SoundCard.h"
 #include "platform/desktop/XWindow.h"
@@ -33,15 +33,6 @@ int& PreparedForQt(int& argc) {
   const bool mayChoose = platform.isEmpty() || platform.startsWith("wayland");
   if (mayChoose && qEnvironmentVariableIsSet("DISPLAY")) qputenv("QT_QPA_PLATFORM", "xcb;wayland");
   return argc;
-}
-
-/// In the sizes that task bars and lists of windows ask for.
-QIcon ProgramIcon() {
-  QIcon icon;
-  for (const char* file :
-       {":/icon/orvanta-16.png", ":/icon/orvanta-32.png", ":/icon/orvanta-48.png", ":/icon/orvanta-128.png"})
-    icon.addFile(QString::fromLatin1(file));
-  return icon;
 }
 
 }  // namespace
