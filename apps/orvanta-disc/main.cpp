@@ -8,6 +8,7 @@
 #include <iostream>
 #include <optional>
 
+#include "disctool/Catalogue.h"
 #include "disctool/Commands.h"
 #include "disctool/OutputText.h"
 #include "disctool/Progress.h"
@@ -118,6 +119,7 @@ int Gallery(const Request& request, int& argc, char** argv) {
 
 int Get(const Request& request, int&, char**) {
   return WithDisc(request, [&](const std::filesystem::path& folder) -> int {
+    if (orvanta::Catalogue(folder).Empty()) return Outcome(folder.string() + ": there is no disc here");
     return orvanta::GetCommand(folder, request.Word(2), request.Word(3), std::cout);
   });
 }
@@ -129,16 +131,14 @@ int New(const Request& request, int& argc, char** argv) {
 
 struct Command {
   const char* name;
-  int arguments;
+  const char* arguments;
   std::array<const char*, 2> options;
   int (*run)(const Request& request, int& argc, char** argv);
 };
-constexpr Command kCommands[] = {{"open", 1, {"clear-cache"}, Open},
-                                 {"check", 1, {"json", "strict"}, Check},
-                                 {"tree", 1, {"json"}, Tree},
-                                 {"gallery", 2, {}, Gallery},
-                                 {"get", 3, {}, Get},
-                                 {"new", 1, {}, New}};
+constexpr Command kCommands[] = {
+    {"open", "DISC", {"clear-cache"}, Open}, {"check", "DISC", {"json", "strict"}, Check},
+    {"tree", "DISC", {"json"}, Tree},        {"gallery", "DISC OUT", {}, Gallery},
+    {"get", "DISC SECTION KEY", {}, Get},    {"new", "DIR", {}, New}};
 
 const Command* FindCommand(const QString& name) {
   for (const Command& command : kCommands)
@@ -156,8 +156,9 @@ int Dispatch(const Request& request, int& argc, char** argv) {
   const Command* command = FindCommand(request.words.first());
   if (!command) return Misuse("there is no command '" + request.words.first() + "'");
   const bool onlyClears = request.Has("clear-cache") && request.words.size() == 1;
-  if (request.words.size() != 1 + command->arguments && !onlyClears)
-    return Misuse(QString("'%1' takes %2 argument(s)").arg(command->name).arg(command->arguments));
+  const QString usage = QString("%1 %2").arg(command->name, command->arguments);
+  if (request.words.size() != usage.split(' ').size() && !onlyClears)
+    return Misuse("it is: orvanta-disc " + usage);
   for (const QString& option : request.options)
     if (!Takes(*command, option))
       return Misuse(QString("'%1' has no option --%2").arg(command->name, option));
