@@ -91,7 +91,7 @@ bool ErrorsAreRead() {
 }
 
 std::string OpenInWindows(const std::filesystem::path& disc, int& argc, char** argv) {
-  const std::string problem = Open(disc, argc, argv);
+  std::string problem = Open(disc, argc, argv);
   if (problem.empty() || !HasDisplay()) return problem;
   const QApplication application(argc, argv);
   QApplication::setWindowIcon(ProgramIcon());
