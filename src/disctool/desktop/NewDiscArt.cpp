@@ -121,6 +121,7 @@ std::map<std::string, QImage> NewDiscArt() {
                      QStringLiteral("Wybierz pozycję z menu.\n\nStrzałka w lewo wraca o jeden "
                                     "poziom, strzałka w górę do początku.\n\nKliknij stronę, "
                                     "aby ją zamknąć."));
+  Letter(art["help"], {30, 450, 336, 30}, QStringLiteral("Ta strona jest wyższa niż okno."), 16, kInk);
   art["about"] =
       Page(306, QStringLiteral("O płycie"), QStringLiteral("Tu wpisz, kto i kiedy zrobił tę płytę."));
   art["start"] = Scene(640, 450, QStringLiteral("Nowa płyta"));
