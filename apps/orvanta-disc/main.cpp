@@ -8,6 +8,7 @@
 #include <iostream>
 #include <optional>
 
+#include "disctool/Catalogue.h"
 #include "disctool/Commands.h"
 #include "disctool/OutputText.h"
 #include "disctool/Progress.h"
@@ -46,7 +47,9 @@ int Misuse(const QString& message) {
   return kMisuse;
 }
 
-int Failure(const std::string& problem) {
+/// Tells of a problem; an empty one is none.
+int Outcome(const std::string& problem) {
+  if (problem.empty()) return orvanta::kGood;
   std::cerr << "orvanta-disc: " << orvanta::Printable(problem) << '\n';
   return orvanta::kFaults;
 }
@@ -67,7 +70,7 @@ int WithDisc(const Request& request, Work work) {
   const orvanta::OpenedDisc disc = WithProgress("Unpacking", [&](const orvanta::Progress& progress) {
     return orvanta::DiscCache().Open(request.Word(1), progress);
   });
-  return disc.problem.empty() ? work(disc.folder) : Failure(disc.problem);
+  return disc.problem.empty() ? work(disc.folder) : Outcome(disc.problem);
 }
 
 /// Qt's opinions on the machine are no part of what a command has to say.
@@ -82,12 +85,12 @@ int& PreparedForNoDisplay(int& argc) {
 
 int Open(const Request& request, int& argc, char** argv) {
   if (request.Has("clear-cache")) {
-    if (const std::string problem = orvanta::DiscCache().Clear(); !problem.empty()) return Failure(problem);
-    if (request.words.size() == 1) return orvanta::kGood;
+    const int status = Outcome(orvanta::DiscCache().Clear());
+    if (status != orvanta::kGood || request.words.size() == 1) return status;
   }
+  if (!orvanta::ErrorsAreRead()) return Outcome(orvanta::OpenInWindows(request.Word(1), argc, argv));
   return WithDisc(request, [&](const std::filesystem::path& folder) {
-    const std::string problem = orvanta::RunShell(folder, argc, argv);
-    return problem.empty() ? orvanta::kGood : Failure(problem);
+    return Outcome(orvanta::RunShell(folder, argc, argv));
   });
 }
 
@@ -108,37 +111,34 @@ int Tree(const Request& request, int&, char**) {
 int Gallery(const Request& request, int& argc, char** argv) {
   return WithDisc(request, [&](const std::filesystem::path& folder) {
     const QGuiApplication application(PreparedForNoDisplay(argc), argv);
-    const std::string problem = WithProgress("Painting", [&](const orvanta::Progress& progress) {
+    return Outcome(WithProgress("Painting", [&](const orvanta::Progress& progress) {
       return orvanta::MakeGallery(folder, request.Word(2), progress);
-    });
-    return problem.empty() ? orvanta::kGood : Failure(problem);
+    }));
   });
 }
 
 int Get(const Request& request, int&, char**) {
   return WithDisc(request, [&](const std::filesystem::path& folder) -> int {
+    if (orvanta::Catalogue(folder).Empty()) return Outcome(folder.string() + ": there is no disc here");
     return orvanta::GetCommand(folder, request.Word(2), request.Word(3), std::cout);
   });
 }
 
+int New(const Request& request, int& argc, char** argv) {
+  const QGuiApplication application(PreparedForNoDisplay(argc), argv);
+  return Outcome(orvanta::MakeNewDisc(request.Word(1)));
+}
+
 struct Command {
   const char* name;
-  int arguments;
+  const char* arguments;
   std::array<const char*, 2> options;
   int (*run)(const Request& request, int& argc, char** argv);
 };
-int New(const Request& request, int& argc, char** argv) {
-  const QGuiApplication application(PreparedForNoDisplay(argc), argv);
-  const std::string problem = orvanta::MakeNewDisc(request.Word(1));
-  return problem.empty() ? orvanta::kGood : Failure(problem);
-}
-
-constexpr Command kCommands[] = {{"open", 1, {"clear-cache"}, Open},
-                                 {"check", 1, {"json", "strict"}, Check},
-                                 {"tree", 1, {"json"}, Tree},
-                                 {"gallery", 2, {}, Gallery},
-                                 {"get", 3, {}, Get},
-                                 {"new", 1, {}, New}};
+constexpr Command kCommands[] = {
+    {"open", "DISC", {"clear-cache"}, Open}, {"check", "DISC", {"json", "strict"}, Check},
+    {"tree", "DISC", {"json"}, Tree},        {"gallery", "DISC OUT", {}, Gallery},
+    {"get", "DISC SECTION KEY", {}, Get},    {"new", "DIR", {}, New}};
 
 const Command* FindCommand(const QString& name) {
   for (const Command& command : kCommands)
@@ -156,8 +156,9 @@ int Dispatch(const Request& request, int& argc, char** argv) {
   const Command* command = FindCommand(request.words.first());
   if (!command) return Misuse("there is no command '" + request.words.first() + "'");
   const bool onlyClears = request.Has("clear-cache") && request.words.size() == 1;
-  if (request.words.size() != 1 + command->arguments && !onlyClears)
-    return Misuse(QString("'%1' takes %2 argument(s)").arg(command->name).arg(command->arguments));
+  const QString usage = QString("%1 %2").arg(command->name, command->arguments);
+  if (request.words.size() != usage.split(' ').size() && !onlyClears)
+    return Misuse("it is: orvanta-disc " + usage);
   for (const QString& option : request.options)
     if (!Takes(*command, option))
       return Misuse(QString("'%1' has no option --%2").arg(command->name, option));

@@ -272,7 +272,7 @@ def card(entry, number):
 {bands}<rect x="24" y="70" width="592" height="370" fill="none" stroke="{svg.INK}" stroke-width="2"/>
 <rect x="352" y="{top:.0f}" width="16" height="{bottom - top:.0f}" rx="5" fill="#ffb84d" stroke="#3a1c02" stroke-width="1.5"/>
 {svg.text(376, top + 13, f"{entry.shallow} m", 14, "#ffe2a4")}{svg.text(376, max(bottom, top + 28), f"{entry.deep} m", 14, "#ffe2a4")}
-<g transform="translate(520,{min(max((top + bottom) / 2, 140), 380):.0f}) scale(.44)">{entry.drawing()}</g>
+<g transform="translate(528,{min(max((top + bottom) / 2, 140), 380):.0f}) scale(.43)">{entry.drawing()}</g>
 {svg.text(24, 464, entry.latin + ", " + entry.size, 15, svg.INK, svg.BOOK, extra='font-style="italic"')}"""
     return svg.document(
         W, H, body, scenes.DEFS + creatures.DEFS + svg.gradient("paperCard", [(0, "#f6eed6"), (1, "#d9cba0")])

@@ -18,6 +18,7 @@ DEFS = "".join(
         _soft("glassy", 4, 8, 0.9, 30),
         svg.gradient("coelaSkin", [(0, "#5f8fb4"), (0.5, "#3b6288"), (1, "#22405c")]),
         svg.gradient("anglerSkin", [(0, "#6b4a44"), (0.5, "#4b302f"), (1, "#27181a")]),
+        svg.radial("pinkGlow", [(0, "#ffd2e0", 0.95), (0.4, "#f0709a", 0.4), (1, "#f0709a", 0)]),
         svg.gradient("gulperSkin", [(0, "#3c3346"), (1, "#19141f")]),
         svg.gradient("silver", [(0, "#46626f"), (0.3, "#c8dde2"), (0.6, "#8fb0ba"), (1, "#dff2f2")]),
         svg.gradient("squidSkin", [(0, "#e2694e"), (0.6, "#b43b36"), (1, "#741f2a")]),
@@ -214,7 +215,7 @@ def gulper():
 <path d="M-152,62 C-112,66 -84,44 -76,14" fill="none" stroke="#6d5a78" stroke-width="1.6" stroke-dasharray="2 3"/>
 <path d="M-60,-30 C-40,-4 -44,40 -66,76 M-46,-30 C-28,-6 -32,30 -50,58" fill="none" stroke="#52445e" stroke-width="2" opacity=".7"/>
 {eye(-146, -42, 5)}<path d="M-40,-40 C20,-16 80,-50 140,-40" fill="none" stroke="#8f7ca0" stroke-width="2" opacity=".5"/>
-{light(138, 40, 34, .95)}<circle cx="138" cy="40" r="5" fill="#ffd9e6"/>"""
+<circle cx="138" cy="40" r="34" fill="url(#pinkGlow)"/><circle cx="138" cy="40" r="5" fill="#ffe6ee"/>"""
 
 
 def hatchet():

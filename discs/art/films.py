@@ -52,7 +52,8 @@ def _drift(t, count, seed, speed=40, sway=8):
 
 def walk(t):
     """A walk on the sea bed: the vessel crosses a field of smokers and meets a coelacanth in its light."""
-    vessel_x = 250 - 190 * _ease(t * 0.9) + 4 * math.sin(t * 22)
+    after_title = 90 * (1 - _between(t, 0.16, 0.42))
+    vessel_x = 250 + after_title - 190 * _ease(t * 0.9) + 4 * math.sin(t * 22)
     vessel_y = 34 + 5 * math.sin(t * 16)
     fish_x = -150 + 330 * _between(t, 0.25, 0.98)
     fish_y = 128 + 6 * math.sin(t * 24)

@@ -97,7 +97,7 @@ def help_page():
                 ],
             ),
             strip,
-            _lines(152, 164, ["strzałka w lewo: o jeden poziom wstecz,", "w górę: prosto do menu głównego"]),
+            _lines(152, 164, ["w lewo: o jeden poziom wstecz,", "w górę: prosto do menu głównego"]),
             _heading(212, "SUWAK"),
             knob,
             _lines(

@@ -239,7 +239,7 @@ def journal(day):
 
 def glossary(source):
     rows = source.splitlines()[:24]
-    body = sunken(44, 62, 552, 366) + lines(54, 82, [row[:74] for row in rows][:19], 12, 18, "#111", MONO)
+    body = sunken(44, 62, 552, 366) + lines(54, 82, [row[:80] for row in rows][:19], 11, 18, "#111", MONO)
     return desktop.screen(
         window(38, 16, 564, 418, "slowniczek.txt, Notatnik nurka", body, ("Plik", "Edycja", "Szukaj")), "slowniczek.txt"
     )
@@ -255,8 +255,10 @@ def score(voices, title, author):
     ]
     for system in range(3):
         top = 126 + system * 112
-        out += [f'<path d="M44,{top + k * 9} H{W - 44}" stroke="#2b2a22" stroke-width="1"/>' for k in range(5)]
+        out += [f'<path d="M44,{top + k * 9} H588.6" stroke="#2b2a22" stroke-width="1"/>' for k in range(5)]
         out.append(_clef(56, top))
+        if system == 0:
+            out += [svg.text(90, top + y, n, 23, "#2b2a22", svg.BOOK, "middle", 'font-weight="bold"') for n, y in (("3", 17), ("4", 35))]
         bars = voices[system * 4 : system * 4 + 4]
         for b, notes in enumerate(bars):
             left = 104 + b * 122

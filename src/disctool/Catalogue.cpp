@@ -1,8 +1,8 @@
 #include "disctool/Catalogue.h"
 
 #include <fstream>
-#include <iterator>
 #include <optional>
+#include <sstream>
 #include <system_error>
 
 #include "config/Windows1250.h"
@@ -26,7 +26,11 @@ Catalogue::File ReadFile(const DiscDrive& drive, const fs::path& folder, std::st
   file.tooLarge = fs::file_size(found.path, error) > Catalogue::kLargestFile;
   if (file.tooLarge) return file;
   std::ifstream in(found.path, std::ios::binary);
-  file.ini = ParseIniFile(std::string(std::istreambuf_iterator<char>(in), {}));
+  std::ostringstream bytes;
+  // An empty file gives no byte, which a stream takes for a failure.
+  if (in.peek() != std::ifstream::traits_type::eof()) bytes << in.rdbuf();
+  file.unreadable = !in.is_open() || in.bad() || bytes.fail();
+  file.ini = ParseIniFile(bytes.str());
   return file;
 }
 

@@ -37,6 +37,7 @@ class Catalogue {
     std::filesystem::path path;  ///< as found, or where it would be looked for
     bool found = false;
     bool tooLarge = false;
+    bool unreadable = false;
     IniFile ini;
   };
 

@@ -79,6 +79,7 @@ void CheckLines(CheckJob& job) {
   for (const Catalogue::File& file : job.catalogue.Files()) {
     if (file.tooLarge)
       job.findings.Error({file.path, 0}, "file-too-large", "the file is too large for a disc's");
+    if (file.unreadable) job.findings.Error({file.path, 0}, "unreadable", "the file cannot be read");
     Remarks(job, file);
     for (const IniSection& section : file.ini.sections) Section(job, file, section);
   }

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "desktop/DiscToolProcess.h"
+#include "desktop/MediaFiles.h"
 #include "desktop/ScratchFolder.h"
 #include "support/TestDisc.h"
 
@@ -37,7 +38,10 @@ QImage PictureIn(const fs::path& folder, const std::string& name) {
 
 TEST(DiscToolGallery, ShowsEveryViewOfADisc) {
   TestDisc disc;
-  disc.File("film.avi", "film");
+  // Four seconds long; the picture of the second one carries the number 50.
+  const MediaFiles media;
+  const auto film = media.Film("film.avi", "-c:v mjpeg -c:a pcm_s16le", MediaFiles::Tones(8, kA4));
+  disc.File("film.avi", ScratchFolder::contentOf(film));
   disc.Menu("MAINMENU", {"Długa <lista>", "Film", "Nic"});
   std::vector<std::string> items(30, "Gra & spółka");
   items[29] = "MAINMENU";
@@ -58,10 +62,15 @@ TEST(DiscToolGallery, ShowsEveryViewOfADisc) {
   EXPECT_EQ(Pictures(out, "00002").size(), 1U) << "the other page";
   EXPECT_EQ(Pictures(out, "00003").size(), 1U) << "the first menu";
   EXPECT_EQ(Pictures(out, "00004").size(), 4U) << "a list of thirty";
-  EXPECT_EQ(Pictures(out, "00005").size(), 2U) << "the film and its cinema";
+  EXPECT_EQ(Pictures(out, "00005").size(), 3U) << "the film, its screenshot and its cinema";
   EXPECT_EQ(Pictures(out, "00006").size(), 0U) << "nothing to see";
-  EXPECT_EQ(Pictures(out, "00007").size(), 2U) << "an entry with five screenshots, shown once";
-  EXPECT_EQ(PictureIn(out, "00005-2.png").size(), QSize(600, 450)) << "the cinema";
+  EXPECT_EQ(Pictures(out, "00007").size(), 7U) << "an entry and its five screenshots, shown once";
+  const QImage cinema = PictureIn(out, "00005-3.png");
+  ASSERT_EQ(cinema.size(), QSize(600, 450));
+  int number = 0;
+  for (int bar = 0; bar < kFrameBars; ++bar)
+    number |= qGray(cinema.pixel(220 + 20 * bar + 10, 200)) > 128 ? 1 << bar : 0;
+  EXPECT_NEAR(number, 50, 1) << "a picture of the film on the screen";
   const QImage menu = PictureIn(out, "00003-1.png");
   EXPECT_EQ(menu.size(), QSize(667, 496));
   EXPECT_EQ(menu.pixelColor(0, 0).alpha(), 0) << "cut off by the outline";

@@ -3,6 +3,7 @@
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 
 #include <csignal>
 #include <cstdlib>
@@ -131,6 +132,12 @@ TEST_F(Image, OfHarmIsRefused) {
   ASSERT_EQ(mkfifo((disc.Folder() / "pipe").c_str(), 0600), 0);
   Burn();
   ExpectRefused("neither file nor folder: 'pipe'");
+  fs::remove(disc.Folder() / "pipe");
+
+  // Only root may make one to begin with.
+  if (mknod((disc.Folder() / "disk").c_str(), S_IFBLK | 0600, makedev(8, 0)) != 0) return;
+  Burn();
+  ExpectRefused("neither file nor folder: 'disk'");
 }
 
 TEST_F(Image, ThatCannotBeReadLeavesNothingBehind) {

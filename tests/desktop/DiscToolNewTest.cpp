@@ -6,7 +6,6 @@
 #include "desktop/DiscToolProcess.h"
 #include "desktop/ScratchFolder.h"
 #include "disctool/GifFile.h"
-#include "disctool/NewDiscTexts.h"
 
 namespace orvanta {
 namespace {

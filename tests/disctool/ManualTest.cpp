@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "config/SchemaTable.h"
-#include "disctool/NewDiscTexts.h"
+#include "disctool/OutlineSvg.h"
 
 namespace orvanta::test {
 namespace {

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "disctool/desktop/DiscImage.h"
+#include "disctool/desktop/HeldSignals.h"
 
 namespace orvanta {
 namespace {
@@ -31,7 +32,7 @@ fs::path CacheHome() {
     return fs::path(value ? value : "");
   };
   // Paths that are not absolute are to be ignored, by the rules that name these folders.
-  if (const fs::path cache = variable("XDG_CACHE_HOME"); cache.is_absolute()) return cache;
+  if (fs::path cache = variable("XDG_CACHE_HOME"); cache.is_absolute()) return cache;
   const fs::path home = variable("HOME");
   return (home.is_absolute() ? home : fs::path("/")) / ".cache";
 }
@@ -77,7 +78,7 @@ std::vector<std::string> NamesIn(const fs::path& folder) {
   return names;
 }
 
-std::string Megabytes(std::uintmax_t bytes) { return std::to_string((bytes + 999'999) / 1'000'000) + " MB"; }
+constexpr std::uintmax_t kMegabyte = 1'000'000;
 
 /// Why a copy has no room; empty if it has.
 std::string NoRoom(const fs::path& folder, const ImageContents& contents) {
@@ -87,8 +88,8 @@ std::string NoRoom(const fs::path& folder, const ImageContents& contents) {
   // Each file begins a block of its own.
   const std::uintmax_t needed = contents.bytes + contents.files * disk.f_frsize;
   if (needed <= free) return {};
-  return "unpacking takes " + Megabytes(needed) + ", but " + folder.string() + " has only " +
-         Megabytes(free) + " left";
+  return "unpacking takes " + std::to_string((needed + kMegabyte - 1) / kMegabyte) + " MB, but " +
+         folder.string() + " has only " + std::to_string(free / kMegabyte) + " MB left";
 }
 
 OpenedDisc Failed(std::string problem) { return {{}, std::move(problem), {}}; }
@@ -134,6 +135,7 @@ OpenedDisc DiscCache::Unpack(const fs::path& image, const std::string& name, con
   if (!contents.problem.empty()) return failed(contents.problem);
   RemoveOthers(name);
   if (const std::string problem = NoRoom(folder_, contents); !problem.empty()) return failed(problem);
+  const HeldSignals untilItIsWholeOrGone;
   const fs::path unfinished = folder_ / (name + std::string(kUnfinished));
   if (mkdir(unfinished.c_str(), S_IRWXU) != 0) return Failed(Problem(unfinished));
   std::string problem = UnpackImage(image, contents, unfinished, progress);

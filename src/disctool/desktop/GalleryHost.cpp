@@ -3,6 +3,7 @@
 #include <QImageReader>
 #include <QPainter>
 
+#include "disctool/desktop/FilmStill.h"
 #include "platform/desktop/PainterCanvas.h"
 #include "platform/desktop/QtPicture.h"
 
@@ -10,27 +11,38 @@ namespace orvanta {
 
 namespace {
 
-class SilentPlayer : public MoviePlayer {
+/// Shows a still of a film. Sounds it leaves alone: nobody listens, and a voice would only be waited for.
+class StillPlayer : public MoviePlayer {
  public:
-  void Open(const std::filesystem::path&) override {}
+  explicit StillPlayer(MovieKind kind) : kind_(kind) {}
+
+  void Open(const std::filesystem::path& file) override {
+    still_ = kind_ == MovieKind::Film ? FilmStill(file) : nullptr;
+  }
   void Run() override {}
   void Pause() override {}
   void Stop() override {}
-  MovieState State() override { return MovieState::NoFile; }
-  bool Loaded() override { return false; }
+  MovieState State() override { return still_ ? MovieState::Running : MovieState::NoFile; }
+  bool Loaded() override { return still_ != nullptr; }
   double Position() override { return 0; }
   void SetPosition(double) override {}
   double Length() override { return 0; }
   int Volume() override { return 0; }
   void SetVolume(int) override {}
   void SetPlayCount(int) override {}
-  Size FilmSize() override { return {}; }
-  PicturePtr Frame() override { return nullptr; }
+  Size FilmSize() override { return still_ ? still_->PixelSize() : Size{}; }
+  PicturePtr Frame() override { return still_; }
+
+ private:
+  const MovieKind kind_;
+  PicturePtr still_;
 };
 
 }  // namespace
 
-std::unique_ptr<MoviePlayer> GalleryHost::MakePlayer(MovieKind) { return std::make_unique<SilentPlayer>(); }
+std::unique_ptr<MoviePlayer> GalleryHost::MakePlayer(MovieKind kind) {
+  return std::make_unique<StillPlayer>(kind);
+}
 
 PicturePtr GalleryHost::LoadPicture(const std::filesystem::path& file) {
   std::error_code error;

@@ -16,7 +16,7 @@ class GalleryHost : public HeadlessHost {
   PicturePtr LoadPicture(const std::filesystem::path& file) override;
   void AddFont(const std::filesystem::path& file) override { fonts_.Add(file); }
   void RemoveFont(const std::filesystem::path& file) override { fonts_.Remove(file); }
-  /// Plays nothing: nobody listens, and a voice would only be waited for.
+  /// Plays nothing; a film stands still, with one of its pictures.
   std::unique_ptr<MoviePlayer> MakePlayer(MovieKind kind) override;
 
   /// The form as it would be painted now; what its outline cuts off is transparent.

@@ -3,13 +3,6 @@
 #include <algorithm>
 
 namespace orvanta {
-namespace {
-
-// Buttons of the main window and of the cinema.
-constexpr std::int16_t kHelpButton = 3, kAboutButton = 7, kFilmButton = 9, kCinemaStop = 1;
-constexpr int kLabelHeight = 26, kShotHeight = 82;
-
-}  // namespace
 
 GalleryWalk::GalleryWalk(const std::filesystem::path& disc, std::filesystem::path folder,
                          const Progress& progress)
@@ -53,34 +46,6 @@ void GalleryWalk::Save(const Form& form) {
     throw ProgramEnd{};
   }
   entry.files.push_back(std::move(name));
-}
-
-void GalleryWalk::StartScreen() {
-  // As on a machine with sound, but without waiting for the voice.
-  shell_.modMain.Main();
-  if (const Form* screen = shell_.frmReklama.Loaded(); screen && screen->Visible) {
-    entries.push_back({"Start screen", "", {}, {}});
-    current_ = entries.size() - 1;
-    Save(*screen);
-  }
-  while (!shell_.MainForm.Loaded() || !shell_.MainForm->Visible) host_.RunFor(500);
-  host_.RunFor(100);
-}
-
-void GalleryWalk::Pages() {
-  Page(shell_.MainForm->imgPomoc, kHelpButton, "Help page");
-  Page(shell_.MainForm->imgSeven, kAboutButton, "About page");
-}
-
-void GalleryWalk::Page(Image& page, std::int16_t button, const char* title) {
-  MainForm& main = *shell_.MainForm;
-  main.ButtonM_Click(button);
-  if (!page.Visible) return;
-  entries.push_back({title, "", {}, {}});
-  current_ = entries.size() - 1;
-  Save(main);
-  Scroll(false, static_cast<int>(main.picTlo.Height()));
-  page.Click();
 }
 
 /// Depth first, with a stack of its own: a disc decides how deep it goes. Nothing is entered twice.
@@ -128,57 +93,10 @@ void GalleryWalk::Visit(std::size_t node) {
     Menu();
   } else {
     Shots();
+    Viewer();
   }
-  if (tree_.nodes[node].kind == NodeKind::Film && !std::exchange(cinemaSeen_, true)) Cinema();
+  if (tree_.nodes[node].kind == NodeKind::Film) Cinema();
   progress_(static_cast<std::uintmax_t>(std::ranges::count(visited_, true)), visited_.size());
-}
-
-void GalleryWalk::Menu() {
-  const MainForm& main = *shell_.MainForm;
-  const double strip = main.imgKreska.Visible ? main.imgKreska.Height() : 0;
-  Scroll(false, static_cast<int>(main.picTlo.Height - strip) - kLabelHeight);
-}
-
-void GalleryWalk::Shots() {
-  Scroll(true, static_cast<int>(shell_.MainForm->picShotTlo.Height()) - kShotHeight);
-}
-
-/// Drags the knob down, each time by as much as brings `view` further pixels of the content to sight.
-void GalleryWalk::Scroll(bool shots, int view) {
-  MainForm& main = *shell_.MainForm;
-  if (!(main.SuwakScale > 0)) return;
-  const auto drag = [&](std::int16_t direction, std::int32_t pixels) {
-    main.SuwakDir = direction;
-    shots ? main.MoveSSuwak(pixels) : main.MoveSuwak(pixels);
-    main.SuwakDir = -1;
-  };
-  constexpr std::int16_t kUp = 0, kDown = 1;
-  const double wanted = std::max(1.0, view / static_cast<double>(main.SuwakScale));
-  const auto step = static_cast<std::int32_t>(std::min(wanted, 1e9));
-  while (main.SuwakY < main.YMax) {
-    drag(kDown, step);
-    // A hand is never as sudden: a list that jumps to where the last one stood would not be moved.
-    drag(kUp, 1);
-    drag(kDown, 1);
-    Save(main);
-  }
-}
-
-/// The window comes to sight inside the click that opens it.
-void GalleryWalk::Cinema() {
-  std::string problem;
-  host_.After(3000, [&] {
-    frmKino* cinema = shell_.frmKino.Loaded();
-    if (!cinema) return;
-    try {
-      Save(*cinema);
-    } catch (const ProgramEnd&) {
-      problem = fault;
-    }
-    cinema->ButtonM_Click(kCinemaStop);
-  });
-  shell_.MainForm->ButtonM_Click(kFilmButton);
-  if (!problem.empty()) throw ProgramEnd{};
 }
 
 }  // namespace orvanta

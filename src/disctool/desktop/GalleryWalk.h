@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -26,11 +27,16 @@ class GalleryWalk {
   void StartScreen();
   void Pages();
   void Page(Image& page, std::int16_t button, const char* title);
+  void PointAt(const Image& button);
   void Tree();
   void Visit(std::size_t node);
   void Menu();
   void Shots();
+  void Viewer();
   void Cinema();
+  template <class Window, class Close>
+  void SaveModal(FormSlot<Window, Shell>& window, Milliseconds delay, const std::function<void()>& open,
+                 Close close);
   void Scroll(bool shots, int view);
   void Save(const Form& form);
   std::size_t EntryOf(std::size_t node) const { return root + node; }
@@ -43,7 +49,6 @@ class GalleryWalk {
   const MenuTree tree_;
   std::vector<bool> visited_;
   std::size_t current_ = 0;  // the entry that the next picture belongs to
-  bool cinemaSeen_ = false;
 };
 
 }  // namespace orvanta

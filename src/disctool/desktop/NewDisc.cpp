@@ -11,10 +11,9 @@
 #include <numbers>
 #include <system_error>
 
-#include "config/Windows1250.h"
 #include "disctool/GifFile.h"
 #include "disctool/MediaFile.h"
-#include "disctool/NewDiscTexts.h"
+#include "disctool/OutlineSvg.h"
 #include "disctool/desktop/NewDiscArt.h"
 
 namespace orvanta {
@@ -51,6 +50,7 @@ QList<QRgb> Palette(const QImage& picture) {
   for (int y = 0; y < picture.height(); ++y)
     for (int x = 0; x < picture.width(); ++x) ++counts[picture.pixel(x, y)];
   std::vector<std::pair<int, QRgb>> ranking;
+  ranking.reserve(counts.size());
   for (const auto& [colour, count] : counts) ranking.emplace_back(count, colour);
   std::ranges::sort(ranking, std::greater());
   QList<QRgb> palette;
@@ -119,16 +119,14 @@ std::string MakeNewDisc(const fs::path& folder) {
   if (error) return folder.string() + " cannot be made: " + error.message();
   if (!fs::is_empty(folder, error) || error) return folder.string() + " is not empty";
   Writer disc(folder);
-  disc.Put("Data/Param.ini", NewParamIni());
-  disc.Put("Data/Menu.ini", NewMenuIni());
+  for (const std::string name :
+       {"Data/Param.ini", "Data/Menu.ini", "Data/szyld.ttf", "Data/OFL.txt", "czytaj.txt"})
+    disc.Put(name, Resource((":/new/" + name).c_str()));
   for (const auto& [name, picture] : NewDiscArt()) disc.Put("Data/" + name + ".gif", Gif(picture));
-  for (const std::string name : {"szyld.ttf", "OFL.txt"})
-    disc.Put("Data/" + name, Resource((":/font/" + name).c_str()));
   disc.Put("Data/Sound/petla.wav", Chime({262, 330, 392, 523, 392, 330, 262, 196}));
   disc.Put("Data/Sound/start.wav", Chime({392, 523}));
   disc.Put("Data/Sound/koniec.wav", Chime({523, 392}));
   disc.Put("film.avi", Film());
-  disc.Put("czytaj.txt", *ToWindows1250("To jest nowa płyta. Zmień na niej, co chcesz.\r\n"));
   disc.Put("outline.svg", OutlineSvg());
   return disc.problem;
 }

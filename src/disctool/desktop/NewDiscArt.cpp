@@ -26,14 +26,15 @@ void Frame(QImage& image, const QRect& area, int width) {
   painter.drawRect(area.adjusted(width / 2, width / 2, -(width + 1) / 2, -(width + 1) / 2));
 }
 
-void Letter(QImage& image, const QRect& area, const QString& text, int size, const QColor& colour) {
+void Letter(QImage& image, const QRect& area, const QString& text, int size, const QColor& colour,
+            Qt::Alignment alignment = Qt::AlignCenter) {
   QPainter painter(&image);
   QFont font(QStringLiteral("Liberation Sans"));
   font.setPixelSize(size);
   font.setBold(true);
   painter.setFont(font);
   painter.setPen(colour);
-  painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, text);
+  painter.drawText(area, static_cast<int>(alignment) | Qt::TextWordWrap, text);
 }
 
 /// The main window: an edge along its outline, and frames around what lies in it.
@@ -51,11 +52,11 @@ QImage Main() {
   return image;
 }
 
-QImage Page(const QString& title, const QString& text) {
-  QImage image = Sheet(396, 520, kPaper, kPaper.darker(112));
+QImage Page(int height, const QString& title, const QString& text) {
+  QImage image = Sheet(396, height, kPaper, kPaper.darker(112));
   Frame(image, image.rect(), 4);
   Letter(image, {20, 20, 356, 40}, title, 24, kInk);
-  Letter(image, {30, 80, 336, 400}, text, 16, kInk);
+  Letter(image, {30, 80, 336, height - 100}, text, 16, kInk, Qt::AlignHCenter | Qt::AlignTop);
   return image;
 }
 
@@ -115,11 +116,14 @@ std::map<std::string, QImage> NewDiscArt() {
   art["slider"] = Sheet(24, 255, kDeep, kDeep.darker(150));
   art["knob"] = Sheet(24, 30, kEdge.lighter(130), kEdge);
   art["strip"] = Sheet(4, 4, kShell.lighter(120), kShell);
-  art["help"] =
-      Page(QStringLiteral("Pomoc"), QStringLiteral("Wybierz pozycję z menu.\n\nStrzałka w lewo wraca o jeden "
-                                                   "poziom, strzałka w górę do początku.\n\nKliknij stronę, "
-                                                   "aby ją zamknąć."));
-  art["about"] = Page(QStringLiteral("O płycie"), QStringLiteral("Tu wpisz, kto i kiedy zrobił tę płytę."));
+  // Taller than the menu area, to have something to scroll.
+  art["help"] = Page(520, QStringLiteral("Pomoc"),
+                     QStringLiteral("Wybierz pozycję z menu.\n\nStrzałka w lewo wraca o jeden "
+                                    "poziom, strzałka w górę do początku.\n\nKliknij stronę, "
+                                    "aby ją zamknąć."));
+  Letter(art["help"], {30, 450, 336, 30}, QStringLiteral("Ta strona jest wyższa niż okno."), 16, kInk);
+  art["about"] =
+      Page(306, QStringLiteral("O płycie"), QStringLiteral("Tu wpisz, kto i kiedy zrobił tę płytę."));
   art["start"] = Scene(640, 450, QStringLiteral("Nowa płyta"));
   art["under"] = Sheet(640, 30, kEdge.lighter(120), kEdge);
   art["cinema"] = Scene(560, 420, {});

@@ -9,4 +9,12 @@ namespace orvanta {
 /// why it could not be run, empty if it could.
 std::string RunShell(const std::filesystem::path& disc, int& argc, char** argv);
 
+/// Whether somebody reads what is written to the standard error: a terminal or another program. Who opens a
+/// disc from a file manager does not.
+bool ErrorsAreRead();
+
+/// Opens a folder or an image for such a user: a window shows how an image is unpacked, if that takes its
+/// time, and another one why a disc could not be opened. Gives that too, empty if it could.
+std::string OpenInWindows(const std::filesystem::path& disc, int& argc, char** argv);
+
 }  // namespace orvanta

@@ -10,6 +10,7 @@
 
 #include "platform/desktop/DesktopWindow.h"
 #include "platform/desktop/GstPlayer.h"
+#include "platform/desktop/ProgramIcon.h"
 #include "platform/desktop/QtPicture.h"
 #include "platform/desktop/SoundCard.h"
 #include "platform/desktop/XWindow.h"
@@ -41,6 +42,7 @@ DesktopHost::DesktopHost(int& argc, char** argv, std::filesystem::path discFolde
       discFolder_(std::move(discFolder)),
       instance_(InstanceLock::Acquire(InstancePlaceFromEnvironment())) {
   application_.setQuitOnLastWindowClosed(false);
+  QApplication::setWindowIcon(ProgramIcon());
   clock_.start();
 }
 
