@@ -1,6 +1,5 @@
 #include "disctool/desktop/FilmStill.h"
 
-#include <QObject>
 #include <algorithm>
 
 #include "platform/desktop/GstFilmSink.h"
@@ -36,8 +35,8 @@ PicturePtr FilmStill(const std::filesystem::path& film) {
   if (!gst_is_initialized() && !gst_init_check(nullptr, nullptr, nullptr)) return nullptr;
   const std::string uri = FindMediaSource(film).uri;
   const GstHandle<GstElement> playbin = MakeElement("playbin");
-  QObject receiver;
-  const auto frames = std::make_shared<FrameBox>(receiver, [] {});
+  FrameBell unheard{[] {}};
+  const auto frames = std::make_shared<FrameBox>(unheard);
   const GstHandle<GstElement> sink = MakeFilmSink(frames), silence = MakeElement("fakesink");
   if (uri.empty() || !playbin || !sink || !silence) return nullptr;
   g_object_set(playbin.get(), "uri", uri.c_str(), "flags", kPlayVideo, "video-sink", sink.get(), "audio-sink",

@@ -1,16 +1,25 @@
 #include "platform/desktop/FrameBox.h"
 
-#include <QMetaObject>
+#include <QCoreApplication>
+#include <QEvent>
 
 namespace orvanta {
+
+void FrameBell::Ring() {
+  // The event belongs to Qt from here on, which forgets it if the bell goes first.
+  QCoreApplication::postEvent(this, std::make_unique<QEvent>(QEvent::User).release());
+}
+
+bool FrameBell::event(QEvent* event) {
+  if (event->type() != QEvent::User) return QObject::event(event);
+  rung_();
+  return true;
+}
 
 void FrameBox::Put(PicturePtr picture) {
   const std::scoped_lock lock(mutex_);
   newest_.swap(picture);
-  if (announced_ || !receiver_) return;
-  announced_ = true;
-  QMetaObject::invokeMethod(
-      receiver_, [self = shared_from_this()] { self->Announce(); }, Qt::QueuedConnection);
+  if (!std::exchange(news_, true) && bell_) bell_->Ring();
 }
 
 PicturePtr FrameBox::Newest() const {
@@ -18,18 +27,14 @@ PicturePtr FrameBox::Newest() const {
   return newest_;
 }
 
-void FrameBox::Close() {
+bool FrameBox::TakeNews() {
   const std::scoped_lock lock(mutex_);
-  receiver_ = nullptr;
+  return std::exchange(news_, false);
 }
 
-void FrameBox::Announce() {
-  {
-    const std::scoped_lock lock(mutex_);
-    announced_ = false;
-    if (!receiver_) return;
-  }
-  onFrame_();  // unlocked: it fetches the picture
+void FrameBox::Close() {
+  const std::scoped_lock lock(mutex_);
+  bell_ = nullptr;
 }
 
 }  // namespace orvanta

@@ -4,33 +4,44 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <utility>
 
 #include "platform/Picture.h"
 
 namespace orvanta {
 
-/// Hands the newest picture of a film from the thread that decodes it to the program's thread. Pictures that
-/// the program has not fetched are replaced, and it is called once for all that came since it last looked.
-class FrameBox : public std::enable_shared_from_this<FrameBox> {
+/// Calls `rung` on its own thread, out of the event loop, for every `Ring` of any thread.
+class FrameBell : public QObject {
  public:
-  /// `OnFrame` is called on the thread of `receiver`, out of its event loop.
-  FrameBox(QObject& receiver, std::function<void()> onFrame)
-      : receiver_(&receiver), onFrame_(std::move(onFrame)) {}
+  explicit FrameBell(std::function<void()> rung) : rung_(std::move(rung)) {}
+  void Ring();
+
+ protected:
+  bool event(QEvent* event) override;
+
+ private:
+  std::function<void()> rung_;
+};
+
+/// Hands the newest picture of a film from the thread that decodes it to the program's thread. Pictures that
+/// the program has not fetched are replaced, and the bell rings once for all that came since it last looked.
+class FrameBox {
+ public:
+  explicit FrameBox(FrameBell& bell) : bell_(&bell) {}
 
   /// Any thread.
   void Put(PicturePtr picture);
   PicturePtr Newest() const;
-  /// Nobody is called any more. On the receiver's thread, before the receiver goes.
+  /// True if a picture has come in since the last call.
+  bool TakeNews();
+  /// The bell is left alone from now on. To be called before it goes.
   void Close();
 
  private:
-  void Announce();
-
   mutable std::mutex mutex_;
-  QObject* receiver_;
-  std::function<void()> onFrame_;
+  FrameBell* bell_;
   PicturePtr newest_;
-  bool announced_ = false;
+  bool news_ = false;
 };
 
 using FrameBoxPtr = std::shared_ptr<FrameBox>;

@@ -1,6 +1,5 @@
 #include "platform/desktop/GstPlayer.h"
 
-#include <QObject>
 #include <algorithm>
 #include <chrono>
 #include <utility>
@@ -37,9 +36,10 @@ class GstPlayer : public MoviePlayer {
   void Begin();
   void Close();
   bool Opened() const;
+  void Announce();
 
   const MovieKind kind_;
-  QObject receiver_;
+  FrameBell bell_{[this] { Announce(); }};
   GstPlayback::Settings settings_;
   std::filesystem::path file_;
   std::chrono::steady_clock::time_point begun_;
@@ -55,9 +55,7 @@ void GstPlayer::Open(const std::filesystem::path& file) {
 
 void GstPlayer::Begin() {
   Close();
-  frames_ = std::make_shared<FrameBox>(receiver_, [this] {
-    if (OnFrame) OnFrame();
-  });
+  frames_ = std::make_shared<FrameBox>(bell_);
   playback_ = std::make_unique<GstPlayback>(kind_, file_, settings_, frames_);
   begun_ = std::chrono::steady_clock::now();
 }
@@ -75,6 +73,10 @@ void GstPlayer::Close() {
   hadFile_ = hadFile_ || (playback_ && playback_->Loaded());
   if (frames_) frames_->Close();
   playback_.reset();
+}
+
+void GstPlayer::Announce() {
+  if (frames_ && frames_->TakeNews() && OnFrame) OnFrame();
 }
 
 void GstPlayer::Run() {
