@@ -87,7 +87,7 @@ class EntryStory : public ShellOnScreen {
     EXPECT_TRUE(Shows(button, kOver)) << button;
   }
   void ExpectScrolledAndOpened() const;
-  void Walk() const;
+  void Walk();
 };
 
 void EntryStory::ExpectScrolledAndOpened() const {
@@ -126,7 +126,8 @@ void EntryStory::ExpectScrolledAndOpened() const {
 // that the next one shines through; a sensitive area that is off by a pixel, a look that is not painted
 // before the program blocks; pictures that do not move with the knob, a viewer that scales, hides or closes
 // by its caption.
-void EntryStory::Walk() const {
+void EntryStory::Walk() {
+  Start();
   for (const int button : {kExit, kMute, kHelp, kAbout, kMinimise}) ExpectSensitive(button);
   for (const int button : {kMute, kUnmute}) {
     ExpectSensitive(button);
@@ -158,15 +159,9 @@ void EntryStory::Walk() const {
   ExpectSensitive(kShow);
 }
 
-TEST_F(EntryStory, EachKindIsSeenAndTouched) {
-  Start();
-  Walk();
-}
+TEST_F(EntryStory, EachKindIsSeenAndTouched) { Walk(); }
 
-TEST_F(EntryStory, EachKindIsSeenAndTouchedOn640x480) {
-  Start();
-  Walk();
-}
+TEST_F(EntryStory, EachKindIsSeenAndTouchedOn640x480) { Walk(); }
 
 // Faults: an hourglass that burns the processor, stays for ever or is gone before the started program's
 // window is there; a failure that nobody is told of.

@@ -1,7 +1,7 @@
 #include "desktop/Hearing.h"
 
 #include <QByteArray>
-#include <cstring>
+#include <algorithm>
 #include <numbers>
 #include <span>
 #include <stdexcept>
@@ -64,8 +64,8 @@ double Recording::Now() const {
 }
 
 std::vector<std::int16_t> Recording::Samples(double from) const {
-  const auto first = std::lround(from * kRate);
-  std::vector<std::int16_t> samples(static_cast<std::size_t>(std::lround(Now() * kRate) - first));
+  const long end = std::lround(Now() * kRate), first = std::clamp(std::lround(from * kRate), 0L, end);
+  std::vector<std::int16_t> samples(static_cast<std::size_t>(end - first));
   if (pread(recorder_.Output(), samples.data(), 2 * samples.size(), 2 * first) < 0) return {};
   return samples;
 }
