@@ -1,60 +1,68 @@
 #pragma once
 
-#include <memory>
-#include <string>
-#include <vector>
+#include <algorithm>
+#include <numeric>
 
+#include "desktop/Hearing.h"
 #include "desktop/MediaFiles.h"
-#include "desktop/PulseServer.h"
-#include "desktop/Recording.h"
 #include "desktop/ShellOnScreen.h"
 
 namespace orvanta::test {
 
-/// Tones of half a second each, every one 200 hertz above the one before: its place can be told by ear.
-struct Tune {
-  int first;
-  int tones;
-
-  MediaFiles::Tones Tones() const;
-  double Length() const { return 0.5 * tones; }
-};
-
-/// A stretch of a tune without a gap: when it was heard, and the places in the tune where it began and ended.
-struct Passage {
-  double from, to;
-  double begin, end;
-};
-
-/// The program on a display and a sound server of its own, of which every sound is recorded.
+/// The program on a display and a sound server of its own, of which every sound is recorded. Its disc has an
+/// entry of each kind.
 class HeardShell : public ShellOnScreen {
  protected:
-  HeardShell();
+  static constexpr double kSilence = 0.005, kLoud = 0.2;
+  enum Line { kProgram, kSong, kFilm };
 
-  /// Writes a file below Data/Sound.
-  void Sound(const std::string& name, const MediaFiles::Tones& tones) const;
-  /// The passages of a tune, those under 60 ms left out.
-  std::vector<Passage> Heard(const Tune& tune) const;
-  /// Waits until something is heard, or nothing for a quarter of a second; five seconds at most.
-  bool FallsSilent() const;
-  bool BecomesLoud() const;
-  bool StaysSilent(double seconds) const;
-  static void Wait(double seconds);
-
-  /// Whether a button of the bar comes to a look: 0 normal, 1 over, 2 pressed.
-  bool Shows(int button, int look) const;
-  void ClickButton(int index) const { ClickMain(MiddleOf(ButtonBox(index))); }
+  HeardShell() {
+    disc_.Menu("MAINMENU", {"Gra", "Piosenka", "Film"});
+    disc_.Entry("Gra", {{"Execute", "%:\\gra.exe"}});
+    disc_.Entry("Piosenka", {{"PlayAs", "Music"}, {"Parameters", "%:\\Data\\Sound\\song.wav"}});
+    disc_.Entry("Film", {{"PlayAs", "AVI"}, {"Parameters", "%:\\film.mpg"}});
+  }
+  /// Writes a file below Data/Sound, which is also a voice if a key is given.
+  void Sound(const std::string& name, const MediaFiles::Tones& tones, const std::string& voice = "") {
+    disc_.File("Data/Sound/" + name, ContentOf(files_.Sound(name, tones)));
+    if (!voice.empty()) disc_.Set("VOICES", voice, name);
+  }
+  /// Waits until something is heard, or nothing for a quarter of a second.
+  bool FallsSilent() const {
+    return Soon([&] { return ears_->Peak(ears_->Now() - 0.25) < kSilence; });
+  }
+  bool BecomesLoud() const {
+    const double now = ears_->Now();
+    return Soon([&] { return ears_->Peak(std::max(now, ears_->Now() - 0.1)) > kLoud; });
+  }
+  bool StaysSilent(double seconds) const {
+    const double from = ears_->Now();
+    Wait(seconds);
+    return ears_->Peak(from) < kSilence;
+  }
+  /// Expects that since then tones of half a second each were heard from the first on, with nothing twice and
+  /// nothing left out, whatever the interruptions; gives for how long.
+  double HeardInTurn(const MediaFiles::Tones& tones, double since) const {
+    std::vector<double> each;
+    for (const int tone : tones) each.push_back(ears_->Seconds(tone, since));
+    while (!each.empty() && each.back() < 0.06)
+      each.pop_back();  // less may be a click where another tone ends
+    const double sum = std::accumulate(each.begin(), each.end(), 0.0);
+    if (!each.empty()) each.pop_back();  // heard in part
+    for (const double seconds : each) EXPECT_NEAR(seconds, 0.5, 0.15) << "not from the same place";
+    return sum;
+  }
+  static void Wait(double seconds) { std::this_thread::sleep_for(std::chrono::duration<double>(seconds)); }
   /// Opens an entry of the first list, and waits for a button of its view.
-  void OpenEntry(int line, int button, int look) const;
-  /// Goes back to the list by the click zone above it.
-  void GoBack() const;
-
-  /// Moves the mouse where it touches nothing.
-  void MoveAside() const;
+  void OpenEntry(int line, int button, int look) const {
+    Choose(line);
+    PointAside();
+    EXPECT_TRUE(Shows(button, look)) << "the view of line " << line << " does not open";
+  }
 
   PulseServer server_;
   MediaFiles files_;
-  std::unique_ptr<Recording> ears_ = std::make_unique<Recording>();
+  std::optional<Recording> ears_{std::in_place};
 };
 
 }  // namespace orvanta::test

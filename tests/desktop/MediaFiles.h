@@ -1,43 +1,53 @@
 #pragma once
 
-#include <filesystem>
-#include <string>
+#include <cmath>
+#include <cstdlib>
+#include <numbers>
 #include <vector>
 
-#include "desktop/ScratchFolder.h"
+#include "support/TemporaryFolder.h"
 
-namespace orvanta {
+namespace orvanta::test {
 
-/// Makes files of sound and film. All sounds are pure tones, one after the other, half a second each.
+/// Makes files of sound and film by ffmpeg, with options for its output. All sounds are pure tones, one after
+/// the other, half a second each. A path is empty if this ffmpeg cannot make the file.
 class MediaFiles {
  public:
-  using Tones = std::vector<int>;
-  struct WaveForm {
-    int rate = 44100;
-    int bits = 16;
-    int channels = 1;
-    std::string after = {};  ///< bytes that follow the sound's chunk
-  };
+  using Path = std::filesystem::path;
+  using Tones = std::vector<int>;  ///< hertz
 
-  std::filesystem::path Wave(const std::string& name, const Tones& tones, const WaveForm& form) const;
-  std::filesystem::path Wave(const std::string& name, const Tones& tones) const {
-    return Wave(name, tones, {});
+  Path Sound(const std::string& name, const Tones& tones, const std::string& options = "-bitexact") const {
+    return Made(name, Waves(tones) + options);
   }
-  /// A4 in the piano's voice, for half a second each time.
-  std::filesystem::path Midi(const std::string& name, int notes) const;
-  /// Made by ffmpeg with these options for its output; empty if it cannot.
-  std::filesystem::path Encoded(const std::string& name, const std::string& options,
-                                const Tones& tones) const;
-  /// The same with pictures of 160 by 120, 25 a second, that carry their number (see `FrameNumber`).
-  std::filesystem::path Film(const std::string& name, const std::string& options, const Tones& tones) const;
+  /// With pictures of 160 by 120, 25 a second, that carry their number: eight upright bars, the lowest bit on
+  /// the left; a bit is white.
+  Path Film(const std::string& name, const Tones& tones, const std::string& options) const {
+    return Made(name, Waves(tones) + "-f lavfi -i \"nullsrc=s=160x120:r=25:d=" +
+                          std::to_string(0.5 * static_cast<double>(tones.size())) +
+                          ",geq=lum='if(mod(floor(N/pow(2,floor(X/20))),2),224,32)':cb=128:cr=128\" " +
+                          options);
+  }
+  Path Made(const std::string& name, const std::string& command) const {
+    const Path made = folder.Path() / name;
+    const std::string line = "ffmpeg -v quiet -nostdin -y " + command + " '" + made.string() + "'";
+    return std::system(line.c_str()) == 0 ? made : Path();
+  }
 
-  ScratchFolder folder;
+  TemporaryFolder folder;
+
+ private:
+  std::string Waves(const Tones& tones) const {
+    constexpr int kRate = 44100;
+    constexpr double kLoudness = 0.5;
+    std::string bytes;
+    for (const int hertz : tones)
+      for (int i = 0; i < kRate / 2; ++i) {
+        const double wave = kLoudness * std::sin(2 * std::numbers::pi * hertz * i / kRate);
+        const long sample = std::lround(32767 * wave);
+        bytes += {static_cast<char>(sample & 0xFF), static_cast<char>(sample >> 8)};
+      }
+    return "-f s16le -ar 44100 -ac 1 -i '" + folder.File("tones", bytes).string() + "' ";
+  }
 };
 
-/// Hertz of that note.
-constexpr int kA4 = 440;
-
-/// Eight upright bars, the lowest bit on the left; a bit is white.
-constexpr int kFrameBars = 8;
-
-}  // namespace orvanta
+}  // namespace orvanta::test

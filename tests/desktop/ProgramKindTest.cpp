@@ -1,81 +1,88 @@
+// What kind of program a file is, and how texts become the arguments of one.
+
 #include <fcntl.h>
 #include <gtest/gtest.h>
 
-#include "desktop/ProgramImages.h"
-#include "desktop/ScratchFolder.h"
+#include <map>
+
+#include "desktop/Processes.h"
+#include "platform/desktop/CommandLine.h"
+#include "platform/desktop/DesktopExec.h"
 #include "platform/desktop/ProgramKind.h"
 
-namespace orvanta {
-namespace {
+namespace orvanta::test {
 
-class Kinds : public testing::Test {
- protected:
-  ProgramKind kind(const std::string& name, const std::string& content, bool executable = false) const {
-    const auto path = scratch.file(name, content);
-    return KindOfProgram(Descriptor(open(path.c_str(), O_RDONLY | O_CLOEXEC)), path, executable);
-  }
+using Words = std::vector<std::string>;
+using enum ProgramKind;
 
+// Writes a number of two or four bytes into `image`, lowest byte first.
+static std::string With(std::string image, std::size_t at, std::uint32_t value, std::size_t bytes = 2) {
+  std::string number;
+  for (; number.size() < bytes; value >>= 8) number += static_cast<char>(value & 0xFF);
+  return image.replace(at, bytes, number);
+}
+
+TEST(ProgramKind, IsToldByContentBeforeNameAndByTheBitOnlyForNativeOnes) {
+  // 200 bytes on one page, with a header of 32.
+  const std::string dos =
+      With(With(With(With("MZ" + std::string(198, '\0'), 2, 200), 4, 1), 8, 2), 0x18, 0x1C);
+  const std::string full = With(dos + std::string(312, '\0'), 2, 0);
+  const std::string stub = With(With(With(dos.substr(0, 0x80), 2, 0x80), 0x18, 0x40), 0x3C, 0x80, 4);
+  const auto behind = [&](const std::string& mark) { return stub + mark + std::string(200, '\0'); };
+  const std::string windows = behind({"PE\0\0", 4});
+  // PKLITE and its like write a notice over the bytes where the place of a new header would stand.
+  const std::string packed =
+      With(dos, 0x18, 0x52).replace(0x1E, 40, "PKLITE Copr. 1990-91 PKWARE Inc. All Rig");
+  const std::map<ProgramKind, Words> programs{
+      {Windows, {windows, behind("NE")}},
+      {Dos, {behind("LE"), dos, full, packed, dos + "data behind the image"}},
+      {Broken,
+       {"", "MZ", "only its name", dos.substr(0, 199), windows.substr(0, 0x80 + 23), behind("??"),
+        With(dos, 8, 0), "MZ" + std::string(500, '\0'), "MZ" + std::string(5000, '\xff')}}};
   const ScratchFolder scratch;
-};
-
-TEST_F(Kinds, NativeProgramsNeedTheirMarkAndTheBit) {
-  EXPECT_EQ(kind("game",
-                 "\x7f"
-                 "ELF...",
-                 true),
-            ProgramKind::Native);
-  EXPECT_EQ(kind("game",
-                 "\x7f"
-                 "ELF...",
-                 false),
-            ProgramKind::Document);
-  EXPECT_EQ(kind("setup.bat", "#!/bin/sh\n", true), ProgramKind::Native);
-  EXPECT_EQ(kind("script", "#!/bin/sh\n", false), ProgramKind::Document);
-  // Discs' file systems often give the bit to every file.
-  EXPECT_EQ(kind("readme.txt", "Witaj!", true), ProgramKind::Document);
-  EXPECT_EQ(kind("setup.exe", WindowsProgram(), true), ProgramKind::Windows);
-  EXPECT_EQ(kind("empty.txt", "", true), ProgramKind::Document);
+  const auto kind = [&](const std::string& name, const std::string& content, bool executable) {
+    const auto file = scratch.File(name, content);
+    return KindOfProgram(Descriptor(open(file.c_str(), O_RDONLY | O_CLOEXEC)), file, executable);
+  };
+  for (const auto& [expected, contents] : programs)
+    for (const std::string& content : contents)
+      EXPECT_EQ(kind("a.exe", content, true), expected)
+          << content.size() << " bytes: " << content.substr(0, 20);
+  for (const std::string native : {"\x7f\x45LF...", "#!/bin/sh\n"}) {
+    EXPECT_EQ(kind("setup.bat", native, true), Native);
+    EXPECT_EQ(kind("setup", native, false), Document);
+  }
+  for (const auto& [name, expected] : {std::pair{"GRA.COM", Dos},
+                                       {"Start.Bat", WindowsFile},
+                                       {"setup.msi", WindowsFile},
+                                       {"com", Document},
+                                       {"readme.txt", Document},
+                                       {"a.exe", Broken}})
+    EXPECT_EQ(kind(name, "@echo off", true), expected) << name;
 }
 
-TEST_F(Kinds, WindowsAndDosProgramsAreToldByTheirHeaders) {
-  EXPECT_EQ(kind("a.scr", WindowsProgram()), ProgramKind::Windows);
-  EXPECT_EQ(kind("a.exe", ProgramBehindStub("NE")), ProgramKind::Windows);
-  EXPECT_EQ(kind("a.exe", ProgramBehindStub("LE")), ProgramKind::Dos);
-  EXPECT_EQ(kind("a.exe", DosProgram()), ProgramKind::Dos);
-  EXPECT_EQ(kind("a.exe", DosProgram(512)), ProgramKind::Dos) << "a last page that is full counts as 0 bytes";
-  EXPECT_EQ(kind("a.exe", DosProgram() + "data behind the image"), ProgramKind::Dos);
-  EXPECT_EQ(kind("a.com", WindowsProgram()), ProgramKind::Windows);
+// Paths with backslashes at their end are where splitters go wrong.
+TEST(CommandLine, IsSplitAsWindowsDoes) {
+  for (const auto& [line, words] : std::vector<std::pair<std::string, Words>>{
+           {" \t ", {}},
+           {"  /s\t/demo  a\nb", {"/s", "/demo", "a\nb"}},
+           {R"("D:\Gry i zabawy" pre"in side"post "" "zażółć)",
+            {R"(D:\Gry i zabawy)", "prein sidepost", "", "zażółć"}},
+           {R"(D:\a\\b\ c)", {R"(D:\a\\b\)", "c"}},
+           {R"("ab\"c" "\\" d)", {R"(ab"c)", R"(\)", "d"}},
+           {R"(a\\\b d"e f"g h)", {R"(a\\\b)", "de fg", "h"}},
+           {R"(a\\\"b a\\\\"b c" d)", {R"(a\"b)", R"(a\\b c)", "d"}},
+           {R"("D:\gry\" /x)", {R"(D:\gry" /x)"}},
+           {R"("a""b c" """quoted""" a""b)", {R"(a"b c)", R"("quoted")", "ab"}}})
+    EXPECT_EQ(SplitArguments(line), words) << line;
 }
 
-TEST_F(Kinds, NamesDecideWhereTheContentHasNoMark) {
-  EXPECT_EQ(kind("GRA.COM", "\xe9 code"), ProgramKind::Dos);
-  EXPECT_EQ(kind("Start.Bat", "@echo off"), ProgramKind::WindowsFile);
-  EXPECT_EQ(kind("setup.msi", "\xd0\xcf\x11\xe0"), ProgramKind::WindowsFile);
-  EXPECT_EQ(kind("com", "text"), ProgramKind::Document);
+TEST(DesktopExec, CodesBecomeWhatTheyStandFor) {
+  const ExecFields all{.path = "/a b", .uri = "file:///a", .icon = "ikona", .name = "Gra", .entry = "/gra"};
+  EXPECT_EQ(ExpandExec({"app", "%f", "--url=%U", "%c", "%k", "%i"}, all),
+            (Words{"app", "/a b", "--url=file:///a", "Gra", "/gra", "--icon", "ikona"}));
+  EXPECT_EQ(ExpandExec({"app", "100%%f", "%"}, all), (Words{"app", "100%f", "/a b"})) << "asks for no file";
+  EXPECT_EQ(ExpandExec({"app", "%i", "%d", "", "%F"}, {"/a", "", "", "", ""}), (Words{"app", "", "/a"}));
 }
 
-TEST_F(Kinds, ProgramsCutShortOrWithoutAHeaderAreBroken) {
-  EXPECT_EQ(kind("a.exe", ""), ProgramKind::Broken);
-  EXPECT_EQ(kind("a.exe", "MZ"), ProgramKind::Broken);
-  EXPECT_EQ(kind("a.exe", "no program at all, only its name"), ProgramKind::Broken);
-  EXPECT_EQ(kind("a.com", ""), ProgramKind::Broken);
-  EXPECT_EQ(kind("a", "MZ" + std::string(500, '\0')), ProgramKind::Broken);
-  EXPECT_EQ(kind("a", "MZ" + std::string(5000, '\xff')), ProgramKind::Broken);
-  EXPECT_EQ(kind("a.exe", DosProgram().substr(0, 199)), ProgramKind::Broken);
-  EXPECT_EQ(kind("a.exe", WindowsProgram().substr(0, 0x80 + 23)), ProgramKind::Broken);
-  EXPECT_EQ(kind("a.exe", ProgramBehindStub("??")), ProgramKind::Broken);
-  std::string headless = DosProgram();
-  Put(headless, 8, 0, 2);
-  EXPECT_EQ(kind("a.exe", headless), ProgramKind::Broken);
-}
-
-// PKLITE and its like write a notice over the bytes where the place of a new header would stand.
-TEST_F(Kinds, APackedDosProgramIsNotBroken) {
-  std::string packed = DosProgram();
-  packed.replace(0x1E, 40, "PKLITE Copr. 1990-91 PKWARE Inc. All Rig");
-  Put(packed, 0x18, 0x52, 2);
-  EXPECT_EQ(kind("a.exe", packed), ProgramKind::Dos);
-}
-
-}  // namespace
-}  // namespace orvanta
+}  // namespace orvanta::test

@@ -16,39 +16,36 @@ using Rgb = std::uint32_t;
 using WindowId = std::uint32_t;
 
 /// A part of the screen, or what it is expected to look like. Pixels count from its own corner.
-class Look {
- public:
+struct Look {
   /// Of an expected pixel: any colour will do.
   static constexpr Rgb kAnything = 0xFF000000;
 
-  Look(int width, int height, Rgb colour = 0);
-  int width, height;
-  std::vector<Rgb> pixels;
-
-  Rgb At(int x, int y) const { return pixels[static_cast<std::size_t>(y * width + x)]; }
+  explicit Look(const Size& itsSize, Rgb colour = 0);
+  Rgb At(int x, int y) const { return pixels[static_cast<std::size_t>(y * size.width + x)]; }
   void Fill(const Rect& area, Rgb colour);
   /// The edge of an area, one pixel thick.
   void Frame(const Rect& area, Rgb colour);
-  /// How many pixels of an area have a colour.
-  int Count(const Rect& area, Rgb colour) const;
+  /// How many pixels have a colour.
+  int Count(Rgb colour) const;
+
+  Size size;
+  std::vector<Rgb> pixels;
 };
 
 /// Where and how a look is not as expected; empty if it is.
 std::string Difference(const Look& expected, const Look& seen);
 
+/// Pictures of pointers differ if their pixels or their hot spots do.
 struct CursorLook {
-  int width = 0, height = 0;
   Point hotSpot;
-  std::vector<std::uint32_t> argb;  ///< premultiplied
+  std::vector<std::uint32_t> pixels;
+  bool operator==(const CursorLook&) const = default;
 };
 
 /// The display that the test runs on: what a user sees there, and his hand on the mouse.
 class Screen {
  public:
   Screen();
-  ~Screen();
-  Screen(const Screen&) = delete;
-  Screen& operator=(const Screen&) = delete;
 
   Size Extent() const;
   Look See(const Rect& area) const;
@@ -56,19 +53,18 @@ class Screen {
   CursorLook Cursor() const;
 
   /// The windows that the window manager knows, from the bottom to the top.
-  std::vector<WindowId> Windows() const;
+  std::vector<WindowId> Windows() const { return Numbers(root_, "_NET_CLIENT_LIST_STACKING"); }
+  WindowId Active() const { return Number(root_, "_NET_ACTIVE_WINDOW"); }
   Rect PlaceOf(WindowId window) const;
-  std::string TitleOf(WindowId window) const;
+  std::string TitleOf(WindowId window) const { return Bytes(window, "_NET_WM_NAME"); }
   bool HasState(WindowId window, const std::string& state) const;
-  bool IsMapped(WindowId window) const;
-  WindowId Active() const;
-  WindowId OwnerOf(WindowId window) const;
-  int PidOf(WindowId window) const;
+  /// A property that is a number; 0 if the window has none of this name.
+  std::uint32_t Number(WindowId window, const std::string& property) const;
 
   void MoveMouse(Point place) const;
-  void Press(int button = 1) const;
-  void Release(int button = 1) const;
-  void Click(Point place, int button = 1) const;
+  void Press() const;
+  void Release() const;
+  void Click(Point place) const;
   /// Presses at one place and releases at another, at a hand's pace.
   void Drag(Point from, Point to) const;
   void Rest() const;  ///< long enough for a tick of the program
@@ -78,27 +74,35 @@ class Screen {
   /// What the window manager's close button does.
   void Close(WindowId window) const;
 
-  /// Counts from now on how often anything is drawn into a window. A second call begins anew.
+  /// Counts from now on how often anything is drawn into a window.
   void WatchDrawing(WindowId window);
   int DrawingSeen();
+  void WatchAppearances() const;
   /// Waits for the next window that appears on the screen, ten seconds at most; gives whether one did.
   bool AwaitAppearance() const;
-  void WatchAppearances() const;
-
-  xcb_connection_t* Connection() const { return connection_.get(); }
-  WindowId Root() const { return root_; }
-  std::uint32_t Atom(const std::string& name) const;
 
  private:
-  struct Disconnect {
-    void operator()(xcb_connection_t* connection) const;
-  };
+  friend class OtherWindow;
+  std::uint32_t Atom(const std::string& name) const;
+  std::string Bytes(WindowId window, const std::string& property) const;
   std::vector<std::uint32_t> Numbers(WindowId window, const std::string& property) const;
   void Tell(WindowId window, const std::string& message, std::uint32_t first, std::uint32_t second) const;
-  void Fake(std::uint8_t type, std::uint8_t detail, Point place = {}) const;
+  void Fake(int type, int detail, Point place = {}) const;
 
-  std::unique_ptr<xcb_connection_t, Disconnect> connection_;
+  std::shared_ptr<xcb_connection_t> connection_;
   WindowId root_ = 0;
+};
+
+/// A window of another program, in one colour and without a frame.
+class OtherWindow {
+ public:
+  /// Waits until it is active.
+  OtherWindow(const Rect& place, Rgb colour);
+  WindowId Id() const { return window_; }
+
+ private:
+  Screen screen_;  // a connection of its own, as another program has
+  WindowId window_ = 0;
 };
 
 }  // namespace orvanta::test
