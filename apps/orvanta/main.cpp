@@ -1,5 +1,7 @@
 #include <filesystem>
+#include <fstream>
 #include <string>
+#include <system_error>
 
 #include "config/DiscDrive.h"
 #include "platform/desktop/DesktopHost.h"
@@ -11,7 +13,12 @@ namespace {
 /// What a user is told who starts the program where there is no disc; empty if there is one.
 std::string MissingDisc(const std::filesystem::path& folder) {
   const orvanta::DiscDrive drive(folder);
-  if (drive.Find("D:\\Data\\Menu.ini") || drive.Find("D:\\Data\\Param.ini")) return {};
+  const auto readable = [&drive](const char* name) {
+    const std::filesystem::path file = drive.Find(name).path;
+    std::error_code error;
+    return std::filesystem::is_regular_file(file, error) && std::ifstream(file).good();
+  };
+  if (readable("D:\\Data\\Menu.ini") || readable("D:\\Data\\Param.ini")) return {};
   return "W folderze\r\n" + folder.string() +
          "\r\nnie ma płyty: nie znaleziono w nim folderu Data z plikiem Menu.ini albo Param.ini.\r\n\r\n"
          "Umieść program (albo dowiązanie do niego) w folderze płyty, obok folderu Data, i uruchom go tam.";

@@ -21,9 +21,11 @@ constexpr std::size_t kLongestPath = 32767;
 
 bool IsSeparator(char c) { return c == '\\' || c == '/'; }
 
+/// What lies in a folder that may not be searched counts as there: who opens it is told why it cannot be
+/// read.
 bool Exists(const fs::path& path) {
   std::error_code error;
-  return fs::exists(path, error);
+  return fs::exists(path, error) || error == std::errc::permission_denied;
 }
 
 bool IsFolder(const fs::path& path) {

@@ -47,7 +47,8 @@ class ActiveMovie : public BoxControl {
 
   PicturePtr Frame() const { return player_->Frame(); }
 
-  Control* Hit(Point) override { return nullptr; }
+  /// A film lies above what it covers for the mouse as well, and takes no notice of it.
+  Control* Hit(Point p) override { return Frame() ? BoxControl::Hit(p) : nullptr; }
   void Paint(Canvas& canvas, Point origin, const Rect& area) const override;
 
  private:

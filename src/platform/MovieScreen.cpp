@@ -1,6 +1,7 @@
 #include "platform/MovieScreen.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "platform/ActiveMovie.h"
 #include "platform/Host.h"
@@ -9,12 +10,13 @@ namespace orvanta {
 
 namespace {
 
-/// `inner` as large as it fits into `outer` at its own proportions, in the middle.
+/// `inner`, which is not empty, as large as it fits into `outer` at its own proportions, in the middle.
 Rect Fitted(Size inner, const Rect& outer) {
-  const double scale = std::min(static_cast<double>(outer.width) / inner.width,
-                                static_cast<double>(outer.height) / inner.height);
-  const int width = std::max(1, static_cast<int>(inner.width * scale));
-  const int height = std::max(1, static_cast<int>(inner.height * scale));
+  const auto scaled = [](double side, int numerator, int denominator) {
+    return std::max(1, static_cast<int>(std::nearbyint(side * numerator / denominator)));
+  };
+  const int width = std::min(outer.width, scaled(inner.width, outer.height, inner.height));
+  const int height = std::min(outer.height, scaled(inner.height, outer.width, inner.width));
   return {(outer.width - width) / 2, (outer.height - height) / 2, width, height};
 }
 
