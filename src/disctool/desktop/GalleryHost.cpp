@@ -1,6 +1,5 @@
 #include "disctool/desktop/GalleryHost.h"
 
-#include <QImageReader>
 #include <QPainter>
 
 #include "disctool/desktop/FilmStill.h"
@@ -44,14 +43,7 @@ std::unique_ptr<MoviePlayer> GalleryHost::MakePlayer(MovieKind kind) {
   return std::make_unique<StillPlayer>(kind);
 }
 
-PicturePtr GalleryHost::LoadPicture(const std::filesystem::path& file) {
-  std::error_code error;
-  if (!std::filesystem::is_regular_file(file, error)) return nullptr;
-  QImageReader reader(QString::fromStdString(file.string()));
-  reader.setDecideFormatFromContent(true);
-  QPixmap pixels = QPixmap::fromImageReader(&reader);
-  return pixels.isNull() ? nullptr : std::make_shared<QtPicture>(std::move(pixels));
-}
+PicturePtr GalleryHost::LoadPicture(const std::filesystem::path& file) { return LoadQtPicture(file); }
 
 QImage GalleryHost::PictureOf(const Form& form) const {
   const Rect area = form.ClientArea();

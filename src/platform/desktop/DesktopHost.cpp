@@ -1,6 +1,5 @@
 #include "platform/desktop/DesktopHost.h"
 
-#include <QImageReader>
 #include <QMessageBox>
 #include <QScreen>
 #include <algorithm>
@@ -99,15 +98,7 @@ void DesktopHost::Sleep(Milliseconds duration) {
   std::this_thread::sleep_for(std::chrono::milliseconds(std::max<Milliseconds>(0, duration)));
 }
 
-PicturePtr DesktopHost::LoadPicture(const std::filesystem::path& file) {
-  std::error_code error;
-  if (!std::filesystem::is_regular_file(file, error)) return nullptr;
-  QImageReader reader(QString::fromStdString(file.string()));
-  // A disc's names say little about what is in a file.
-  reader.setDecideFormatFromContent(true);
-  QPixmap pixels = QPixmap::fromImageReader(&reader);
-  return pixels.isNull() ? nullptr : std::make_shared<QtPicture>(std::move(pixels));
-}
+PicturePtr DesktopHost::LoadPicture(const std::filesystem::path& file) { return LoadQtPicture(file); }
 
 bool DesktopHost::IsSoundCardEnabled() { return orvanta::IsSoundCardEnabled(); }
 

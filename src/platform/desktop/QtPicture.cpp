@@ -1,5 +1,9 @@
 #include "platform/desktop/QtPicture.h"
 
+#include <QImageReader>
+#include <system_error>
+#include <utility>
+
 namespace orvanta {
 
 const QPixmap& QtPicture::At(QSize size) const {
@@ -8,6 +12,16 @@ const QPixmap& QtPicture::At(QSize size) const {
     scaled_ = pixels_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   }
   return scaled_;
+}
+
+PicturePtr LoadQtPicture(const std::filesystem::path& file) {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(file, error)) return nullptr;
+  QImageReader reader(QString::fromStdString(file.string()));
+  // A disc's names say little about what is in a file.
+  reader.setDecideFormatFromContent(true);
+  QPixmap pixels = QPixmap::fromImageReader(&reader);
+  return pixels.isNull() ? nullptr : std::make_shared<QtPicture>(std::move(pixels));
 }
 
 }  // namespace orvanta

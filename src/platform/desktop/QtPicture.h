@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPixmap>
+#include <filesystem>
 
 #include "platform/Picture.h"
 
@@ -19,5 +20,9 @@ class QtPicture : public Picture {
   const QPixmap pixels_;
   mutable QPixmap scaled_;
 };
+
+/// The picture in a file, of any format that Qt reads; null if there is none that can be read. What is no
+/// regular file is not opened: a FIFO would hold the program up.
+PicturePtr LoadQtPicture(const std::filesystem::path& file);
 
 }  // namespace orvanta
