@@ -1,6 +1,5 @@
 #pragma once
 
-#include <fstream>
 #include <string>
 
 #include "disctool/Check.h"
@@ -9,6 +8,11 @@
 #include "support/TestDisc.h"
 
 namespace orvanta::test {
+
+inline std::string TextOf(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), {}};
+}
 
 /// Takes a file for what its first bytes say.
 struct FirstBytesProbe : DiscProbe {
@@ -19,17 +23,9 @@ struct FirstBytesProbe : DiscProbe {
     const PicturePtr picture = ReadPictureFile(file);
     return picture ? std::optional(picture->PixelSize()) : std::nullopt;
   }
-  bool IsFont(const std::filesystem::path& file) override { return Begins(file, "font"); }
+  bool IsFont(const std::filesystem::path& file) override { return TextOf(file).starts_with("font"); }
   bool CanPlay(const std::filesystem::path& file, bool film) override {
-    return Begins(file, film ? "film" : "RIFF");
-  }
-
- private:
-  static bool Begins(const std::filesystem::path& file, const std::string& with) {
-    std::ifstream in(file, std::ios::binary);
-    std::string begin(with.size(), '\0');
-    in.read(begin.data(), static_cast<std::streamsize>(begin.size()));
-    return begin == with;
+    return TextOf(file).starts_with(film ? "film" : "RIFF");
   }
 };
 
@@ -42,32 +38,18 @@ struct GoodDisc : TestDisc {
     File("film.avi", "film");
     Menu("MAINMENU", {"Programy", "Muzyka", "Film"});
     Menu("Programy", {"Gra"});
-    const auto entry = [this](const std::string& name,
-                              std::vector<std::pair<std::string, std::string>> keys) {
-      keys.insert(keys.end(), {{"Note", "Opis"}, {"System", "Wymagania"}});
-      Entry(name, keys);
-    };
-    entry("Gra", {{"Execute", "%:\\setup.exe"}});
-    entry("Muzyka", {{"PlayAs", "music"}, {"Parameters", "%:\\Data\\Sound\\loop.wav"}});
-    entry("Film", {{"PlayAs", "MOVIE"}, {"Parameters", "%:\\film.avi"}});
+    Entry("Gra", {{"Execute", "%:\\setup.exe"}});
+    Entry("Muzyka", {{"PlayAs", "music"}, {"Parameters", "%:\\Data\\Sound\\loop.wav"}});
+    Entry("Film", {{"PlayAs", "MOVIE"}, {"Parameters", "%:\\film.avi"}});
+    for (const char* entry : {"Gra", "Muzyka", "Film"})
+      for (const char* text : {"Note", "System"}) Set(entry, text, "Opis");
   }
 
   Findings Check() const {
     FirstBytesProbe probe;
     return CheckDisc(Folder(), probe);
   }
-  /// The number of the line of Menu.ini that begins with `text`, 0 if there is none.
-  int LineOf(const std::string& text) const {
-    std::ifstream in(Data() / "Menu.ini", std::ios::binary);
-    int number = 1;
-    for (std::string line; std::getline(in, line); ++number)
-      if (line.starts_with(text)) return number;
-    return 0;
-  }
-  std::string MenuIni() const {
-    std::ifstream in(Data() / "Menu.ini", std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-  }
+  std::string MenuIni() const { return TextOf(Data() / "Menu.ini"); }
 };
 
 }  // namespace orvanta::test

@@ -1,136 +1,75 @@
 // Starting an entry's program, and what the user can do while its window is awaited.
 
-#include <gtest/gtest.h>
+#include <map>
 
 #include "launcher/ExecErrorText.h"
-#include "support/EntryDisc.h"
+#include "support/Story.h"
 
 namespace orvanta::test {
 namespace {
 
-class Launch : public ::testing::Test {
- protected:
-  void Begin() { EntryDisc::Begin(user, EntryDisc::kProgram); }
-  bool Hourglass() { return user.Main().MousePointer == Form::kHourglassPointer; }
-  void ClickAfter(Milliseconds delay, const Control& control) {
-    user.host.After(delay, [this, place = user.MiddleOf(control)] { user.host.Click(place); });
+struct Launch : Story {
+  /// The level, how many programs have started, and whether the program waits and is active.
+  std::string Look() override {
+    return std::to_string(Main().MenuLevel) + "/" + std::to_string(user.host.started.size()) +
+           (Hourglass() ? " waits" : "") + (user.shell.modActiveWindow.AppActive ? " active" : "");
   }
-  /// The user goes to another program, as the started program's window would make it.
-  void LeaveAfter(Milliseconds delay) {
-    user.host.After(delay, [this] { user.host.ActivateOther(); });
-  }
-
-  EntryDisc disc;
-  TestShell user{disc};
 };
 
 TEST_F(Launch, HandsOverFileAndParametersAndWaitsForTheProgramsWindow) {
-  Begin();
-  bool waiting = false, noticed = false;
-  user.host.After(4900, [&] { waiting = Hourglass() && user.shell.modActiveWindow.AppActive; });
-  LeaveAfter(5000);
-  user.host.After(5000 + 3 * 50, [&] { noticed = !user.shell.modActiveWindow.AppActive; });
-  const Milliseconds left = user.host.Now() + 5000;
-  user.Click(user.Main().ButtonM(4));
-  EXPECT_TRUE(waiting) << "the window comes late";
-  EXPECT_TRUE(noticed) << "within three ticks";
-  EXPECT_FALSE(Hourglass());
-  EXPECT_LE(user.host.Now() - left, 1000 + 3 * 50) << "the music has fallen silent by then";
-  ASSERT_EQ(user.host.started.size(), 1U);
-  EXPECT_EQ(user.host.started[0].status, StartRequest::Status::Found);
+  user.Do("start, choose 0, after 5000 leave");
+  Expect(4900, "1/1 waits active");
+  Expect(5000 + 3 * 50, "1/1 waits");
+  EXPECT_LE(Takes("click ButtonM4"), 5000 + 1000 + 3 * 50) << "the music has fallen silent by then";
+  EXPECT_EQ(Look(), "1/1");
   EXPECT_EQ(user.host.started[0].file, disc.Folder() / "gra.exe");
   EXPECT_EQ(user.host.started[0].parameters, "-a \"b c\"");
   EXPECT_TRUE(user.host.messages.empty());
 }
 
-TEST_F(Launch, NamesWhatIsMissing) {
-  disc.Set("Gra", "Execute", "%:\\keine.exe");
-  user.host.startResult = 2;
-  Begin();
-  user.Click(user.Main().ButtonM(4));
-  EXPECT_EQ(user.host.started.back().status, StartRequest::Status::FileMissing);
-  disc.Set("Gra", "Execute", "%:\\nie ma\\gra.exe");
-  user.Click(user.Main().ButtonM(4));
-  EXPECT_EQ(user.host.started.back().status, StartRequest::Status::FolderMissing);
-  disc.Set("Gra", "Execute", "http://example.org/");
-  disc.Remove("Gra", "Parameters");
-  user.Click(user.Main().ButtonM(4));
-  EXPECT_EQ(user.host.started.back().name, "http://example.org/");
-  EXPECT_EQ(user.host.started.back().parameters, "");
-}
-
-TEST_F(Launch, TellsOfEachFailureAtOnceAndOfNothingElse) {
-  Begin();
-  LeaveAfter(3600 * 100);
-  for (int code = 0; code <= 32; ++code) {
-    user.host.startResult = code;
-    user.host.messages.clear();
-    const Milliseconds before = user.host.Now();
-    user.Click(user.Main().ButtonM(4));
-    EXPECT_LT(user.host.Now() - before, 100);
-    ASSERT_EQ(user.host.messages.size(), 1U) << code;
-    EXPECT_EQ(user.host.messages[0].text, ExecErrorText(code).value());
-    EXPECT_EQ(user.host.messages[0].title, "Orvanta Shell");
-    EXPECT_EQ(user.host.messages[0].style, 16);
-    EXPECT_FALSE(Hourglass());
+TEST_F(Launch, TellsWhatIsThereAndOfEachFailureAtOnce) {
+  using Status = StartRequest::Status;
+  user.Do("start, choose 0");
+  user.host.startResult = 32;
+  for (const auto& [file, status] : {std::pair{"%:\\gra.exe", Status::Found},
+                                     {"%:\\keine.exe", Status::FileMissing},
+                                     {"%:\\nie ma\\gra.exe", Status::FolderMissing}}) {
+    disc.Set("Gra", "Execute", file);
+    EXPECT_LT(Takes("click ButtonM4"), 100);
+    EXPECT_EQ(user.host.started.back().status, status) << file;
+    EXPECT_EQ(user.host.messages.back().text, ExecErrorText(32).value());
+    EXPECT_EQ(user.host.messages.back().title, "Orvanta Shell");
   }
-  user.host.messages.clear();
   user.host.startResult = -1;
-  user.Click(user.Main().ButtonM(4));
-  EXPECT_TRUE(user.host.messages.empty());
+  Tell({{"click ButtonM4", "1/4 active"}});
+  EXPECT_EQ(user.host.messages.size(), 3U) << "nothing is told of this one";
 }
 
-TEST_F(Launch, ASecondClickStartsItAgainOneLevelDeeper) {
-  Begin();
-  ClickAfter(500, user.Main().ButtonM(4));
-  LeaveAfter(2000);
-  user.Click(user.Main().ButtonM(4));
-  EXPECT_EQ(user.host.started.size(), 2U);
-  EXPECT_FALSE(Hourglass());
-  EXPECT_FALSE(user.shell.modActiveWindow.AppActive);
-}
-
-TEST_F(Launch, TheUserCanGoBackDuringTheWait) {
-  Begin();
-  ClickAfter(500, user.Main().imgBack);
-  std::string seen;
-  user.host.After(1000, [&] { seen = user.Main().lblPos1(3).Caption; });
-  LeaveAfter(2000);
-  user.Click(user.Main().ButtonM(4));
-  EXPECT_EQ(seen, "Dalej");
-  EXPECT_EQ(user.Main().MenuLevel, 0);
-  EXPECT_FALSE(Hourglass());
-}
-
-TEST_F(Launch, MinimisingEndsTheWait) {
-  Begin();
-  ClickAfter(1000, user.Main().ButtonM(8));
-  const Milliseconds before = user.host.Now();
-  user.Click(user.Main().ButtonM(4));
-  EXPECT_FALSE(Hourglass());
-  EXPECT_LT(user.host.Now() - before, 1000 + 500 + 1000 + 3 * 50);
-}
-
-TEST_F(Launch, TheUserCanLeaveTheProgramFromANestedWait) {
-  Begin();
-  ClickAfter(300, user.Main().ButtonM(4));
-  ClickAfter(600, user.Main().ButtonM(0));
-  user.Click(user.Main().ButtonM(4));
+TEST_F(Launch, LetsTheUserStartGoBackMinimiseAndLeaveWhileItWaits) {
+  user.Do("start, choose 0");
+  Tell({{"after 500 click ButtonM4, after 1000 click imgBack, after 2000 leave, click ButtonM4", "0/2"},
+        {"return, choose 0, after 1000 click ButtonM8, click ButtonM4", "1/3"},
+        {"restore", "1/3 active"}});
+  // Within the second of the soft pause the tick that looks for the active window stands still.
+  Tell({{"after 600 click ButtonM4, after 5000 leave, click ButtonM1, run 6000", "1/4"}});
+  EXPECT_TRUE(Main().Timer1.Enabled());
+  user.Do("return, after 300 click ButtonM4, after 600 click ButtonM0, click ButtonM4");
   EXPECT_TRUE(user.ended);
-  EXPECT_EQ(user.host.started.size(), 2U);
-  EXPECT_EQ(Calls(user.host, "exit1.wav"), std::vector<std::string>{"open"});
+  EXPECT_EQ(user.Calls("exit1.wav"), "open");
 }
 
-TEST_F(Launch, AStartWhileTheMusicFallsSilentStillEndsItsWait) {
-  Begin();
-  ClickAfter(600, user.Main().ButtonM(4));  // within the second of the soft pause
-  LeaveAfter(5000);
-  user.Click(user.Main().ButtonM(1));
-  user.Run(6000);
-  EXPECT_EQ(user.host.started.size(), 1U);
-  EXPECT_FALSE(Hourglass());
-  EXPECT_TRUE(user.Main().Timer1.Enabled());
-  EXPECT_EQ(user.Main().AM2.Volume(), 0);
+// A number beside the wrong message, or a message lost, would send the user on the wrong track.
+TEST(ExecErrorText, NamesEachFailureByItsNumberAndSaysNothingOfSuccess) {
+  const std::map<int, int> numbers{{0, 7},   {2, 53},   {3, 76},   {5, 75},   {8, 7},
+                                   {26, 75}, {28, 286}, {29, 285}, {30, 285}, {32, 48}};
+  for (int code = 0; code <= 32; ++code) {
+    const int number = numbers.contains(code) ? numbers.at(code) : code - 2147220456;
+    const std::string begin = "UWAGA: wystąpił błąd numer " + std::to_string(number) + "\r\n\r\n";
+    EXPECT_TRUE(ExecErrorText(code).value().starts_with(begin)) << code;
+  }
+  EXPECT_TRUE(ExecErrorText(31)->ends_with("\nPodany typ pliku nie posiada przyporządkowanej aplikacji."));
+  EXPECT_TRUE(ExecErrorText(25)->ends_with("\nPrzy próbie otwarcia pliku wystąpił nieznany błąd."));
+  for (const int code : {-1, 33}) EXPECT_FALSE(ExecErrorText(code).has_value()) << code;
 }
 
 }  // namespace

@@ -1,136 +1,97 @@
-// The loop behind the menu: when it is heard, and how it falls silent and comes back.
+// The loop behind the menu, the cues and the voice at the exit.
 
-#include <gtest/gtest.h>
+#include <set>
 
-#include "support/EntryDisc.h"
+#include "support/Story.h"
 
 namespace orvanta::test {
 namespace {
 
-using Names = std::vector<std::string>;
-
-class Loop : public ::testing::Test {
- protected:
-  MainForm& Main() { return user.Main(); }
-  int State() { return Main().AM2.CurrentState(); }
-  static constexpr int kPaused = ActiveMovie::kPaused, kRunning = ActiveMovie::kRunning;
-
-  EntryDisc disc;
-  TestShell user{disc};
+struct Loop : Story {
+  std::string Look() override {
+    return Main().AM2.CurrentState() == ActiveMovie::kRunning ? "heard" : "silent";
+  }
 };
 
-TEST_F(Loop, IsHeldByTheFirstTickAndLetGoByTheSame) {
-  user.Launch();
-  while (Calls(user.host, "loop.wav").empty()) user.Run(10);
-  EXPECT_FALSE(user.shell.basCommon.MusicLoaded);
-  user.Run(200);
-  EXPECT_TRUE(user.shell.basCommon.MusicLoaded);
-  EXPECT_EQ(Calls(user.host, "loop.wav"), (Names{"open", "pause", "run"}));
-  user.Run(60 * 1000);
-  EXPECT_EQ(State(), kRunning) << "a track of 20 seconds repeats";
-  EXPECT_EQ(Calls(user.host, "loop.wav").size(), 3U);
-}
-
 TEST_F(Loop, FallsSilentSoftlyAndGoesOnFromTheSamePlace) {
-  user.Start();
-  const std::size_t before = user.host.playerCalls.size();
-  user.host.ActivateOther();
-  const Milliseconds left = user.host.Now();
-  user.host.After(900, [&] {
-    EXPECT_EQ(State(), kPaused);
-    EXPECT_EQ(Main().AM2.Volume(), -9640);
-    EXPECT_FALSE(Main().Timer1.Enabled());
-  });
-  user.Run(100);
-  EXPECT_NEAR(static_cast<double>(user.host.Now() - left), 1000, 100) << "a second, with events pumped";
+  user.Launch();
+  while (user.Calls("loop.wav").empty()) user.Run(10);
+  EXPECT_FALSE(user.shell.basCommon.MusicLoaded);
+  Tell({{"run 60000", "heard"}});
+  After(900, [&] { EXPECT_TRUE(Main().AM2.Volume() == -9640 && !Main().Timer1.Enabled()); });
+  Expect(900, "silent");
+  EXPECT_NEAR(Takes("leave"), 1000, 100) << "a second, with events pumped";
   const double held = Main().AM2.CurrentPosition();
-  user.Run(5000);
-  EXPECT_EQ(Calls(user.host, "loop.wav", before), (Names{"volume -9640", "pause", "volume 0"}))
-      << "a loop that is paused already is left alone";
-  EXPECT_TRUE(Main().Timer1.Enabled());
-  user.host.Activate(Main());
-  user.Run(100);
-  EXPECT_EQ(State(), kRunning);
+  Tell({{"run 5000", "silent"}, {"return", "heard"}});
   EXPECT_NEAR(Main().AM2.CurrentPosition(), held, 0.15);
+  EXPECT_EQ(user.Calls("loop.wav"), "open, pause, run, volume -9640, pause, volume 0, run");
 }
 
-TEST_F(Loop, IsHeardWhereItShould) {
-  user.host.media["film.avi"] = {30, {320, 240}, 0};
-  user.Start();
-  EXPECT_EQ(State(), kRunning) << "menu";
-  user.Choose(EntryDisc::kProgram);
-  EXPECT_EQ(State(), kRunning) << "program entry";
-  user.host.After(2000, [&] {
-    ASSERT_TRUE(user.shell.modMain.ShowPicOpen);
-    EXPECT_EQ(State(), kRunning) << "viewer";
-    user.host.Click(user.MiddleOf(user.shell.frmShowPic->picPic));
-  });
-  user.Click(Main().picShot(0));
-  user.Click(Main().imgUp);
-  user.Choose(EntryDisc::kMusic);
-  EXPECT_EQ(State(), kPaused) << "music entry";
-  user.Click(Main().imgUp);
-  user.Run(100);
-  EXPECT_EQ(State(), kRunning) << "it comes back on the next tick";
-  user.Choose(EntryDisc::kFilm);
-  EXPECT_EQ(State(), kPaused) << "film entry";
-  user.host.After(4000, [&] {
-    ASSERT_TRUE(user.shell.frmKino.Loaded());
-    EXPECT_EQ(State(), kPaused) << "cinema";
-    user.host.Click(user.MiddleOf(user.shell.frmKino->ButtonM(1)));
-  });
-  user.Click(Main().ButtonM(9));
-  user.Run(500);
-  EXPECT_EQ(State(), kPaused) << "until the user leaves the entry";
-  user.Click(Main().imgBack);
-  user.Run(100);
-  EXPECT_EQ(State(), kRunning);
-  user.host.Minimise(Main());
-  user.Run(1500);
-  EXPECT_EQ(State(), kPaused) << "minimised";
-  user.host.Restore(Main());
-  user.Run(100);
+TEST_F(Loop, IsHeardInMenusAndProgramsAndNotBesideOtherSound) {
+  Tell({{"start", "heard"}, {"choose 0", "heard"}});
+  Expect(1800, "heard");  // in the viewer
+  Tell({{"after 1900 click picPic, click picShot0", "heard"},
+        {"click imgUp, choose 1", "silent"},
+        {"click imgUp, run 100", "heard"},
+        {"choose 2", "silent"},
+        {"after 4000 click kino1, click ButtonM9", "silent"},
+        {"run 500", "silent"},
+        {"click imgBack, run 100", "heard"},
+        {"minimise, run 1500", "silent"},
+        {"restore", "heard"},
+        {"after 500 click ButtonM7, click ButtonM1, run 2000", "silent"},
+        {"leave, run 2000, return", "silent"},
+        {"click ButtonM2, run 100", "heard"}});
+  EXPECT_TRUE(Main().imgSeven.Visible) << "a click in the silent second is delivered";
+  EXPECT_EQ(Main().AM2.Volume(), 0);
   user.host.Activate(*user.shell.frmDociagLewo);
-  user.Run(1500);
-  EXPECT_EQ(State(), kRunning) << "an edge window counts as active";
-}
-
-TEST_F(Loop, ObeysTheSwitch) {
-  user.Start();
-  user.Click(Main().ButtonM(1));
-  user.Run(2000);
-  EXPECT_EQ(State(), kPaused);
-  user.host.ActivateOther();
-  user.Run(2000);
-  user.host.Activate(Main());
-  user.Run(2000);
-  EXPECT_EQ(State(), kPaused);
-  user.Click(Main().ButtonM(2));
-  user.Run(100);
-  EXPECT_EQ(State(), kRunning);
+  Tell({{"run 1500", "heard"}});
 }
 
 TEST_F(Loop, StaysAwayWhenThereIsNone) {
   disc.Set("VOICES", "Music", "brak.wav");
-  user.Start();
-  user.Choose(EntryDisc::kMusic);
-  user.Click(Main().imgUp);
-  user.host.ActivateOther();
-  user.Run(2000);
-  EXPECT_EQ(Calls(user.host, "loop.wav"), Names{});
-  EXPECT_FALSE(user.shell.basCommon.MusicLoaded);
-  EXPECT_TRUE(Main().Timer1.Enabled());
+  Tell({{"start, choose 1, click imgUp, leave, run 2000", "silent"}});
+  EXPECT_TRUE(!user.shell.basCommon.MusicLoaded && Main().Timer1.Enabled());
 }
 
-TEST_F(Loop, AClickInTheSilentSecondIsDelivered) {
-  user.Start();
-  user.host.After(500, [&] { user.host.Click(user.MiddleOf(Main().ButtonM(7))); });
-  user.Click(Main().ButtonM(1));
-  user.Run(400);
-  EXPECT_TRUE(Main().imgSeven.Visible());
-  user.Run(2000);
-  EXPECT_EQ(Main().AM2.Volume(), 0);
-  EXPECT_TRUE(Main().Timer1.Enabled());
+TEST_F(Loop, GivesWayToAVoiceOnTheMusicsPlayerAndTheBarStaysSafe) {
+  user.Do("start, choose 1, click ButtonM4");
+  After(400, [&] { EXPECT_EQ(Main().PressedButton, -1); });
+  user.Do("after 1000 click ButtonM5, after 1100 click ButtonM6, after 1500 click ButtonM0, click ButtonM0");
+  EXPECT_TRUE(user.ended);
+  EXPECT_EQ(user.Calls("song.wav"), "open, position 0.000000, run, stop");
+  EXPECT_TRUE(user.Calls("exit1.wav").starts_with("open"));
+}
+
+/// Leaves the program, twice, and gives the file that took leave.
+std::string Farewell(const TestDisc& disc) {
+  std::set<std::string> voices;
+  for (int run = 0; run < 2; ++run) {
+    TestShell user(disc);
+    user.Do("start");
+    const Milliseconds before = user.host.Now();
+    user.Do("click ButtonM0");
+    EXPECT_EQ(user.host.Now() - before, 200 + 2001) << "whatever is heard";
+    voices.insert(user.host.playerCalls.back().file);
+  }
+  EXPECT_EQ(voices.size(), 1U) << "one disc, one choice";
+  return *voices.begin();
+}
+
+TEST_F(Loop, OneVoiceOfAGaplessRunTakesLeaveAlwaysTheSame) {
+  std::set<std::string> chosen;
+  for (const std::string n : {"2", "4", "3", "5", "6", "7", "8"}) {
+    disc.Sound("exit" + n, 1);
+    disc.Set("VOICES", "Exit" + n, "exit" + n);
+    chosen.insert(Farewell(disc));
+    EXPECT_FALSE(n == "4" && chosen.contains("exit4"));
+  }
+  EXPECT_GE(chosen.size(), 2U) << "the choice depends on how many there are";
+  disc.Remove("VOICES", "Exit2");
+  disc.Set("VOICES", "Exit1", "%:\\Data\\Sound\\start.wav");
+  EXPECT_EQ(Farewell(disc), "start.wav") << "a path with a drive is used as it is";
+  disc.Set("VOICES", "Exit1", "brak.wav");
+  EXPECT_EQ(Farewell(disc), "");
 }
 
 }  // namespace

@@ -1,172 +1,127 @@
-#include <gtest/gtest.h>
+// The way through the tree of menus, the box under the cursor and the crosshair.
 
-#include "support/TestShell.h"
+#include "support/Story.h"
 
 namespace orvanta::test {
 namespace {
 
-TEST(Browse, GoesDownTheTreeAndComesUpAgain) {
-  TestDisc disc;
-  disc.Menu("MAINMENU", {"Programy", "Muzyka"});
-  disc.Menu("Programy", {"Żółw"});
-  disc.Entry("Żółw", {{"Execute", "%:\\zolw.exe"}});
-  TestShell user(disc);
-  user.Start();
-  ASSERT_FALSE(user.ended);
-  EXPECT_EQ(user.Main().lblPos1.UBound(), 1);
-  EXPECT_EQ(user.Main().lblPos1(0).Caption(), "Programy");
-  EXPECT_DOUBLE_EQ(user.Main().lblPos1(0).Top, 10);
+using Ends = std::array<double, 4>;
+Ends EndsOf(const Line& line) { return {line.X1, line.Y1, line.X2, line.Y2}; }
 
-  user.Choose(0);
-  EXPECT_EQ(user.Main().MenuLevel, 1);
-  EXPECT_EQ(user.Main().lblPos1(0).Caption(), "Żółw");
-  EXPECT_DOUBLE_EQ(user.Main().lblPos1(0).Top, 2 * 10 + 32);
-  EXPECT_TRUE(user.Main().imgKreska.Visible);
-
-  user.Choose(0);
-  EXPECT_EQ(user.Main().MenuLevel, 2);
-  EXPECT_FALSE(user.Main().picTlo.Visible);
-
-  user.Click(user.Main().imgBack);
-  user.Click(user.Main().imgUp);
-  EXPECT_EQ(user.Main().MenuLevel, 0);
-  EXPECT_EQ(user.Main().lblPos1(1).Caption(), "Muzyka");
-}
-
-using Names = std::vector<std::string>;
-
-Names Captions(TestShell& user) {
-  Names captions;
-  user.Main().lblPos1.ForEach([&](const Label& label) {
-    if (label.Visible) captions.push_back(label.Caption);
-  });
-  return captions;
-}
-
-TEST(Browse, ShowsARunUpToItsFirstGapFromBothFiles) {
-  TestDisc disc;
-  disc.Menu("MAINMENU", {"A", "B", "C", "", "E"});
-  disc.File("Data/Param.ini", "[mainmenu]\r\nMENU4=D\r\n[B]\r\nMenu1=Z pliku\r\n");
-  disc.Menu("C", {"Jedyna"});
-  TestShell user(disc);
-  user.Start();
-  EXPECT_EQ(Captions(user), (Names{"A", "B", "C", "D", "E"}));
-  user.Choose(1);
-  EXPECT_EQ(Captions(user), Names{"Z pliku"});
-  user.Click(user.Main().imgBack);
-  user.Choose(2);
-  EXPECT_EQ(user.Main().lblPos1.UBound(), 0);
-  disc.File("Data/Param.ini", "");
-  user.Click(user.Main().imgUp);
-  EXPECT_EQ(Captions(user), (Names{"A", "B", "C"})) << "nothing of the disc is kept";
-
-  TestDisc empty;
-  TestShell alone(empty);
-  alone.Start();
-  EXPECT_EQ(Captions(alone), Names{""});
-}
-
-TEST(Browse, ComesBackLevelByLevelOrInOneStep) {
-  TestDisc disc;
-  disc.Menu("MAINMENU", {"1", "Muzyka"});
-  for (int i = 1; i < 4; ++i) disc.Menu(std::to_string(i), {std::to_string(i + 1)});
-  disc.Menu("3", {"Gra"});
-  disc.Entry("Gra", {{"Execute", "gra.exe"}});
-  TestShell user(disc);
-  user.Start();
-  MainForm& main = user.Main();
-  EXPECT_FALSE(main.imgBack.Enabled || main.imgUp.Enabled || main.imgKreska.Visible);
-  user.Click(main.imgBack);
-  EXPECT_EQ(main.MenuLevel, 0);
-  for (int i = 0; i < 4; ++i) user.Choose(0);
-  EXPECT_EQ(main.MenuLevel, 4);
-  EXPECT_FALSE(main.picTlo.Visible);
-  EXPECT_EQ(main.lblBackTxt.Caption(), "Gra");
-  user.Click(main.imgBack);
-  EXPECT_EQ(Captions(user), Names{"Gra"});
-  user.Click(main.ImgBack2);
-  EXPECT_EQ(main.lblBackTxt2.Caption(), "2");
-  user.Click(main.ButtonM(3));
-  EXPECT_TRUE(main.imgPomoc.Visible);
-  EXPECT_FALSE(main.imgKreska.Visible);
-  user.Click(main.imgBack);
-  EXPECT_EQ(main.MenuLevel, 1);
-  EXPECT_TRUE(main.imgPomoc.Visible) << "the list is built under the page";
-  user.Click(main.imgPomoc);
-  EXPECT_EQ(Captions(user), Names{"2"});
-  user.Choose(0);
-  user.Click(main.imgUp2);
-  EXPECT_EQ(Captions(user), (Names{"1", "Muzyka"}));
-  EXPECT_EQ(main.lblBackTxt.Caption(), "2") << "the text of the place stays";
-}
-
-TEST(Browse, MarksAnInertLabelOnceAndRemembersItByItsPlace) {
-  TestDisc disc;
-  disc.Menu("MAINMENU", {"Puste", "Dalej", "Koniec"});
-  disc.Menu("Dalej", {"Tu"});
-  TestShell user(disc);
-  user.Start();
-  MainForm& main = user.Main();
-  const auto sleeps = [&] { return user.host.sleeps.size(); };
-  user.Choose(2);
-  EXPECT_EQ(main.lblPos1(2).ForeColor(), 0x00FFFF);
-  const std::size_t before = sleeps();
-  user.Choose(2);
-  EXPECT_EQ(sleeps(), before) << "no crosshair for the marked label";
-  user.Choose(0);
-  EXPECT_EQ(main.lblPos1(2).ForeColor(), 0xFFFFFF);
-  EXPECT_GT(sleeps(), before);
-  // The place outlives the list: the first label of the next one is taken for the marked one.
-  user.Choose(2);
-  main.MenuPath[1] = "Dalej";
-  main.MenuLevel = 1;
-  main.MenuInit("Dalej");
-  user.Choose(0);
-  EXPECT_EQ(main.lblPos1(0).ForeColor(), 0x00FFFF) << "a marked place that the list lacks does no harm";
-  user.Click(main.imgBack);
-  user.Choose(0);
-  EXPECT_EQ(main.lblPos1(0).ForeColor(), 0xFFFFFF) << "ignored";
-  user.Choose(1);
-  EXPECT_EQ(main.MenuLevel, 1);
-}
-
-TEST(Browse, GoesDeeperThanTheDiscSaysAndRoundInCircles) {
-  TestDisc disc;
-  disc.Set("GLOBAL", "MenuLevels", "1");
-  disc.Set("MENUITEM", "Line2Sleep", "0");
-  disc.Menu("MAINMENU", {"Kółko"});
-  disc.Menu("Kółko", {"MAINMENU"});
-  TestShell user(disc);
-  user.Start();
-  for (int i = 1; i <= 6; ++i) {
-    user.Choose(0);
-    EXPECT_EQ(user.Main().MenuLevel, i);
+struct Browse : Story {
+  Browse() {
+    disc.Menu("MAINMENU", {"Gry", "Muzyka", "Filmy", ""});
+    disc.Menu("Gry", {"Logiczne"});
+    disc.Menu("Filmy", Names(12, "Gry"));
   }
-  EXPECT_EQ(Captions(user), Names{"Kółko"});
-  for (int i = 6; i > 0; --i) user.Click(user.Main().imgBack);
-  EXPECT_EQ(user.Main().MenuLevel, 0);
-  EXPECT_EQ(user.Main().MenuPath[0], "MAINMENU");
+  /// The level, the node's name and what the middle shows: "1 Gry: Logiczne".
+  std::string Look() override {
+    std::string text = std::to_string(Main().MenuLevel);
+    if (Main().imgKreska.Visible) text += " " + Main().lblBackTxt2.Caption();
+    text += !Main().picTlo.Visible ? " (entry)" : Main().imgPomoc.Visible ? " (help)" : ":";
+    for (int i = 0; i <= std::min(4, Main().lblPos1.UBound()); ++i)
+      if (Main().lblPos1(i).Visible) text += " " + Main().lblPos1(i).Caption();
+    return text;
+  }
+  Point InMenu(int x, int y) { return {178 + 90 + x, 136 + 140 + y}; }
+  /// Moves the mouse and gives the upper edge of the box around a label then, -1 if there is none.
+  double BoxAt(int x, int y) {
+    user.host.MoveMouse(InMenu(x, y));
+    user.Run(100);
+    return Main().Line1(0).Visible && Main().Line1(3).Visible ? Main().Line1(0).Y1() : -1;
+  }
+};
+
+TEST_F(Browse, GoesDownBothFilesAndComesBackLevelByLevelOrInOneStep) {
+  disc.File("Data/Param.ini", "[mainmenu]\r\nMENU4=Programy\r\n");
+  disc.Set("GLOBAL", "MenuLevels", "1");
+  disc.Set("MAINMENU", "Menu5", "Ostatni");
+  disc.Menu("Logiczne", {"Gra", "MAINMENU"});
+  Tell({{"start, click imgBack", "0: Gry Muzyka Filmy Programy Ostatni"},
+        {"choose 0", "1 Gry: Logiczne"},
+        {"choose 0", "2 Logiczne: Gra MAINMENU"},
+        {"choose 0", "3 Gra (entry)"},
+        {"click imgBack", "2 Logiczne: Gra MAINMENU"},
+        {"click ButtonM3", "2 (help)"},
+        {"click imgBack", "1 Gry (help) Logiczne"},
+        {"click imgPomoc", "1 Gry: Logiczne"},
+        {"choose 0, choose 1, choose 0", "4 Gry: Logiczne"},  // round in a circle, deeper than the disc says
+        {"choose 0, click ImgBack2", "4 Gry: Logiczne"}});
+  disc.File("Data/Param.ini", "");
+  Tell({{"click imgUp2", "0: Gry Muzyka Filmy"}});
 }
 
-TEST(Browse, HoldsAThousandAndOneItems) {
-  TestDisc disc;
-  std::string text = "[MAINMENU]\n";
-  for (int i = 1; i <= 1100; ++i) text += "Menu" + std::to_string(i) + "=Gra\n";
-  disc.File("Data/Param.ini", text);
-  TestShell user(disc);
-  user.Start();
-  MainForm& main = user.Main();
-  ASSERT_EQ(main.lblPos1.UBound(), 1000);
-  EXPECT_EQ(main.lblPos1(1000).Top(), 10 + 1000 * 27);
-  user.host.MoveMouse(user.MiddleOf(main.imgSuwak));
-  user.host.Press();
+TEST_F(Browse, MarksAnInertLabelOnceAndRemembersItByItsPlace) {
+  user.Do("start, choose 1");
+  EXPECT_EQ(Main().lblPos1(1).ForeColor(), 0x00FFFF);
+  EXPECT_EQ(Takes("hover lblPos11, click lblPos11"), 101) << "no crosshair for the marked label";
+  // The place outlives the list: a new one that lacks it does no harm.
+  Main().MenuInit("Gry");
+  Tell({{"choose 0", "0: Logiczne"}});
+}
+
+TEST_F(Browse, DrawsTheBoxAroundTheLabelUnderTheCursor) {
+  user.Do("start, hover lblPos10");
+  // The label stands at 20, 10 and is 401 by 26; each line starts where the one before it ends.
+  const Ends ends[] = {{18, 8, 422, 8}, {422, 8, 422, 35}, {422, 35, 18, 35}, {18, 35, 18, 8}};
+  for (int i = 0; i < 4; ++i) EXPECT_EQ(EndsOf(Main().Line1(i)), ends[i]);
+  // All bounds belong to the label, with two rows below it; on a shared row the lower label wins.
+  const int places[][3] = {{20, 10, 8},  {421, 36, 8}, {421, 37, 35}, {422, 20, -1}, {20, 40, 35},
+                           {19, 40, -1}, {20, 20, 8},  {20, 9, -1},   {20, 92, 62},  {20, 93, -1}};
+  for (const auto& [x, y, box] : places) EXPECT_EQ(BoxAt(x, y), box) << x << ", " << y;
+  EXPECT_EQ(BoxAt(100, 92), 62) << "also when the cursor comes back to the label that it left";
+  user.Do("leave, run 1000");
+  EXPECT_EQ(BoxAt(100, 20), 62) << "it stands still while another program is active";
+  user.Do("return, run 2000");
+  EXPECT_EQ(BoxAt(100, 20), 8);
+  user.Do("choose 2");
+  EXPECT_EQ(BoxAt(100, 52 + 8 * 27), 50 + 8 * 27);
+  EXPECT_EQ(BoxAt(100, 52 + 9 * 27 + 5), -1) << "the tenth label ends below the menu area";
+}
+
+TEST_F(Browse, SweepsTheCrosshairToTheCursorBeforeAClickActs) {
+  user.Do("start");
+  EXPECT_EQ(BoxAt(95, 15), 8);
+  std::vector<double> seen;
+  user.host.OnSleep = [&] {
+    EXPECT_TRUE(Main().Line2(0).Visible() && Main().MenuLevel == 0);
+    EXPECT_EQ(Main().Line2(0).X1(), std::min(95.0, static_cast<double>(seen.size() * 10)));
+    seen.push_back(Main().Line2(1).Y1());
+  };
+  const Milliseconds begin = user.host.Now();
+  user.host.Click(InMenu(95, 15));
   user.Run(1);
-  user.host.MoveMouse({500, 2000});
-  user.Run(1);
-  EXPECT_EQ(main.lblPos1(1000).Top() + 26, 309);
-  user.host.Release();
-  user.Choose(1000);
-  EXPECT_EQ(main.lblPos1(1000).ForeColor(), 0x00FFFF);
+  EXPECT_EQ(seen, (std::vector<double>{0, 1, 3, 4, 6, 7, 9, 11, 12, 14, 15}));
+  EXPECT_EQ(user.host.sleeps.back().duration, 400);
+  EXPECT_EQ(user.host.Now(), begin + 410);
+  EXPECT_EQ(EndsOf(Main().Line2(0)), (Ends{95, 0, 95, 309}));
+  EXPECT_EQ(EndsOf(Main().Line2(1)), (Ends{0, 15, 472, 15}));
+  EXPECT_EQ(Look(), "1 Gry: Logiczne");
+  // The steps are those of the click though the mouse moves on, also to the left of the menu.
+  disc.Set("MENUITEM", "Line2Sleep", "20");
+  for (const int to : {400, 5, 0, -60}) {
+    user.Do("click imgUp");
+    BoxAt(95, 15);
+    user.host.After(60, [&] { user.host.MoveMouse(InMenu(to, 15)); });
+    seen.clear();
+    user.host.OnSleep = [&] { seen.push_back(Main().Line2(0).X1()); };
+    user.host.Click(InMenu(95, 15));
+    user.Run(700);
+    EXPECT_EQ(seen.size(), 11U);
+    EXPECT_EQ(Main().Line2(0).X1(), to);
+  }
+  BoxAt(0, 20);
+  After(0, [&] { EXPECT_EQ(Main().Line2(1).Y1(), 0) << "no way to go, so from the top"; });
+  Main().lblPos1_Click(0);
+}
+
+TEST_F(Browse, MeetsClicksInTheMiddleOfTheCrosshair) {
+  // A second label is not taken; the help page takes the list away; the exit button ends the program.
+  Tell({{"start, hover lblPos10, after 5 click lblPos12, click lblPos10, run 2000", "1 Gry: Logiczne"},
+        {"click imgUp, hover lblPos12, after 5 click ButtonM3, click lblPos12, run 2000", "0 (help)"}});
+  EXPECT_FALSE(Main().Line2(0).Visible);
+  user.Do("click imgPomoc, hover lblPos10, after 5 click ButtonM0, click lblPos10, run 10000");
+  EXPECT_TRUE(user.ended);
 }
 
 }  // namespace

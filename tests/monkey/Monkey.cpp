@@ -1,5 +1,3 @@
-// What the monkey does. What it expects stands in MonkeyChecks.cpp.
-
 #include "monkey/Monkey.h"
 
 #include <algorithm>
@@ -8,191 +6,180 @@ namespace orvanta::test {
 
 namespace {
 
-// No wait of the program outlasts this once the user closes everything.
-constexpr Milliseconds kPatience = 3600 * 1000;
+/// The user has a random machine: the screen, the sound card and how long files take.
+class Monkey : TestShell {
+ public:
+  Monkey(const MonkeyDisc& disc, Random& random, Figures& figures)
+      : TestShell(disc), random_(random), figures_(figures) {
+    host.screen = Dice(3) == 0 ? Size{640, 480} : Size{1024, 768};
+    host.soundCard = Dice(5) != 0;
+    host.messageHold = Dice(3) * 400;
+    const Milliseconds delay = Dice(2) * Dice(2) * 4000;
+    host.media["film.avi"] = {2.5, Dice(3) == 0 ? Size{0, 0} : Size{15, 13}, delay};
+    host.media["song.wav"] = {3, {}, delay};
+  }
+
+  std::string Live(long steps) {
+    Do("start");
+    designed_ = ended ? 0 : static_cast<int>(Main().Controls().size()) - Main().lblPos1.UBound();
+    for (int burst = 0; steps > 0 && !Over(); steps -= burst) {
+      stepsLeft_ = burst = std::min(static_cast<int>(steps), 10 + Dice(60));
+      Burst();
+    }
+    return fault_;
+  }
+
+ private:
+  int Dice(int n) { return Below(random_, n); }
+  bool Over() const { return ended || !fault_.empty(); }
+  bool Waits() { return host.Loop().Depth() > 0; }
+
+  void Burst() {
+    // No wait of the program outlasts this once the user closes everything.
+    host.deadline = host.Now() + 20000 * 1000;
+    calms_ = 0;
+    host.After(1, [this] { Step(); });
+    while (calms_ < 2 && !Over()) Run(50);
+    calms_ = kRest;
+    meddled_ = false;
+    if (!Over()) CheckRest();
+    if (!Over()) GoUp();
+  }
+
+  void Step() {
+    Check();
+    if (!fault_.empty()) return;
+    if (stepsLeft_ == 0) return Calm();
+    --stepsLeft_;
+    ++figures_.steps;
+    figures_.waits += Waits();
+    figures_.windows += &Front() != &Main();
+    meddled_ = meddled_ || Waits();
+    Act();
+    host.After(Dice(20) == 0 ? 1500 : Dice(120), [this] { Step(); });
+  }
+
+  void Calm() {
+    if (calms_ == kRest) return;
+    ++calms_;
+    for (const int button : {kLeftButton, kRightButton})
+      if (held_ & button) Hold(button);
+    host.ActivateOther();
+    if (&Front() != &Main()) host.RequestClose(Front());
+    host.After(500, [this] { Calm(); });
+  }
+
+  void GoUp() {
+    if (Main().WindowState == Form::kMinimised) host.Restore(Main());
+    Do("return");
+    Main().imgUp_Click();
+    Run(1300);
+    Must(Main().MenuLevel == 0, "the way up leads to the root");
+    Must(Main().PressedButton == -1, "no button is latched in a list");
+    Must(Main().AM3.CurrentState() <= ActiveMovie::kStopped, "an entry's music ends when it is left");
+    CheckRest();
+  }
+
+  Point Somewhere() { return {Dice(host.screen.width), Dice(host.screen.height)}; }
+  Point OnControl() {
+    const auto& controls = Front().Controls();
+    return MiddleOf(*controls[random_() % controls.size()]);
+  }
+
+  void Click(Point at) {
+    // Most clicks on the exit button are spared, else no life would be long.
+    const Rect exit = Button(0).Bounds().Moved({Main().Place().left, Main().Place().top});
+    if (exit.Contains(at) && Dice(20) != 0) return host.MoveMouse(at);
+    host.Click(at);
+    held_ &= ~kLeftButton;
+  }
+  void Hold(int button) {
+    held_& button ? host.Release(button) : host.Press(button);
+    held_ ^= button;
+  }
+  void Drag(const Image& knob) {
+    if (!knob.Visible) return;
+    if (!held_) host.MoveMouse(MiddleOf(knob)), Hold(kLeftButton);
+    host.MoveMouse(MiddleOf(knob) + Point{0, Dice(300) - 150});
+    if (Dice(3) == 0 && (held_ & kLeftButton)) Hold(kLeftButton);
+  }
+  void Act() {
+    const int what = Dice(97);
+    Form* const strip = shell.frmDociagGora.Loaded();
+    const Point label = MiddleOf(Main().lblPos1(Dice(Main().lblPos1.UBound() + 1)));
+    // In the view of an entry the transport is what matters.
+    if (what < 8 && !Main().picTlo.Visible) return Click(MiddleOf(Button(4 + what % 3)));
+    if (what < 25) return Click(MiddleOf(Button(1 + Dice(9))));
+    if (what < 38) return host.MoveMouse(label), Click(label);
+    if (what < 42) return host.MoveMouse(label);
+    if (what < 62) return Click(OnControl());
+    if (what < 68) return Click(Somewhere());
+    if (what < 76) return host.MoveMouse(Dice(2) ? Somewhere() : OnControl());
+    if (what < 80) return Hold(Dice(3) ? kLeftButton : kRightButton);
+    if (what < 86) return Drag(Main().imgSuwak), Drag(Main().imgSSuwak);
+    if (what < 90) return Click(MiddleOf(Dice(4) ? Main().imgBack : Main().imgUp));
+    if (what < 92 && &Front() != &Main()) return host.RequestClose(Front());
+    if (what < 92) return Dice(20) ? host.Minimise(Main()) : host.RequestClose(Main());
+    if (what < 93) return host.ActivateOther();
+    if (what < 95 && Main().WindowState == Form::kMinimised) host.Restore(Main());
+    if (what < 95) return host.Activate(strip && strip->Visible && Dice(4) == 0 ? *strip : Front());
+    if (what == 95) host.startResult = Dice(2) ? 33 : Dice(36) - 1;
+    if (what == 96) Click(MiddleOf(Main().picShot(0)));
+  }
+
+  void Must(bool holds, const char* what) {
+    if (!holds && fault_.empty()) fault_ = std::string(what) + ", at " + std::to_string(host.Now()) + " ms";
+  }
+
+  /// What holds whatever the user does.
+  void Check() {
+    const Image &on = Button(1), &off = Button(2);
+    const int arrays = Main().lblPos1.UBound() + Main().picShot.UBound();
+    const auto levels = static_cast<int>(Main().MenuPath.size());
+    Must(on.Visible != off.Visible, "one of the two sound buttons is there");
+    Must(on.Visible == on.Enabled && off.Visible == off.Enabled, "the hidden sound button takes no click");
+    Must(Main().MenuLevel >= 0 && Main().MenuLevel < levels, "the level is one of the path");
+    Must(!Main().imgPomoc.Visible || !Main().imgSeven.Visible, "at most one page is open");
+    Must(static_cast<int>(Main().Controls().size()) == designed_ + arrays, "there are no other controls");
+    CheckTransport(Main().PressedButton, Main().AM3.CurrentState());
+  }
+
+  void CheckTransport(int latch, int state) {
+    const bool pressed = latch < 0 || Button(latch).Picture() == Main().ImageList1(latch * 3 + 3);
+    Must(latch == -1 || (latch >= 4 && latch <= 6), "the latch is one of the transport buttons");
+    Must(latch != 5 || pressed, "a latched Pauza looks pressed");
+    // What follows holds unless the mouse has meddled with a wait.
+    if (meddled_ || Waits() || Main().picTlo.Visible || !Button(6).Visible) return;
+    Must(latch != 4 || state != ActiveMovie::kPaused, "a latched Start means that music plays");
+    Must(latch != 5 || state == ActiveMovie::kPaused, "a latched Pauza means that music is paused");
+    Must(latch != 6 || state <= ActiveMovie::kStopped, "a latched Stop means that nothing plays");
+    Must(latch != 6 || pressed, "a latched Stop looks pressed");
+  }
+
+  void CheckRest() {
+    Must(!Waits() && &Front() == &Main(), "nothing waits and no window is left open");
+    Must(!shell.modMain.ShowPicOpen, "the viewer is known to be closed");
+    Must(Main().MousePointer == Form::kDefaultPointer, "the hourglass is gone");
+    Must(Main().Timer1.Enabled, "the tick goes on");
+    Must(host.windows.size() == (shell.frmDociagLewo.Loaded() ? 6 : 1), "no window outlives its form");
+  }
+
+  static constexpr int kRest = 100;
+
+  Random& random_;
+  Figures& figures_;
+  std::string fault_;
+  int stepsLeft_ = 0;
+  int calms_ = kRest;     // since the burst, or that the program came back to its loop
+  bool meddled_ = false;  // the mouse did something while the program waited inside something
+  int held_ = 0;
+  int designed_ = 0;  // controls of the main window that are there in every view
+};
 
 }  // namespace
 
-void Monkey::Live(long steps) {
-  user_.Start();
-  ++figures_.shells;
-  if (user_.ended) return;
-  designed_ = Main().Controls().size() - static_cast<std::size_t>(Main().lblPos1.UBound());
-  while (steps > 0 && !user_.ended && fault_.empty()) {
-    const int burst = static_cast<int>(std::min<long>(steps, 10 + Below(random_, 60)));
-    steps -= burst;
-    Burst(burst);
-  }
-  figures_.exits += user_.ended;
-  figures_.starts += static_cast<long>(Host().started.size());
-  figures_.messages += static_cast<long>(Host().messages.size());
-}
-
-void Monkey::Burst(int steps) {
-  Host().deadline = Host().Now() + kPatience;
-  stepsLeft_ = steps;
-  calms_ = 0;
-  resting_ = false;
-  Host().After(1, [this] { Step(); });
-  while (!resting_ && !user_.ended && fault_.empty()) {
-    user_.Run(50);
-    resting_ = calms_ > 1;
-  }
-  if (user_.ended || !fault_.empty()) return;
-  meddled_ = false;
-  CheckRest();
-  GoUp();
-}
-
-void Monkey::Step() {
-  Check();
-  if (!fault_.empty()) return;
-  if (stepsLeft_ == 0) return Calm();
-  --stepsLeft_;
-  ++figures_.steps;
-  figures_.depth = std::max(figures_.depth, Depth());
-  figures_.nested += Depth() > 0;
-  meddled_ = meddled_ || Depth() > 0;
-  Act();
-  const int pause = Below(random_, 20) == 0 ? 1500 : Below(random_, 120);
-  Host().After(pause, [this] { Step(); });
-}
-
-void Monkey::Calm() {
-  if (resting_) return;
-  ++calms_;
-  for (const int button : {kLeftButton, kRightButton}) {
-    if (held_ & button) Host().Release(button);
-  }
-  held_ = 0;
-  Host().ActivateOther();
-  if (auto* viewer = user_.shell.frmShowPic.Loaded()) Host().RequestClose(*viewer);
-  if (auto* film = user_.shell.frmKino.Loaded()) Host().RequestClose(*film);
-  Host().After(500, [this] { Calm(); });
-}
-
-void Monkey::GoUp() {
-  if (Main().WindowState == Form::kMinimised) Host().Restore(Main());
-  Host().Activate(Main());
-  user_.Run(100);
-  if (disc_.Sound() && Main().imgUp.Enabled && user_.host.screen.width > 640) {
-    user_.Click(Main().imgUp);
-  } else {
-    Main().imgUp_Click();
-  }
-  user_.Run(1300);
-  Must(Main().MenuLevel == 0, "the way up leads to the root");
-  Must(Main().PressedButton == -1, "no button is latched in a list");
-  Must(Main().AM3.CurrentState() <= ActiveMovie::kStopped, "an entry's music ends when it is left");
-  CheckRest();
-}
-
-Form& Monkey::Front() {
-  if (auto* viewer = user_.shell.frmShowPic.Loaded()) return *viewer;
-  if (auto* film = user_.shell.frmKino.Loaded()) return *film;
-  return Main();
-}
-
-Point Monkey::OnControl(Form& form) {
-  const auto& controls = form.Controls();
-  for (int tries = 0; tries < 20; ++tries) {
-    const Control& control =
-        *controls[static_cast<std::size_t>(Below(random_, static_cast<int>(controls.size())))];
-    if (control.Visible && !control.Bounds().Empty()) return MiddleOf(control);
-  }
-  return Somewhere();
-}
-
-Point Monkey::MiddleOf(const Control& control) {
-  // A disc can put a control anywhere, the cursor stays on the screen.
-  const Point middle = user_.MiddleOf(control);
-  return {std::clamp(middle.x, 0, Host().screen.width - 1),
-          std::clamp(middle.y, 0, Host().screen.height - 1)};
-}
-
-Point Monkey::Somewhere() {
-  return {Below(random_, Host().screen.width), Below(random_, Host().screen.height)};
-}
-
-void Monkey::Click(Point at) {
-  // Most clicks on the exit button are spared, else no life would be long.
-  const Rect form = Main().Place();
-  const Rect exit = Main().ButtonM(0).Bounds().Moved({form.left, form.top});
-  if (exit.Contains(at) && Below(random_, 20) != 0) return Host().MoveMouse(at);
-  Host().Click(at);
-  held_ &= ~kLeftButton;
-}
-
-void Monkey::Hold(int button) {
-  if (held_ & button) {
-    Host().Release(button);
-  } else {
-    Host().Press(button);
-  }
-  held_ ^= button;
-}
-
-void Monkey::Drag() {
-  for (const Image* knob : {&Main().imgSuwak, &Main().imgSSuwak}) {
-    if (!knob->Visible) continue;
-    const Point at = MiddleOf(*knob);
-    if (!held_) {
-      Host().MoveMouse(at);
-      Hold(kLeftButton);
-    }
-    Host().MoveMouse({at.x, std::clamp(at.y + Below(random_, 300) - 150, 0, Host().screen.height - 1)});
-    if (Below(random_, 3) == 0 && (held_ & kLeftButton)) Hold(kLeftButton);
-  }
-}
-
-void Monkey::ChangeWindows() {
-  switch (Below(random_, 8)) {
-    case 0: Host().Minimise(Main()); break;
-    case 1:
-    case 2: Host().ActivateOther(); break;
-    case 3:
-      if (&Front() != &Main() || Below(random_, 20) == 0) Host().RequestClose(Front());
-      break;
-    case 4:
-      if (auto* strip = user_.shell.frmDociagGora.Loaded(); strip && strip->Visible) Host().Activate(*strip);
-      break;
-    default:
-      if (Main().WindowState == Form::kMinimised) Host().Restore(Main());
-      Host().Activate(Front());
-      break;
-  }
-}
-
-void Monkey::Act() {
-  const int what = Below(random_, 100);
-  // In the view of an entry the transport is what matters.
-  if (what < 8 && !Main().picTlo.Visible) {
-    Click(MiddleOf(Main().ButtonM(4 + what % 3)));
-  } else if (what < 25) {
-    Click(MiddleOf(Main().ButtonM(1 + Below(random_, 9))));
-  } else if (what < 42) {
-    const Point label = MiddleOf(Main().lblPos1(Below(random_, Main().lblPos1.UBound() + 1)));
-    Host().MoveMouse(label);
-    if (what < 38) Click(label);
-  } else if (what < 62) {
-    Click(OnControl(Front()));
-  } else if (what < 68) {
-    Click(Somewhere());
-  } else if (what < 76) {
-    Host().MoveMouse(Below(random_, 2) ? Somewhere() : OnControl(Front()));
-  } else if (what < 80) {
-    Hold(Below(random_, 3) ? kLeftButton : kRightButton);
-  } else if (what < 86) {
-    Drag();
-  } else if (what < 90) {
-    Click(MiddleOf(Below(random_, 4) ? Main().imgBack : Main().imgUp));
-  } else if (what < 94) {
-    ChangeWindows();
-  } else if (what < 96) {
-    Host().startResult = Below(random_, 2) ? 33 : Below(random_, 36) - 1;
-  } else if (what < 97) {
-    Click(MiddleOf(Main().picShot(0)));
-  }
+std::string LiveAsAMonkey(const MonkeyDisc& disc, Random& random, long steps, Figures& figures) {
+  return Monkey(disc, random, figures).Live(steps);
 }
 
 }  // namespace orvanta::test

@@ -1,17 +1,17 @@
-// Random users over random discs. ORVANTA_MONKEY_STEPS and ORVANTA_MONKEY_SEED change how many steps they
-// make in all and which they are; a fault is told with the seed that brings it back in a run of few steps.
+// Random users over random discs, and over discs with one fault. ORVANTA_MONKEY_STEPS and ORVANTA_MONKEY_SEED
+// change how many steps the first make in all and which they are; a fault is told with the seed that brings
+// it back in a run of few steps.
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <cstdio>
 #include <cstdlib>
-#include <ctime>
 
 #include "monkey/Monkey.h"
 
 namespace orvanta::test {
 namespace {
+
+namespace fs = std::filesystem;
 
 long Setting(const char* name, long otherwise) {
   const char* text = std::getenv(name);
@@ -19,38 +19,82 @@ long Setting(const char* name, long otherwise) {
 }
 
 TEST(Monkey, LeavesTheProgramWhole) {
-  constexpr long kStepsADisc = 4000;
   const long wanted = Setting("ORVANTA_MONKEY_STEPS", 100000);
-  const auto seed = static_cast<std::uint32_t>(Setting("ORVANTA_MONKEY_SEED", 1));
-  const auto begin = std::chrono::steady_clock::now();
-  const std::clock_t busyBefore = std::clock();
-  Figures f;
-  while (f.steps < wanted) {
-    const auto discSeed = seed + static_cast<std::uint32_t>(f.discs);
-    std::mt19937 random(discSeed);
-    const MonkeyDisc disc(random);
-    ++f.discs;
-    for (const long end = std::min(wanted, f.steps + kStepsADisc); f.steps < end;) {
-      TestShell user(disc);
-      disc.Furnish(user.host, random);
-      Monkey monkey(user, disc, random, f);
-      const long before = f.steps;
-      ASSERT_NO_THROW(monkey.Live(std::min<long>(end - f.steps, 1500))) << "seed " << discSeed;
-      ASSERT_EQ(monkey.Fault(), "") << "seed " << discSeed;
-      ASSERT_GT(f.steps, before) << "seed " << discSeed << ": the program ended by itself";
+  Figures figures;
+  for (long seed = Setting("ORVANTA_MONKEY_SEED", 1); figures.steps < wanted; ++seed) {
+    Random random(static_cast<std::uint32_t>(seed));
+    const bool isWellFormed = Below(random, 2) == 0;
+    MonkeyDisc disc(random, isWellFormed);
+    if (!isWellFormed) disc.Spoil(random);
+    for (const long end = std::min(wanted, figures.steps + 4000); figures.steps < end;) {
+      const long before = figures.steps;
+      ASSERT_NO_THROW(ASSERT_EQ(LiveAsAMonkey(disc, random, 1500, figures), "")) << "seed " << seed;
+      ASSERT_GT(figures.steps, before) << "seed " << seed << ": the program ended by itself";
     }
   }
-  const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
-  const double busy = static_cast<double>(std::clock() - busyBefore) / CLOCKS_PER_SEC;
-  std::printf("monkey: %ld steps in %.1f s, %.1f s of the processor (%.0f steps for each)\n", f.steps,
-              took.count(), busy, static_cast<double>(f.steps) / busy);
-  std::printf("        %ld discs, %ld shells, %ld exits, %ld programs, %ld messages\n", f.discs, f.shells,
-              f.exits, f.starts, f.messages);
-  std::printf("        steps in detail %ld, viewer %ld, cinema %ld, waits %ld, depth %d\n", f.details,
-              f.viewers, f.films, f.nested, f.depth);
   // A monkey that never comes anywhere would find nothing.
-  EXPECT_GT(f.details, 0);
-  EXPECT_GT(f.nested, 0);
+  EXPECT_TRUE(figures.windows > 0 && figures.waits > 0);
+}
+
+/// A disc with an entry of each kind and a list that needs the slider.
+struct BadDisc : testing::Test {
+  BadDisc() {
+    disc.Menu("MAINMENU", {"Szachy", "Walc", "Kino", "Gry"});
+    disc.Menu("Gry", std::vector<std::string>(14, "Szachy"));
+    disc.Entry("Szachy", {{"Execute", "%:\\gra.exe"}, {"Parameters", "-x"}, {"Note", "Gra"}});
+    disc.Shots("Szachy", 4);
+    disc.Entry("Walc", {{"PlayAs", "MUSIC"}, {"Parameters", "%:\\Data\\Sound\\song.wav"}});
+    disc.Entry("Kino", {{"PlayAs", "FILM"}, {"Parameters", "%:\\film.avi"}});
+  }
+  /// A short life on the disc as it is now; it must end well.
+  void Use(const std::string& fault) {
+    Figures figures;
+    ASSERT_NO_THROW(ASSERT_EQ(LiveAsAMonkey(disc, random, 100, figures), "")) << fault;
+    ASSERT_GT(figures.steps, 0) << fault;
+  }
+
+  Random random;
+  MonkeyDisc disc{random, false};
+};
+
+TEST_F(BadDisc, LacksAnyOneKeyOrHasGarbageInIt) {
+  for (const auto& [section, key] : disc.Keys()) {
+    const std::string value = disc.Value(section, key);
+    disc.Remove(section, key);
+    Use("no " + key);
+    // What is no number at all reads as that of a missing key.
+    const bool number = value.find_first_not_of("0123456789") == value.npos;
+    for (const std::string garbage : {number ? "-99999999999" : "%:\\..\\żółw*?<>|\\", "99999999999"}) {
+      disc.Set(section, key, garbage);
+      Use(key + "=" + garbage);
+    }
+    disc.Set(section, key, value);
+  }
+}
+
+TEST_F(BadDisc, HasAnyOneFileCutOffOrGone) {
+  EXPECT_GT(disc.Files().size(), 60U);
+  for (const fs::path& file : disc.Files()) {
+    fs::rename(disc.Folder() / file, disc.Folder() / "kept");
+    Use("no " + file.string());
+    disc.File(file, "GIF89a\x20");
+    Use("no more of " + file.string());
+    fs::rename(disc.Folder() / "kept", disc.Folder() / file);
+  }
+}
+
+TEST_F(BadDisc, HasNoSettingsThatCanBeRead) {
+  const fs::path menu = disc.Data() / "Menu.ini";
+  disc.File("Data/Menu.ini", std::string(100000, '\0'));
+  Use("zeros");
+  fs::remove(menu);
+  fs::create_directory(menu);
+  Use("a folder for the file");
+  fs::remove_all(disc.Data());
+  Use("no Data");
+  fs::create_directory(disc.Data());
+  fs::create_symlink("Menu.ini", menu);
+  Use("a link to itself");
 }
 
 }  // namespace

@@ -1,25 +1,20 @@
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "platform/ControlArray.h"
-#include "support/TestForm.h"
-#include "support/TestShell.h"
+#include "platform/Controls.h"
+#include "platform/Form.h"
+#include "platform/Region.h"
+#include "platform/headless/HeadlessHost.h"
 
 namespace orvanta::test {
 namespace {
 
-using Names = std::vector<std::string>;
-
 /// From the bottom to the top: `low`, the boxes, `high` and a frame that holds `inner`.
-class Board : public TestForm {
- public:
+struct Board : Form {
   explicit Board(HeadlessHost& host)
-      : TestForm(host),
-        low(*this, "low"),
-        boxes(*this, "boxes", 2),
-        high(*this, "high"),
-        frame(*this, "frame"),
-        inner(frame, "inner"),
-        line(*this, "line") {
+      : Form(host, {.name = "Board", .width = 3000, .height = 3000, .centred = false}) {
     low.Move(0, 0, 100, 100);
     boxes(0).Move(10, 10, 50, 50);
     boxes(1).Move(20, 20, 50, 50);
@@ -29,51 +24,52 @@ class Board : public TestForm {
     for (Control* control : Controls()) Watch(*control);
     Visible = true;
   }
-
-  Image low;
-  ControlArray<Image> boxes;
-  Image high;
-  PictureBox frame;
-  Image inner;
-  Line line;
-  Names heard;
-
   void Watch(Control& control) {
-    const std::string name = control.Name + (control.Index < 0 ? "" : std::to_string(control.Index));
-    control.Click = [this, name] { heard.push_back(name); };
-    control.MouseMove = [this, name](const MouseEvent& e) { Note(name + " move", e); };
-    control.MouseUp = [this, name](const MouseEvent& e) { Note(name + " up", e); };
+    const auto note = [this, &control](const std::string& what, double x) {
+      heard += control.Name + (control.Index < 0 ? "" : std::to_string(control.Index)) + what;
+      if (!what.empty()) heard += " at " + std::to_string(static_cast<int>(x)) + "; ";
+    };
+    control.Click = [note] { note("", 0); };
+    control.MouseMove = [note](const MouseEvent& e) { note(" move " + std::to_string(e.Button), e.X); };
+    control.MouseUp = [note](const MouseEvent& e) { note(" up " + std::to_string(e.Button), e.X); };
   }
 
- private:
-  void Note(const std::string& what, const MouseEvent& e) {
-    heard.push_back(what + " " + std::to_string(e.Button) + " at " + std::to_string(static_cast<int>(e.X)) +
-                    "," + std::to_string(static_cast<int>(e.Y)));
-  }
+  Image low{*this, "low"};
+  ControlArray<Image> boxes{*this, "boxes", 2};
+  Image high{*this, "high"};
+  PictureBox frame{*this, "frame"};
+  Image inner{frame, "inner"};
+  Line line{*this, "line"};
+  std::string heard;
 };
 
-class OnTheBoard : public testing::Test {
- protected:
-  HeadlessHost host{"."};
-  Board board{host};
-
-  std::string Clicked(Point at) {
-    host.MoveMouse(at);
-    host.Loop().Pump();
-    host.Press();
+struct OnTheBoard : testing::Test {
+  /// Does something, lets the board hear of it and gives what it heard.
+  std::string Heard(const std::function<void()>& act) {
     host.Loop().Pump();
     board.heard.clear();
-    host.Release();
+    act();
     host.Loop().Pump();
-    return board.heard.empty() ? "" : board.heard.back();
+    return board.heard;
+  }
+  std::string Clicked(Point at) {
+    const std::string heard = Heard([&] { host.Click(at); });
+    return heard.substr(heard.find_last_of(' ') + 1);
   }
   /// What is painted again because of the action.
-  template <class Action>
-  Rect Painted(Action action) {
+  Rect Painted(const std::function<void()>& act) {
     host.Loop().Pump();
-    action();
+    act();
     return host.WindowOf(board).dirty;
   }
+  Image& LoadBox() {
+    board.boxes.LoadNext();
+    board.Watch(board.boxes(board.boxes.UBound()));
+    return board.boxes(board.boxes.UBound());
+  }
+
+  HeadlessHost host{"."};
+  Board board{host};
 };
 
 TEST_F(OnTheBoard, TheTopmostControlThatTakesTheMouseIsClicked) {
@@ -83,120 +79,57 @@ TEST_F(OnTheBoard, TheTopmostControlThatTakesTheMouseIsClicked) {
   board.boxes(1).Visible = false;
   EXPECT_EQ(Clicked({45, 45}), "boxes0");
   EXPECT_EQ(Clicked({60, 60}), "low") << "the right and lower edge are outside";
-  EXPECT_EQ(Clicked({150, 10}), "");
-  // A new element stands above its array, under what the design put above that.
   board.high.Enabled = true;
-  board.boxes.LoadNext();
-  board.Watch(board.boxes(2));
+  Image& added = LoadBox();
   EXPECT_EQ(Clicked({15, 15}), "boxes0") << "not shown yet";
-  board.boxes(2).Visible = true;
-  EXPECT_EQ(Clicked({15, 15}), "boxes2");
-  EXPECT_EQ(Clicked({45, 45}), "high");
+  added.Visible = true;
+  EXPECT_EQ(Clicked({15, 15}), "boxes2") << "above its array";
+  EXPECT_EQ(Clicked({45, 45}), "high") << "but under what the design put above that";
   EXPECT_EQ(Clicked({125, 155}), "inner");
   EXPECT_EQ(Clicked({115, 155}), "") << "its holder clips it";
-  EXPECT_EQ(Clicked({125, 165}), "");
-  EXPECT_EQ(Clicked({125, 125}), "frame");
 }
 
-TEST_F(OnTheBoard, APressedControlKeepsTheMouseUntilTheLastRelease) {
+TEST_F(OnTheBoard, APressedControlKeepsTheMouseUntilTheLastReleaseOrItsEnd) {
   host.MoveMouse({125, 155});
   host.Press();
-  host.Loop().Pump();
-  board.heard.clear();
-  host.MoveMouse({5, 300});
-  host.Loop().Pump();
-  host.Press(kRightButton);
-  host.MoveMouse({6, 300});
-  host.Release(kRightButton);
-  host.Release();
-  host.Loop().Pump();
-  EXPECT_EQ(board.heard, (Names{"inner move 1 at -105,150", "inner move 3 at -104,150",
-                                "inner up 2 at -104,150", "inner up 1 at -104,150"}))
-      << "and is not clicked, since the release was outside";
-  EXPECT_EQ(Clicked({5, 5}), "low");
-}
-
-TEST_F(OnTheBoard, AControlThatGoesWhileItIsHeldHearsNothingMore) {
-  board.boxes.LoadNext();
-  board.Watch(board.boxes(2));
-  board.boxes(2).Visible = true;
+  EXPECT_EQ(Heard([&] { host.MoveMouse({5, 300}); }), "inner move 1 at -105; ");
+  EXPECT_EQ(Heard([&] { host.Press(kRightButton); }), "");
+  EXPECT_EQ(Heard([&] { host.Release(kRightButton); }), "inner up 2 at -105; ");
+  EXPECT_EQ(Heard([&] { host.Release(); }), "inner up 1 at -105; ") << "no click, the release was outside";
+  LoadBox().Visible = true;
   host.MoveMouse({15, 15});
   host.Press();
-  host.Loop().Pump();
-  board.heard.clear();
-  board.boxes.UnloadAbove0();
-  host.MoveMouse({16, 16});
-  host.Release();
-  host.Loop().Pump();
-  EXPECT_EQ(board.heard, Names{"boxes0 move 1 at 6,6"});
-  // One that unloads itself by its own click.
+  Heard([&] { board.boxes.UnloadAbove0(); });
+  EXPECT_EQ(Heard([&] { host.MoveMouse({16, 16}), host.Release(); }), "boxes0 move 1 at 6; ");
   board.boxes.LoadNext();
   board.boxes(1).Visible = true;
   board.boxes.Click = [this](std::int16_t) { board.boxes.UnloadAbove0(); };
   Clicked({15, 15});
-  EXPECT_EQ(board.boxes.UBound(), 0);
+  EXPECT_EQ(board.boxes.UBound(), 0) << "unloaded by its own click";
 }
 
 TEST_F(OnTheBoard, AChangeMarksTheOldAndTheNewPlaceAndNothingElse) {
   EXPECT_EQ(Painted([&] { board.high.Left = 60; }), (Rect{40, 40, 40, 20}));
   EXPECT_EQ(Painted([&] { board.high.Left = 60; }), Rect{}) << "it is there already";
   EXPECT_EQ(Painted([&] { board.high.Visible = false; }), (Rect{60, 40, 20, 20}));
-  EXPECT_EQ(Painted([&] { board.high.Top = 0; }), Rect{});
-  EXPECT_EQ(Painted([&] { board.line.BorderWidth = 3; }), Rect{}) << "a line begins hidden";
-  EXPECT_EQ(Painted([&] { board.line.Visible = true; }), (Rect{0, 0, 2, 2})) << "clipped by the form";
-  EXPECT_EQ(Painted([&] { board.line.Place(50, 60, 50, 80); }), (Rect{0, 0, 52, 82}));
+  EXPECT_EQ(Painted([&] { board.high.Top = 0; }), Rect{}) << "hidden";
+  EXPECT_EQ(Painted([&] { board.line.Visible = true; }), (Rect{0, 0, 1, 1})) << "clipped by the form";
+  EXPECT_EQ(Painted([&] { board.line.Place(50, 60, 50, 80); }), (Rect{0, 0, 51, 81}));
   EXPECT_EQ(Painted([&] { board.inner.Top = 20; }), (Rect{120, 140, 20, 20})) << "clipped by its holder";
-  EXPECT_EQ(Painted([&] { board.frame.Visible = false; }), (Rect{120, 120, 40, 40}));
-  EXPECT_EQ(Painted([&] { board.inner.Top = 0; }), Rect{});
   EXPECT_EQ(Painted([&] { board.boxes.UnloadAbove0(); }), (Rect{20, 20, 50, 50}));
   EXPECT_EQ(Painted([&] { board.low.Left = 1e300; }), (Rect{0, 0, 100, 100})) << "far outside";
-  EXPECT_EQ(Painted([&] { board.Visible = false, board.low.Left = 0; }), Rect{});
-}
-
-TEST_F(OnTheBoard, RefreshIsSeenBeforeTheProgramBlocks) {
-  HeadlessWindow& window = host.WindowOf(board);
-  host.Loop().Pump();
-  const int before = window.paints;
-  board.high.Left = 0;
+  board.high.Picture = std::make_shared<PictureFile>("art", Size{30, 10});
+  board.high.Picture = nullptr;
+  EXPECT_EQ(board.high.Bounds(), (Rect{60, 0, 30, 10})) << "a lost picture leaves something to click";
+  board.high.Visible = true;
+  const int before = host.WindowOf(board).paints;
   board.high.Refresh();
-  host.Sleep(1000);
-  EXPECT_EQ(window.paints, before + 1);
+  EXPECT_EQ(host.WindowOf(board).paints, before + 1) << "seen before the program blocks";
 }
 
-TEST(Controls, TakeTheSizeOfTheirPictures) {
-  HeadlessHost host(".");
-  TestForm form(host);
-  const auto art = std::make_shared<PictureFile>("art", Size{30, 20});
-  Image image(form, "image");
-  image.Picture = art;
-  EXPECT_EQ(image.Bounds(), (Rect{0, 0, 30, 20}));
-  image.Picture = nullptr;
-  EXPECT_EQ(image.Bounds(), (Rect{0, 0, 30, 20})) << "a lost picture leaves something to click";
-  image.Stretch = true;
-  image.Width = 7;
-  image.Picture = art;
-  EXPECT_EQ(image.Bounds(), (Rect{0, 0, 7, 20}));
-  PictureBox box(form, "box");
-  box.Picture = art;
-  EXPECT_EQ(box.Bounds(), Rect{});
-  box.AutoSize = true;
-  box.Picture = std::make_shared<PictureFile>("art", Size{8, 9});
-  EXPECT_EQ(box.Bounds(), (Rect{0, 0, 8, 9}));
-}
-
-TEST(RestingProgram, PaintsNothing) {
-  TestDisc disc;
-  disc.Menu("MAINMENU", std::vector<std::string>(20, "Gra"));
-  TestShell user(disc);
-  user.Start();
-  user.host.MoveMouse(user.MiddleOf(user.Main().lblPos1(2)));
-  user.Run(2000);
-  std::vector<int> before, after;
-  for (const HeadlessWindow* window : user.host.windows) before.push_back(window->paints);
-  user.Run(10 * 60 * 1000);
-  for (const HeadlessWindow* window : user.host.windows) after.push_back(window->paints);
-  EXPECT_EQ(before, after);
-  EXPECT_EQ(before.size(), 6U);
+TEST(Region, LeavesOutWhatItGoesRoundTwice) {
+  const std::array<Point, 8> twice{{{0, 0}, {9, 0}, {9, 9}, {0, 9}, {3, 3}, {6, 3}, {6, 6}, {3, 6}}};
+  EXPECT_TRUE(!Region::Polygon(twice).Contains({5, 4}) && Region::Polygon(twice).Contains({7, 4}));
 }
 
 }  // namespace

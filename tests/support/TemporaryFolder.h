@@ -28,7 +28,7 @@ class TemporaryFolder {
 
   /// Writes a file, its folders too.
   std::filesystem::path File(const std::string& name, const std::string& bytes) const {
-    const std::filesystem::path made = path_ / name;
+    std::filesystem::path made = path_ / name;
     std::filesystem::create_directories(made.parent_path());
     std::ofstream(made, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     return made;

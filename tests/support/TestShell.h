@@ -16,36 +16,43 @@ class TestShell {
   bool ended = false;  ///< the program has ended by itself
 
   MainForm& Main() { return *shell.MainForm; }
+  Image& Button(int i) { return Main().ButtonM(i); }
 
   /// Calls `Main` and returns with the start screen.
   void Launch() {
     Guard([this] { shell.modMain.Main(); });
   }
-  /// Launches the shell and lets the start screen and the loading of the main window pass.
-  void Start() {
-    Launch();
-    Run(8000);
-  }
   /// Lets the program run for so long, unless it has ended.
   void Run(Milliseconds duration) {
     Guard([&] { host.RunFor(duration); });
   }
+  /// Does one thing after another, parted by commas:
+  ///   start                       launches the shell and lets everything load
+  ///   run 500                     lets the time pass
+  ///   choose 2                    clicks a label of the list and waits for the crosshair and what follows
+  ///   press 4                     clicks a button of the bar and moves the mouse aside
+  ///   click imgUp, hover kino0    a control of the main window or the viewer, or a button of the cinema
+  ///   aside                       moves the mouse to where the main window has no control
+  ///   drag imgSuwak 30, drop      takes a control and moves the mouse down by so many pixels; lets go
+  ///   leave, return               to another program, to this one
+  ///   minimise, restore, close    the main window; the window in front
+  ///   after 500 click imgBack     any of these but drag, when so long has passed
+  void Do(const std::string& script);
 
+  Control& Find(const std::string& name);
   /// The middle of a control of a form, in pixels of the screen.
   Point MiddleOf(const Control& control) const;
-  void Click(const Control& control) {
-    host.Click(MiddleOf(control));
-    Run(1);
-  }
-  /// Moves the mouse to a menu label, clicks it and waits for the crosshair and what follows.
-  void Choose(int index) {
-    host.MoveMouse(MiddleOf(Main().lblPos1(index)));
-    Run(100);
-    Click(Main().lblPos1(index));
-    Run(2000);
-  }
+  /// The viewer or the cinema if one is open, else the main window.
+  Form& Front();
+  /// How buttons of the bar look: 0 normal, 1 under the cursor, 2 pressed.
+  std::string Looks(std::initializer_list<int> buttons);
+  /// What was asked of the player that holds `file`, from the `from`-th of all calls on: "open, run".
+  std::string Calls(const std::string& file, std::size_t from = 0) const;
 
  private:
+  /// Only tells the host of it.
+  void Act(const std::string& verb, const std::string& what);
+  void DoOne(const std::string& command);
   template <class Action>
   void Guard(Action action) {
     if (ended) return;
@@ -56,5 +63,10 @@ class TestShell {
     }
   }
 };
+
+/// File name of the picture that a control shows now; empty if it has none.
+std::string Shown(const Image& image);
+/// The digit of a button's picture: 0 normal, 1 under the cursor, 2 pressed.
+std::string LookOf(const Image& button);
 
 }  // namespace orvanta::test

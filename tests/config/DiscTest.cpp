@@ -1,0 +1,152 @@
+// What a disc's paths, settings and values are read as.
+
+#include <gtest/gtest.h>
+
+#include <cfenv>
+#include <cmath>
+#include <limits>
+
+#include "config/Fold1250.h"
+#include "config/NumberedKey.h"
+#include "config/Settings.h"
+#include "config/Values.h"
+#include "config/Windows1250.h"
+#include "support/TemporaryFolder.h"
+
+namespace orvanta::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A path and what it leads to from the root of the disc; or what is missing.
+constexpr const char* kPaths[][2] = {{"D:\\Data\\Menu.ini", "Data/Menu.ini"},
+                                     {"d:\\DATA\\mENU.ini", "Data/MENU.INI"},  // the first of two
+                                     {"D:/data/ŻABA\\gęŚ.gif", "Data/Żaba/Gęś.GIF"},
+                                     {"\\", "."},
+                                     {"", "(file)"},
+                                     {"D:\\None\\Menu.ini", "(folder)"},
+                                     {"D:\\Data\\Menu.ini\\x", "(folder)"},
+                                     {"\\\\server\\share\\x", "(folder)"},
+                                     {"D:\\..\\..\\Data\\.\\None\\..\\\\Żaba\\..\\Menu.ini", "Data/Menu.ini"},
+                                     {"\\..\\outside.txt", "(file)"},
+                                     {"..\\..\\outside.txt", "(file)"},
+                                     {"mENU.ini", "Data/MENU.INI"},  // of the current folder
+                                     {"D:Data\\Menu.ini", "Data/Menu.ini"},
+                                     {"D:\\linked\\menu.ini", "Linked/MENU.INI"},
+                                     {"D:\\round\\x", "(folder)"},
+                                     {"D:\\\xFF\xFE", "(file)"}};
+
+TEST(DiscDrive, FindsNamesWithoutRegardToCaseAndNeverLeavesItsRoot) {
+  const TemporaryFolder folder;
+  const fs::path root = folder.Path() / "disc";
+  for (const char* file :
+       {"disc/Data/Menu.ini", "disc/Data/MENU.INI", "disc/Data/Żaba/Gęś.GIF", "outside.txt"})
+    folder.File(file, "");
+  fs::create_directory_symlink("Data", root / "Linked");
+  fs::create_symlink("nowhere", root / "Broken");
+  fs::create_directory_symlink("Round", root / "Round");
+  const DiscDrive drive(root);
+  fs::current_path(root / "Data");
+  for (const auto& [path, expected] : kPaths) {
+    const HostPath found = drive.Find(path);
+    const char* const missing = found.outcome == HostPath::Outcome::FileMissing ? "(file)" : "(folder)";
+    EXPECT_EQ(found ? found.path.lexically_relative(root).string() : missing, expected) << path;
+  }
+  fs::current_path(folder.Path());
+  EXPECT_EQ(drive.Find("OUTSIDE.txt").path, folder.Path() / "outside.txt");
+  fs::current_path(fs::temp_directory_path());
+  EXPECT_TRUE(DiscDrive(root, 'g').Find("G:\\Data\\Menu.ini"));
+  EXPECT_FALSE(drive.Find(std::string_view("D:\\Data\\Menu.ini\0x", 18)));
+  EXPECT_FALSE(drive.Find("D:\\" + std::string(1 << 20, '\\') + "Data")) << "an absurd path takes no time";
+}
+
+/// A disc that is nothing but its two files, whose texts are UTF-8 here.
+class IniReadTest : public ::testing::Test {
+ protected:
+  void Write(const char* file, const std::string& text) { disc.File(file, ToWindows1250(text).value()); }
+  std::string Read(std::string_view section, std::string_view key) {
+    return ini.IniRead(section, key, kMenuFile);
+  }
+
+  TemporaryFolder disc;
+  INI_Read ini{"D:\\", DiscDrive(disc.Path())};
+};
+
+TEST_F(IniReadTest, AsksTheSecondFileForWhatTheFirstLacksAndConvertsAtItsEdge) {
+  EXPECT_EQ(Read("s", "both"), "");
+  Write("Data/Param.ini", "[s]\nboth=2\nempty=2\nsecond=%:\\p\n");
+  EXPECT_EQ(Read("s", "both"), "2");
+  std::string polish;
+  for (int i = 0; i < 300; ++i) polish += "ą";
+  Write("Data/Menu.ini",
+        "[s]\nboth=1\nempty=\nb=%:\nc=%x\nd=x%:\\y\nf=\"%:\\q\"\nlong=" + polish + "\n[Żółw]\nOpis=Zażółć\n");
+  EXPECT_EQ(Read("s", "both") + Read("s", "empty") + Read("S", "SECOND") + Read("t", "k"), "12D:\\p");
+  EXPECT_EQ(Read("s", "b") + Read("s", "c") + Read("s", "d") + Read("s", "f"), "D:%xx%:\\yD:\\q");
+  EXPECT_EQ(INI_Read("\\", DiscDrive(disc.Path())).IniRead("s", "f", kMenuFile), "\\:\\q");
+  EXPECT_EQ(Read("żÓŁW", "opis") + Read("Żółw", "Ω") + Read("日", "Opis"), "Zażółć");
+  EXPECT_EQ(Read("s", "long"), polish.substr(0, 508))
+      << "254 bytes of the file: cut first, through no letter";
+}
+
+TEST_F(IniReadTest, MakesPathsOfValuesAndCountsARunUpToItsFirstGap) {
+  EXPECT_EQ(ini.SoundPath("ą:\\a.mid"), "ą:\\a.mid");
+  EXPECT_EQ(ini.SoundPath("ab:"), "D:\\Data\\Sound\\ab:");
+  EXPECT_EQ(ini.SoundPath(""), "D:\\Data\\Sound\\");
+  EXPECT_FALSE(Settings(ini).Has<Kind::Picture>({"GLOBAL", "StartPic"}));
+  Write("Data/Menu.ini", "[MAINMENU]\nMenu1=a\nMenu2=b\nMenu4=d\nMenu05=e\n");
+  EXPECT_EQ(CountRun(ini, "MAINMENU", "Menu"), 2);
+  Write("Data/Param.ini", "[MAINMENU]\nMenu3=c\n");
+  EXPECT_EQ(CountRun(ini, "MAINMENU", "Menu"), 4);
+  std::string endless = "[MAINMENU]\n";
+  for (int i = 1; i <= 1100; ++i) endless += NumberedKey("Menu", i) + "=x\n";
+  Write("Data/Menu.ini", endless);
+  EXPECT_EQ(CountRun(ini, "MAINMENU", "Menu"), 1001);
+}
+
+TEST(Values, RoundToTheNearestAndTiesToEvenWithinTheirRange) {
+  const double cases[][2] = {{0.5, 0},         {1.5, 2},       {-0.5, 0},          {-1.5, -2},
+                             {-2.5, -2},       {2.49, 2},      {-2.51, -3},        {4e4, 32767},
+                             {32767.5, 32767}, {-4e4, -32768}, {-32768.5, -32768}, {0.49999999999999994, 0},
+                             {std::nan(""), 0}};
+  std::fesetround(FE_UPWARD);
+  for (const auto& [value, expected] : cases) EXPECT_EQ(CInt(value), expected) << value;
+  EXPECT_EQ(CLng(2147483646.5), 2147483646);
+  EXPECT_EQ(CLng(-1e300), std::numeric_limits<std::int32_t>::min());
+  const std::pair<const char*, double> numbers[] = {
+      {" +7\t", 7},  {"-3.5", -3.5},      {"2,25", 2.25},
+      {"1e2", 100},  {".25", .25},        {"5.", 5},
+      {"1e-999", 0}, {"-0.0001e-999", 0}, {"1e999", std::numeric_limits<double>::max()}};
+  for (const auto& [text, number] : numbers) EXPECT_EQ(DoubleOf(text), number) << text;
+  EXPECT_EQ(WholeOf("-99999999999999999999"), -32768);
+  EXPECT_EQ(SingleOf("-1e39"), std::numeric_limits<float>::lowest());
+  EXPECT_EQ(SingleOf("-0." + std::string(60, '0') + "1"), 0);
+  std::fesetround(FE_TONEAREST);
+  for (const char* text :
+       {"",      " ",       "12 px", "1 2", "0x10", "inf", "nan", "-",      "+-5",   "--5",
+        "1.2.3", "1,000.5", ",",     "e5",  "1e",   "٣",   "10%", "Truely", "False", "-0"}) {
+    EXPECT_EQ(DoubleOf(text), 0) << text;
+    EXPECT_FALSE(BooleanOf(text)) << text;
+  }
+  for (const char* text : {" TRUE ", "-1", "0.4", "1e999"}) EXPECT_TRUE(BooleanOf(text)) << text;
+}
+
+TEST(Windows1250, GivesEveryByteBackFoldsCapitalsAndRefusesWhatItCannotWrite) {
+  EXPECT_EQ(FromWindows1250("Za\xBF\xF3\xB3\xE6 g\xEA\x9Cl\xB9 ja\x9F\xF1 \x80"), "Zażółć gęślą jaźń €");
+  const std::string capitals = "ABCXYZŠŚŤŽŹŁĄŞŻĽŔÁÂĂÄĹĆÇČÉĘËĚÍÎĎĐŃŇÓÔŐÖŘŮÚŰÜÝŢ";
+  EXPECT_TRUE(EqualNoCase(capitals, "abcxyzšśťžźłąşżľŕáâăäĺćçčéęëěíîďđńňóôőöřůúűüýţ"));
+  std::size_t changed = 0;
+  for (int i = 0; i < 256; ++i) {
+    const std::string byte(1, static_cast<char>(i));
+    EXPECT_EQ(ToWindows1250(FromWindows1250(byte)), byte) << i;
+    changed += i >= 128 && Fold1250(byte[0]) != byte[0];
+  }
+  EXPECT_EQ(changed, ToWindows1250(capitals)->size() - 6);
+  EXPECT_FALSE(EqualNoCase("×", "÷") || EqualNoCase("a", "ab") || EqualNoCase("Ω", "ω"));
+  EXPECT_TRUE(EqualNoCase("Ω-Setup", "Ω-SETUP")) << "beyond the code page only the plain letters fold";
+  for (const char* text :
+       {"Ω", "😀", "\u0080", "\x80", "\xC5", "\xC5z", "\xC1\xA1", "\xE0\x81\xA1", "\xE2\x82"})
+    EXPECT_EQ(ToWindows1250(text), std::nullopt) << text;
+}
+
+}  // namespace
+}  // namespace orvanta::test
