@@ -7,8 +7,8 @@
 
 namespace orvanta {
 
-/// Where the cursor is, in pixels of all the screens together. Asking the server wakes two threads and is most
-/// of what a tick costs, and over a window of the program every move is told anyway.
+/// Where the cursor is, in pixels of all the screens together. Asking the server wakes two threads and is
+/// most of what a tick costs, and over a window of the program every move is told anyway.
 class CursorWatch {
  public:
   /// A window of the program was told of the cursor.

@@ -23,6 +23,7 @@ constexpr int kCriticalIcon = 16;
 /// Before Qt starts: one pixel of the disc is one of the screen, and windows can say where they stand, which
 /// Wayland alone does not let them.
 int& PreparedForQt(int& argc) {
+  argc = std::min(argc, 1);  // Qt would obey options of its own
   qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
   qunsetenv("QT_SCALE_FACTOR");
   qunsetenv("QT_SCREEN_SCALE_FACTORS");
@@ -59,7 +60,21 @@ Point DesktopHost::CursorPos() const { return cursor_.Place(clock_.elapsed()) - 
 
 Form* DesktopHost::ActiveForm() const {
   const auto* window = dynamic_cast<const DesktopWindow*>(QApplication::activeWindow());
-  return window && !window->isMinimized() ? &window->TheForm() : nullptr;
+  if (!window) {
+    const bool waiting = heir_ && clock_.elapsed() < heirUntil_ && heir_->WindowState != Form::kMinimised;
+    return waiting ? heir_ : nullptr;
+  }
+  return window->isMinimized() ? nullptr : &window->TheForm();
+}
+
+void DesktopHost::Disinherit(const Form& form) {
+  if (heir_ == &form) heir_ = nullptr;
+}
+
+void DesktopHost::Bequeath(Form& heir) {
+  constexpr Milliseconds kPatience = 500;
+  heir_ = &heir;
+  heirUntil_ = Now() + kPatience;
 }
 
 void DesktopHost::TakeInput() {
@@ -82,9 +97,8 @@ std::unique_ptr<FormWindow> DesktopHost::MakeWindow(Form& form, WindowKind kind)
 }
 
 void DesktopHost::MsgBox(const std::string& text, int style, const std::string& title) {
-  QMessageBox box(style == kCriticalIcon ? QMessageBox::Critical : QMessageBox::NoIcon,
-                  QString::fromStdString(title), QString::fromStdString(text).remove(QLatin1Char('\r')),
-                  QMessageBox::Ok);
+  QMessageBox box(style == kCriticalIcon ? QMessageBox::Critical : QMessageBox::NoIcon, WindowTitle(title),
+                  QString::fromStdString(text).remove(QLatin1Char('\r')), QMessageBox::Ok);
   box.setTextFormat(Qt::PlainText);
   box.setWindowModality(Qt::ApplicationModal);
   box.show();

@@ -21,13 +21,18 @@ namespace orvanta {
 /// no handler of the shell ever runs, and nothing is thrown, inside a call from Qt.
 class DesktopHost : public Host {
  public:
-  /// `discFolder` is the root of the drive, absolute. The arguments are Qt's to read.
+  /// `discFolder` is the root of the drive, absolute. Of the arguments none but the program's name is read.
   DesktopHost(int& argc, char** argv, std::filesystem::path discFolder);
 
   /// Where the primary screen lies among all of them; every place of the program counts from there.
   Point ScreenOrigin() const;
   /// Lets Qt wait for an event, to `deadline` at the longest, and handle it.
   void WaitForQt(Milliseconds deadline);
+  /// The active window goes, and the window manager, who may be slow, has not yet named another one: until
+  /// then `heir` counts as active, for half a second at the longest.
+  void Bequeath(Form& heir);
+  /// `form` is active by itself now, or goes.
+  void Disinherit(const Form& form);
   /// What the program's windows are told of the cursor.
   CursorWatch& Cursor() const { return cursor_; }
 
@@ -60,6 +65,8 @@ class DesktopHost : public Host {
   QObject alarm_;  // who is woken: a timer's event needs somebody to go to
   QBasicTimer wake_;
   mutable CursorWatch cursor_;
+  Form* heir_ = nullptr;
+  Milliseconds heirUntil_ = 0;
 };
 
 }  // namespace orvanta

@@ -56,7 +56,10 @@ void DesktopWindow::leaveEvent(QEvent*) {
 
 void DesktopWindow::changeEvent(QEvent* event) {
   host_.Cursor().Lose();
-  if (event->type() == QEvent::ActivationChange && isActiveWindow()) Post(FormEvent::Kind::Activate);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+    host_.Disinherit(form_);
+    Post(FormEvent::Kind::Activate);
+  }
   if (event->type() == QEvent::WindowStateChange && isMinimized() != wasMinimised_) {
     wasMinimised_ = isMinimized();
     Post(wasMinimised_ ? FormEvent::Kind::Minimise : FormEvent::Kind::Restore);

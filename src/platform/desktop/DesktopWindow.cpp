@@ -24,6 +24,10 @@ constexpr Milliseconds kExposurePatience = 1000;
 
 }  // namespace
 
+QString WindowTitle(const std::string& text) {
+  return QString::fromStdString(text).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+}
+
 DesktopWindow::DesktopWindow(DesktopHost& host, Form& form, WindowKind kind)
     : QWidget(nullptr, FlagsOf(kind)), host_(host), form_(form), kind_(kind) {
   setAttribute(Qt::WA_OpaquePaintEvent);
@@ -32,6 +36,8 @@ DesktopWindow::DesktopWindow(DesktopHost& host, Form& form, WindowKind kind)
   if (kind == WindowKind::Plain) setAttribute(Qt::WA_ShowWithoutActivating);
   if (kind == WindowKind::Modal || kind == WindowKind::FullScreen) setWindowModality(Qt::ApplicationModal);
 }
+
+DesktopWindow::~DesktopWindow() { host_.Disinherit(form_); }
 
 void DesktopWindow::SetPlace(const Rect& place) {
   place_ = place;
@@ -49,9 +55,7 @@ void DesktopWindow::SetShape(const Region& shape) {
   setMask(mask);
 }
 
-void DesktopWindow::SetCaption(const std::string& caption) {
-  setWindowTitle(QString::fromStdString(caption));
-}
+void DesktopWindow::SetCaption(const std::string& caption) { setWindowTitle(WindowTitle(caption)); }
 
 void DesktopWindow::SetPointer(Pointer pointer) {
   setCursor(CursorOf(pointer));
@@ -66,7 +70,10 @@ void DesktopWindow::SetOwner(Form& owner) {
 
 void DesktopWindow::SetVisible(bool visible) {
   if (visible == isVisible()) return;
-  if (!visible) return hide();
+  if (!visible) {
+    if (isActiveWindow() && form_.Owner()) host_.Bequeath(*form_.Owner());
+    return hide();
+  }
   SetPlace(form_.Place());
   ShowNow();
 }

@@ -12,10 +12,14 @@ namespace orvanta {
 
 class DesktopHost;
 
+/// `text` for Qt, which takes "[*]" for the place of a sign of its own unless it stands there twice.
+QString WindowTitle(const std::string& text);
+
 /// A form's window: one plain widget that is painted by the form.
 class DesktopWindow : public QWidget, public FormWindow {
  public:
   DesktopWindow(DesktopHost& host, Form& form, WindowKind kind);
+  ~DesktopWindow() override;
 
   Form& TheForm() const { return form_; }
   /// How often the widget was painted.

@@ -21,6 +21,7 @@ PicturePtr LoadQtPicture(const std::filesystem::path& file) {
   // A disc's names say little about what is in a file.
   reader.setDecideFormatFromContent(true);
   QPixmap pixels = QPixmap::fromImageReader(&reader);
+  pixels.setDevicePixelRatio(1);  // Qt takes a name like "main@2x.gif" for a picture of twice the resolution
   return pixels.isNull() ? nullptr : std::make_shared<QtPicture>(std::move(pixels));
 }
 
