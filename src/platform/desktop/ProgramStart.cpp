@@ -102,7 +102,8 @@ StartCode ProgramStart::StartNative(const std::filesystem::path& file, std::stri
   return CodeOfNativeError(StartProcess(Joined({file}, SplitArguments(parameters)), environment), file);
 }
 
-StartCode ProgramStart::StartForeign(std::string_view runner, std::vector<std::string> arguments) const {
+StartCode ProgramStart::StartForeign(std::string_view runner,
+                                     const std::vector<std::string>& arguments) const {
   const auto program = FindExecutable(runner, SearchPath());
   if (!program) return StartCode::NoAssociation;
   const StartCode code = CodeOfError(StartProcess(Joined({*program}, arguments), environment));

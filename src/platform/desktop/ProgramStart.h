@@ -51,7 +51,7 @@ class ProgramStart {
  private:
   StartCode StartFound(const std::filesystem::path& file, std::string_view parameters) const;
   StartCode StartNative(const std::filesystem::path& file, std::string_view parameters) const;
-  StartCode StartForeign(std::string_view runner, std::vector<std::string> arguments) const;
+  StartCode StartForeign(std::string_view runner, const std::vector<std::string>& arguments) const;
   StartCode OpenFolder(const std::filesystem::path& folder) const;
   StartCode OpenWithApplication(const OpenTarget& target) const;
   std::string_view SearchPath() const;
