@@ -42,7 +42,6 @@ DesktopHost::DesktopHost(int& argc, char** argv, std::filesystem::path discFolde
       discFolder_(std::move(discFolder)),
       instance_(InstanceLock::Acquire(InstancePlaceFromEnvironment())) {
   application_.setQuitOnLastWindowClosed(false);
-  QApplication::setWindowIcon(ProgramIcon());
   clock_.start();
 }
 
@@ -99,6 +98,7 @@ std::unique_ptr<FormWindow> DesktopHost::MakeWindow(Form& form, WindowKind kind)
 void DesktopHost::MsgBox(const std::string& text, int style, const std::string& title) {
   QMessageBox box(style == kCriticalIcon ? QMessageBox::Critical : QMessageBox::NoIcon, WindowTitle(title),
                   QString::fromStdString(text).remove(QLatin1Char('\r')), QMessageBox::Ok);
+  box.setWindowIcon(ProgramIcon());
   box.setTextFormat(Qt::PlainText);
   box.setWindowModality(Qt::ApplicationModal);
   box.show();

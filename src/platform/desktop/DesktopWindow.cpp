@@ -7,6 +7,7 @@
 #include "platform/desktop/Cursors.h"
 #include "platform/desktop/DesktopHost.h"
 #include "platform/desktop/PainterCanvas.h"
+#include "platform/desktop/ProgramIcon.h"
 #include "platform/desktop/XWindow.h"
 
 namespace orvanta {
@@ -79,7 +80,12 @@ void DesktopWindow::SetVisible(bool visible) {
 }
 
 void DesktopWindow::ShowNow() {
-  if (kind_ == WindowKind::Plain || kind_ == WindowKind::Splash) SkipTaskBar(*this);
+  // Four pictures of it are decoded, so that the start screen comes sooner without.
+  if (kind_ == WindowKind::Plain || kind_ == WindowKind::Splash) {
+    SkipTaskBar(*this);
+  } else {
+    setWindowIcon(ProgramIcon());
+  }
   // A window manager that frames the window takes it to the screen's corner for a moment.
   showing_ = true;
   if (kind_ == WindowKind::FullScreen) {
