@@ -98,7 +98,7 @@ TEST_F(GstPlayerOddFiles, AFormatWithoutItsDecoderIsAnUnknownType) {
   gst_plugin_feature_set_rank(decoder, GST_RANK_NONE);
   gst_object_unref(decoder);
   film->Open(files.Film("a.avi", {600}, "-c:v cinepak -c:a pcm_u8"));
-  EXPECT_TRUE(Until(2, [&] { return film->State() == MovieState::NoFile; }));
+  EXPECT_FALSE(Until(2, [&] { return film->State() != MovieState::NoFile; }));
 }
 
 }  // namespace orvanta::test
