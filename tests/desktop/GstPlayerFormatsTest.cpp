@@ -60,23 +60,13 @@ INSTANTIATE_TEST_SUITE_P(
         Format{"OggTheora", "a.ogv", "-c:v libtheora -c:a libvorbis", "theoradec"}),
     [](const auto& row) { return row.param.name; });
 
-// GStreamer ends at once on bytes behind the sound, takes a mono ADPCM sound for half as long as it is, and
-// takes a second for a song with a cover.
+// GStreamer ends at once on bytes behind the sound, and takes a second for a song with a cover.
 TEST_F(GstPlayerOddFiles, AreHeardAsTheyWereMeant) {
   const std::string voice = ContentOf(files.Sound("voice.wav", {800}, "-bitexact -c:a pcm_u8 -ar 11025"));
   music->Open(files.folder.File("voice.dat", voice + std::string("\0LIST", 5)));
   ASSERT_TRUE(UntilStopped(*music, 2));
   Wait(0.1);
   EXPECT_NEAR(ears.Seconds(800), 0.5, 0.03);
-
-  music->Open(files.Sound("a.wav", {600, 900, 1000, 1200}, "-c:a adpcm_ima_wav -ar 22050"));
-  ASSERT_TRUE(Until(2, [&] { return music->Loaded(); })) << "needs avdec_adpcm_ima_wav";
-  Wait(0.2);
-  music->SetPosition(1.5);
-  ASSERT_TRUE(UntilStopped(*music, 3));
-  Wait(0.1);
-  EXPECT_LE(ears.Seconds(1000), 0.1) << "the block in which it lies";
-  EXPECT_NEAR(ears.Seconds(1200), 0.5, 0.1);
 
   const auto song = files.Sound("a.mp3", {800, 800}, "-b:a 128k");
   const auto cover = files.Film("cover.png", {800}, "-frames:v 1 -map 1:v");
@@ -105,15 +95,10 @@ TEST_F(GstPlayerOddFiles, AFormatWithoutItsDecoderIsAnUnknownType) {
   gst_init(nullptr, nullptr);
   GstPluginFeature* decoder = gst_registry_lookup_feature(gst_registry_get(), "avdec_cinepak");
   ASSERT_TRUE(decoder);
-  const auto file = files.Film("a.avi", {600}, "-c:v cinepak -c:a pcm_u8");
-  const guint before = gst_plugin_feature_get_rank(decoder);
-  for (const guint rank : {guint{GST_RANK_NONE}, before}) {
-    gst_plugin_feature_set_rank(decoder, rank);
-    film->Open(file);
-    EXPECT_TRUE(Until(2, [&] { return film->Loaded() == (rank != GST_RANK_NONE); }));
-    EXPECT_EQ(film->State() == MovieState::NoFile, rank == GST_RANK_NONE);
-  }
+  gst_plugin_feature_set_rank(decoder, GST_RANK_NONE);
   gst_object_unref(decoder);
+  film->Open(files.Film("a.avi", {600}, "-c:v cinepak -c:a pcm_u8"));
+  EXPECT_FALSE(Until(2, [&] { return film->State() != MovieState::NoFile; }));
 }
 
 }  // namespace orvanta::test

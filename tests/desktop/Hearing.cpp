@@ -24,10 +24,6 @@ double Amplitude(std::span<const std::int16_t> part, double hertz) {
   return 2 * std::sqrt(std::max(0.0, power)) / static_cast<double>(part.size());
 }
 
-Recording::Clock::duration Wall(double seconds) {
-  return std::chrono::duration_cast<Recording::Clock::duration>(std::chrono::duration<double>(seconds));
-}
-
 }  // namespace
 
 // Without norewinds a null sink's clock stalls for seconds after a pause.
@@ -47,25 +43,14 @@ PulseServer::PulseServer(const std::string& sink) : before_(qgetenv("PULSE_SERVE
 
 PulseServer::~PulseServer() { qputenv("PULSE_SERVER", before_.c_str()); }
 
-Recording::Recording()
-    : recorder_({"parec", "--device=@DEFAULT_MONITOR@", "--raw", "--format=s16le", "--rate=44100",
-                 "--channels=1", "--latency-msec=10"}),
-      watch_([this](const std::stop_token& stop) {
-        // What is heard may come late but never early.
-        for (; !stop.stop_requested(); std::this_thread::sleep_for(std::chrono::milliseconds(2)))
-          zero_ = std::min(zero_.load(), Clock::now() - Wall(Now()));
-      }) {
-  Soon([this] { return Now() > 0; });
-}
-
 double Recording::Now() const {
   const auto bytes = std::filesystem::file_size("/proc/self/fd/" + std::to_string(recorder_.Output()));
   return static_cast<double>(bytes / 2) / kRate;
 }
 
 std::vector<std::int16_t> Recording::Samples(double from) const {
-  const long end = std::lround(Now() * kRate), first = std::clamp(std::lround(from * kRate), 0L, end);
-  std::vector<std::int16_t> samples(static_cast<std::size_t>(end - first));
+  const long end = std::lround(Now() * kRate), first = std::lround(std::max(0.0, from) * kRate);
+  std::vector<std::int16_t> samples(static_cast<std::size_t>(std::max(0L, end - first)));
   if (pread(recorder_.Output(), samples.data(), 2 * samples.size(), 2 * first) < 0) return {};
   return samples;
 }
@@ -96,14 +81,13 @@ double Recording::Peak(double from) const {
   return peak / kFullScale;
 }
 
-double Recording::Quietest(double from) const {
-  double quietest = 1;
-  const auto all = Samples(from);
-  for (auto part = all.begin(); all.end() - part > 2205; part += 2205)
-    quietest = std::min(quietest, *std::max_element(part, part + 2205) / kFullScale);
-  return quietest;
+// What is heard may come late but never early.
+Recording::Clock::time_point Recording::Begun() const {
+  auto begun = Clock::time_point::max();
+  for (int i = 0; i < 100; ++i, std::this_thread::sleep_for(std::chrono::milliseconds(2)))
+    begun = std::min(
+        begun, Clock::now() - std::chrono::round<Clock::duration>(std::chrono::duration<double>(Now())));
+  return begun;
 }
-
-Recording::Clock::time_point Recording::When(double seconds) const { return zero_.load() + Wall(seconds); }
 
 }  // namespace orvanta::test

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <atomic>
 #include <cmath>
 #include <optional>
 
@@ -36,26 +35,25 @@ class Recording {
   };
 
   /// Waits until sound comes in.
-  Recording();
+  Recording() {
+    Soon([this] { return Now() > 0; });
+  }
 
   /// Where a tone of `hertz` is heard from then on, at that part of full scale at least; exact to 5 ms.
   std::vector<Span> Heard(double hertz, double from = 0, double level = 0.1) const;
   /// How long it is heard in all.
   double Seconds(double hertz, double from = 0, double level = 0.1) const;
-  /// Loudest sample from `from` on, of full scale.
+  /// Loudest sample from then on, of full scale.
   double Peak(double from) const;
-  /// Loudest sample of the quietest twentieth of a second from then on.
-  double Quietest(double from) const;
   double Now() const;
-  /// When that moment was heard, by the clock on the wall.
-  Clock::time_point When(double seconds) const;
+  /// When the recording began, by the clock on the wall. Takes 0.2 seconds.
+  Clock::time_point Begun() const;
 
  private:
   std::vector<std::int16_t> Samples(double from) const;
 
-  Program recorder_;
-  std::atomic<Clock::time_point> zero_ = Clock::time_point::max();
-  std::jthread watch_;
+  Program recorder_{{"parec", "--device=@DEFAULT_MONITOR@", "--raw", "--format=s16le", "--rate=44100",
+                     "--channels=1", "--latency-msec=10"}};
 };
 
 }  // namespace orvanta::test

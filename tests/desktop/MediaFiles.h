@@ -43,10 +43,9 @@ class MediaFiles {
     for (const int hertz : tones)
       for (int i = 0; i < kRate / 2; ++i) {
         const double wave = kLoudness * std::sin(2 * std::numbers::pi * hertz * i / kRate);
-        const long sample = std::lround(32767 * wave);
-        bytes += {static_cast<char>(sample & 0xFF), static_cast<char>(sample >> 8)};
+        bytes.append(reinterpret_cast<const char*>(&wave), sizeof wave);
       }
-    return "-f s16le -ar 44100 -ac 1 -i '" + folder.File("tones", bytes).string() + "' ";
+    return "-f f64le -ar 44100 -ac 1 -i '" + folder.File("tones", bytes).string() + "' ";
   }
 };
 

@@ -39,12 +39,6 @@ int InAnotherProcess(Work work) {
   return waitpid(child, &status, 0) == child && WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-/// Gives up the rights of root, which would read the unreadable; a plain user keeps his.
-inline void BecomePlainUser() {
-  constexpr uid_t kNobody = 65534;
-  if (geteuid() == 0 && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) _exit(99);
-}
-
 inline void Allow(const std::filesystem::path& file, int rights) {
   std::filesystem::permissions(file, static_cast<std::filesystem::perms>(rights));
 }
@@ -70,18 +64,16 @@ struct ScratchFolder : TemporaryFolder {
 /// A program that a test started. What it prints is kept; it is killed with the object.
 class Program {
  public:
-  /// The first word is found as a shell finds it, through PATH if it has no slash.
-  explicit Program(std::vector<std::string> words, const std::filesystem::path& folder = "/",
-                   std::vector<std::string> environment = {})
+  /// The first word is found as a shell finds it.
+  explicit Program(std::vector<std::string> words)
       : output_(memfd_create("printed", MFD_CLOEXEC)), pid_(fork()) {
     if (pid_ != 0) return;
     prctl(PR_SET_PDEATHSIG, SIGKILL);
-    for (std::string& entry : environment) putenv(entry.data());
     for (const int standard : {STDOUT_FILENO, STDERR_FILENO}) dup2(output_, standard);
     std::vector<char*> pointers;
     for (std::string& word : words) pointers.push_back(word.data());
     pointers.push_back(nullptr);
-    if (chdir(folder.c_str()) == 0) execvp(pointers[0], pointers.data());
+    execvp(pointers[0], pointers.data());
     _exit(127);
   }
   ~Program() {

@@ -21,7 +21,7 @@ struct Look {
   static constexpr Rgb kAnything = 0xFF000000;
 
   explicit Look(const Size& itsSize, Rgb colour = 0);
-  Rgb At(int x, int y) const { return pixels[static_cast<std::size_t>(y * size.width + x)]; }
+  Rgb& At(int x, int y) { return pixels.at(static_cast<std::size_t>(y * size.width + x)); }
   void Fill(const Rect& area, Rgb colour);
   /// The edge of an area, one pixel thick.
   void Frame(const Rect& area, Rgb colour);
@@ -47,16 +47,16 @@ class Screen {
  public:
   Screen();
 
-  Size Extent() const;
   Look See(const Rect& area) const;
   Rgb Pixel(Point place) const { return See({place.x, place.y, 1, 1}).At(0, 0); }
   CursorLook Cursor() const;
 
   /// The windows that the window manager knows, from the bottom to the top.
-  std::vector<WindowId> Windows() const { return Numbers(root_, "_NET_CLIENT_LIST_STACKING"); }
+  std::vector<WindowId> Windows() const;
   WindowId Active() const { return Number(root_, "_NET_ACTIVE_WINDOW"); }
+  Rect Whole() const { return PlaceOf(root_); }
   Rect PlaceOf(WindowId window) const;
-  std::string TitleOf(WindowId window) const { return Bytes(window, "_NET_WM_NAME"); }
+  std::string TitleOf(WindowId window) const;
   bool HasState(WindowId window, const std::string& state) const;
   /// A property that is a number; 0 if the window has none of this name.
   std::uint32_t Number(WindowId window, const std::string& property) const;
@@ -65,28 +65,23 @@ class Screen {
   void Press() const;
   void Release() const;
   void Click(Point place) const;
-  /// Presses at one place and releases at another, at a hand's pace.
-  void Drag(Point from, Point to) const;
   void Rest() const;  ///< long enough for a tick of the program
-  void PressReturn() const;
+  /// Does what a command of xdotool says.
+  static void Hand(const std::string& command);
   /// What a task bar does when its entry is clicked.
-  void Activate(WindowId window) const;
-  /// What the window manager's close button does.
-  void Close(WindowId window) const;
+  static void Activate(WindowId window) { Hand("windowactivate " + std::to_string(window)); }
 
   /// Counts from now on how often anything is drawn into a window.
   void WatchDrawing(WindowId window);
   int DrawingSeen();
-  void WatchAppearances() const;
   /// Waits for the next window that appears on the screen, ten seconds at most; gives whether one did.
   bool AwaitAppearance() const;
 
  private:
   friend class OtherWindow;
   std::uint32_t Atom(const std::string& name) const;
-  std::string Bytes(WindowId window, const std::string& property) const;
-  std::vector<std::uint32_t> Numbers(WindowId window, const std::string& property) const;
-  void Tell(WindowId window, const std::string& message, std::uint32_t first, std::uint32_t second) const;
+  template <class T>
+  std::vector<T> Property(WindowId window, const std::string& name) const;
   void Fake(int type, int detail, Point place = {}) const;
 
   std::shared_ptr<xcb_connection_t> connection_;

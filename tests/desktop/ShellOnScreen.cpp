@@ -11,19 +11,15 @@ constexpr const char* kBarNames[] = {"Ext",   "Snd1", "Snd2", "Hlp", "Start",
 }  // namespace
 
 ShellOnScreen::ShellOnScreen() {
-  struct Art {
-    const char* name;
-    Size size;
-    Rgb colour;
-  };
-  constexpr Art kArt[] = {{"main", kMainSize, kMain},        {"tlo", {472, 309}, kArea},
-                          {"kreska", {472, 33}, kLineStrip}, {"startpic", {64, 45}, kStartPicture},
-                          {"under", {640, 30}, kUnder},      {"left", {10, 80}, kLeft},
-                          {"upper", {204, 6}, kUpper},       {"right1", {6, 10}, kRight},
-                          {"right2", {6, 10}, kRight},       {"right3", {6, 10}, kRight},
-                          {"bar", {20, 270}, kBar},          {"knob", {16, 20}, kKnob},
-                          {"help", {400, 600}, kHelpPage},   {"about", {400, 250}, kAboutPage},
-                          {"producer", {40, 30}, kProducer}, {"shot", {320, 240}, kShot}};
+  constexpr std::tuple<const char*, Size, Rgb> kArt[] = {
+      {"main", kMainSize, kMain},        {"tlo", {472, 309}, kArea},
+      {"kreska", {472, 33}, kLineStrip}, {"startpic", {64, 45}, kStartPicture},
+      {"under", {640, 30}, kUnder},      {"left", {10, 80}, kLeft},
+      {"upper", {204, 6}, kUpper},       {"right1", {6, 10}, kRight},
+      {"right2", {6, 10}, kRight},       {"right3", {6, 10}, kRight},
+      {"bar", {20, 270}, kBar},          {"knob", {16, 20}, kKnob},
+      {"help", {400, 600}, kHelpPage},   {"about", {400, 250}, kAboutPage},
+      {"producer", {40, 30}, kProducer}, {"shot", {320, 240}, kShot}};
   for (const auto& [name, size, colour] : kArt)
     disc_.Picture(std::string(name) + ".gif", size.width, size.height, colour);
   for (int button = 0; button < 10; ++button)

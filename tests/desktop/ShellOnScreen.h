@@ -71,7 +71,7 @@ class ShellOnScreen : public testing::Test {
 
   TestDisc disc_;
   Screen screen_;
-  const Rect whole_{0, 0, screen_.Extent().width, screen_.Extent().height};
+  const Rect whole_ = screen_.Whole();
   OtherWindow behind_{whole_, kBehind};
   std::optional<Program> program_;
 
