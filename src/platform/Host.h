@@ -15,13 +15,22 @@ namespace orvanta {
 /// Thrown to end the program at once, with all its windows. Whoever runs the shell catches it.
 struct ProgramEnd {};
 
+/// How the first window of a started program is to appear. Where the window manager decides that, it is not
+/// used.
+enum class ShowMode { Normal = 1 };
+
 /// A file to be opened by the platform. `status` tells what became of `name` on the disc.
 struct StartRequest {
-  enum class Status { Found, FileMissing, FolderMissing };
+  enum class Status {
+    Found,
+    FileMissing,    ///< the folder is there, the file is not
+    FolderMissing,  ///< a folder on the way, or the drive, is not there
+  };
   Status status = Status::FileMissing;
-  std::string name;            ///< as the catalogue has it; an address (http:, mailto:) is told by it alone
-  std::filesystem::path file;  ///< on the host, if found
-  std::string parameters;      ///< a command line, split as Windows programs split theirs
+  std::string name{};            ///< as the catalogue has it; an address (http:, mailto:) is told by it alone
+  std::filesystem::path file{};  ///< on the host, if found
+  std::string parameters{};      ///< a command line, split as Windows programs split theirs
+  ShowMode show = ShowMode::Normal;
 };
 
 /// The screen in twips.

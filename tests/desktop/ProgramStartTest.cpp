@@ -4,6 +4,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+#include "config/DiscDrive.h"
 #include "desktop/Processes.h"
 #include "platform/desktop/ProgramStart.h"
 
@@ -27,7 +28,7 @@ struct Desktop : testing::Test {
   }
   /// Starts something from a shell of its own and gives the number. The shell sets a variable for itself.
   int start(
-      const FileLookup& file, const std::string& parameters, void (*before)() = [] {}) const {
+      const StartRequest& request, void (*before)() = [] {}) const {
     return InAnotherProcess([&] {
       setenv("PATH", (root / "bin").c_str(), 1);
       setenv("XDG_DATA_HOME", (root / "data").c_str(), 1);
@@ -37,16 +38,14 @@ struct Desktop : testing::Test {
       const ProgramStart starter;
       setenv("OF_THE_SHELL", "set", 1);
       before();
-      return starter.Start(file, parameters, ShowMode::Normal);
+      return starter.Start(request);
     });
   }
   int start(
       const fs::path& file, const std::string& parameters = "", void (*before)() = [] {}) const {
-    return start(FileLookup{"D:\\file", FileLookup::Result::Found, file}, parameters, before);
+    return start(StartRequest{StartRequest::Status::Found, "D:\\file", file, parameters}, before);
   }
-  int open(const std::string& address) const {
-    return start(FileLookup{address, FileLookup::Result::FileMissing, {}}, "");
-  }
+  int open(const std::string& address) const { return start(StartRequest{.name = address}); }
   /// A program, on the search path or elsewhere, that reports its name and its arguments.
   fs::path install(const std::string& name) const {
     const std::string to = report.string(), part = to + ".part";
@@ -73,8 +72,8 @@ struct Desktop : testing::Test {
 };
 
 TEST_F(Desktop, ProgramsThatCannotRunTellWhy) {
-  EXPECT_EQ(start({"D:\\a.exe", FileLookup::Result::FileMissing, {}}, ""), 2);
-  EXPECT_EQ(start({"D:\\b\\a.exe", FileLookup::Result::FolderMissing, {}}, ""), 3);
+  EXPECT_EQ(start({.status = StartRequest::Status::FileMissing}), 2);
+  EXPECT_EQ(start({.status = StartRequest::Status::FolderMissing}), 3);
   const fs::path secret = scratch.File("secret.txt", "text"), busy = scratch.Script("busy", "");
   fs::copy_file("/bin/true", busy, fs::copy_options::overwrite_existing);
   const std::ofstream writer(busy, std::ios::app);
@@ -94,6 +93,17 @@ TEST_F(Desktop, ProgramsThatCannotRunTellWhy) {
     EXPECT_EQ(start(file), code) << file;
   Allow(secret, 0);
   EXPECT_EQ(start(secret, "", BecomePoorUser), 5);
+  // What lies in a closed folder is not missing: the drive finds it, and opening it tells why it cannot be
+  // read.
+  const fs::path hidden = scratch.File("closed/a.exe", "MZ");
+  Allow(hidden.parent_path(), 0);
+  EXPECT_EQ(start(hidden, "", BecomePoorUser), 5);
+  EXPECT_EQ(InAnotherProcess([this] {
+              BecomePoorUser();
+              return DiscDrive(root).Find("D:\\closed\\A.EXE") ? 1 : 0;
+            }),
+            1);
+  Allow(hidden.parent_path(), 0755);
   EXPECT_EQ(start("/bin/true", "", BecomePoorUser), 8);
 }
 

@@ -118,11 +118,6 @@ bool DesktopHost::IsSoundCardEnabled() { return orvanta::IsSoundCardEnabled(); }
 
 std::unique_ptr<MoviePlayer> DesktopHost::MakePlayer(MovieKind kind) { return MakeGstPlayer(kind); }
 
-int DesktopHost::StartFile(const StartRequest& request) {
-  FileLookup::Result result = FileLookup::Result::FolderMissing;
-  if (request.status == StartRequest::Status::Found) result = FileLookup::Result::Found;
-  if (request.status == StartRequest::Status::FileMissing) result = FileLookup::Result::FileMissing;
-  return programs_.Start({request.name, result, request.file}, request.parameters, ShowMode::Normal);
-}
+int DesktopHost::StartFile(const StartRequest& request) { return programs_.Start(request); }
 
 }  // namespace orvanta

@@ -64,15 +64,15 @@ StartCode CodeOfNativeError(int error, const std::filesystem::path& file) {
 
 ProgramStart::ProgramStart(std::vector<std::string> forPrograms) : environment(std::move(forPrograms)) {}
 
-std::int32_t ProgramStart::Start(const FileLookup& file, std::string_view parameters, ShowMode) const {
+std::int32_t ProgramStart::Start(const StartRequest& request) const {
   const auto code = [&] {
-    const std::string_view scheme = SchemeOf(file.text);
-    if (!scheme.empty()) return OpenWithApplication(AddressTarget(scheme, file.text));
-    if (file.result == FileLookup::Result::FileMissing) return StartCode::FileNotFound;
-    if (file.result == FileLookup::Result::FolderMissing) return StartCode::PathNotFound;
+    const std::string_view scheme = SchemeOf(request.name);
+    if (!scheme.empty()) return OpenWithApplication(AddressTarget(scheme, request.name));
+    if (request.status == StartRequest::Status::FileMissing) return StartCode::FileNotFound;
+    if (request.status == StartRequest::Status::FolderMissing) return StartCode::PathNotFound;
     std::error_code error;
-    const std::filesystem::path path = std::filesystem::absolute(file.hostPath, error);
-    return error ? CodeOfError(error.value()) : StartFound(path, parameters);
+    const std::filesystem::path path = std::filesystem::absolute(request.file, error);
+    return error ? CodeOfError(error.value()) : StartFound(path, request.parameters);
   }();
   return static_cast<std::int32_t>(code);
 }
