@@ -70,10 +70,6 @@ TEST_F(Browse, DrawsTheBoxAroundTheLabelUnderTheCursor) {
                            {19, 40, -1}, {20, 20, 8},  {20, 9, -1},   {20, 92, 62},  {20, 93, -1}};
   for (const auto& [x, y, box] : places) EXPECT_EQ(BoxAt(x, y), box) << x << ", " << y;
   EXPECT_EQ(BoxAt(100, 92), 62) << "also when the cursor comes back to the label that it left";
-  user.Do("leave, run 1000");
-  EXPECT_EQ(BoxAt(100, 20), 62) << "it stands still while another program is active";
-  user.Do("return, run 2000");
-  EXPECT_EQ(BoxAt(100, 20), 8);
   user.Do("choose 2");
   EXPECT_EQ(BoxAt(100, 52 + 8 * 27), 50 + 8 * 27);
   EXPECT_EQ(BoxAt(100, 52 + 9 * 27 + 5), -1) << "the tenth label ends below the menu area";
@@ -97,22 +93,6 @@ TEST_F(Browse, SweepsTheCrosshairToTheCursorBeforeAClickActs) {
   EXPECT_EQ(EndsOf(Main().Line2(0)), (Ends{95, 0, 95, 309}));
   EXPECT_EQ(EndsOf(Main().Line2(1)), (Ends{0, 15, 472, 15}));
   EXPECT_EQ(Look(), "1 Gry: Logiczne");
-  // The steps are those of the click though the mouse moves on, also to the left of the menu.
-  disc.Set("MENUITEM", "Line2Sleep", "20");
-  for (const int to : {400, 5, 0, -60}) {
-    user.Do("click imgUp");
-    BoxAt(95, 15);
-    user.host.After(60, [&] { user.host.MoveMouse(InMenu(to, 15)); });
-    seen.clear();
-    user.host.OnSleep = [&] { seen.push_back(Main().Line2(0).X1()); };
-    user.host.Click(InMenu(95, 15));
-    user.Run(700);
-    EXPECT_EQ(seen.size(), 11U);
-    EXPECT_EQ(Main().Line2(0).X1(), to);
-  }
-  BoxAt(0, 20);
-  After(0, [&] { EXPECT_EQ(Main().Line2(1).Y1(), 0) << "no way to go, so from the top"; });
-  Main().lblPos1_Click(0);
 }
 
 TEST_F(Browse, MeetsClicksInTheMiddleOfTheCrosshair) {
