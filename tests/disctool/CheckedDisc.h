@@ -16,10 +16,7 @@ inline std::string TextOf(const std::filesystem::path& file) {
 
 /// Takes a file for what its first bytes say.
 struct FirstBytesProbe : DiscProbe {
-  int tries = 0;
-
   std::optional<Size> PictureSize(const std::filesystem::path& file) override {
-    ++tries;
     const PicturePtr picture = ReadPictureFile(file);
     return picture ? std::optional(picture->PixelSize()) : std::nullopt;
   }

@@ -48,21 +48,6 @@ TEST_F(Loop, IsHeardInMenusAndProgramsAndNotBesideOtherSound) {
   Tell({{"run 1500", "heard"}});
 }
 
-TEST_F(Loop, StaysAwayWhenThereIsNone) {
-  disc.Set("VOICES", "Music", "brak.wav");
-  Tell({{"start, choose 1, click imgUp, leave, run 2000", "silent"}});
-  EXPECT_TRUE(!user.shell.basCommon.MusicLoaded && Main().Timer1.Enabled());
-}
-
-TEST_F(Loop, GivesWayToAVoiceOnTheMusicsPlayerAndTheBarStaysSafe) {
-  user.Do("start, choose 1, click ButtonM4");
-  After(400, [&] { EXPECT_EQ(Main().PressedButton, -1); });
-  user.Do("after 1000 click ButtonM5, after 1100 click ButtonM6, after 1500 click ButtonM0, click ButtonM0");
-  EXPECT_TRUE(user.ended);
-  EXPECT_EQ(user.Calls("song.wav"), "open, position 0.000000, run, stop");
-  EXPECT_TRUE(user.Calls("exit1.wav").starts_with("open"));
-}
-
 /// Leaves the program, twice, and gives the file that took leave.
 std::string Farewell(const TestDisc& disc) {
   std::set<std::string> voices;
@@ -87,11 +72,6 @@ TEST_F(Loop, OneVoiceOfAGaplessRunTakesLeaveAlwaysTheSame) {
     EXPECT_FALSE(n == "4" && chosen.contains("exit4"));
   }
   EXPECT_GE(chosen.size(), 2U) << "the choice depends on how many there are";
-  disc.Remove("VOICES", "Exit2");
-  disc.Set("VOICES", "Exit1", "%:\\Data\\Sound\\start.wav");
-  EXPECT_EQ(Farewell(disc), "start.wav") << "a path with a drive is used as it is";
-  disc.Set("VOICES", "Exit1", "brak.wav");
-  EXPECT_EQ(Farewell(disc), "");
 }
 
 }  // namespace

@@ -51,20 +51,6 @@ TEST_F(Slider, ScrollsTheListWithinItsLimitsAndStartsAgainAtTheTop) {
   EXPECT_EQ(Look(), "51 31");
 }
 
-TEST_F(Slider, FollowsTheLeftButtonAloneAndStopsTheHoverMeanwhile) {
-  user.Do("start, hover imgSuwak");
-  user.host.Press(kRightButton);
-  user.host.MoveMouse({400, 400});
-  Tell({{"run 100", "40 15"}});
-  EXPECT_TRUE(Main().SuwakDrag && !Main().Line1(0).Visible());
-  user.host.Press(kLeftButton);
-  Move(30);
-  Tell({{"drop", "40 15"}});  // with both buttons nothing moves
-  user.host.Release(kRightButton);
-  user.Do("run 100");
-  EXPECT_TRUE(Main().Line1(0).Visible);
-}
-
 TEST_F(Slider, ScrollsALongPageAndNothingThatFits) {
   disc.Set("SLIDER", "YMax", "242");
   user.Do("start, click ButtonM3, drag imgSuwak 101, drop");

@@ -1,11 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <array>
-
 #include "platform/ControlArray.h"
 #include "platform/Controls.h"
 #include "platform/Form.h"
-#include "platform/Region.h"
 #include "platform/headless/HeadlessHost.h"
 
 namespace orvanta::test {
@@ -25,13 +22,9 @@ struct Board : Form {
     Visible = true;
   }
   void Watch(Control& control) {
-    const auto note = [this, &control](const std::string& what, double x) {
-      heard += control.Name + (control.Index < 0 ? "" : std::to_string(control.Index)) + what;
-      if (!what.empty()) heard += " at " + std::to_string(static_cast<int>(x)) + "; ";
+    control.Click = [this, &control] {
+      clicked = control.Name + (control.Index < 0 ? "" : std::to_string(control.Index));
     };
-    control.Click = [note] { note("", 0); };
-    control.MouseMove = [note](const MouseEvent& e) { note(" move " + std::to_string(e.Button), e.X); };
-    control.MouseUp = [note](const MouseEvent& e) { note(" up " + std::to_string(e.Button), e.X); };
   }
 
   Image low{*this, "low"};
@@ -39,33 +32,15 @@ struct Board : Form {
   Image high{*this, "high"};
   PictureBox frame{*this, "frame"};
   Image inner{frame, "inner"};
-  Line line{*this, "line"};
-  std::string heard;
+  std::string clicked;
 };
 
 struct OnTheBoard : testing::Test {
-  /// Does something, lets the board hear of it and gives what it heard.
-  std::string Heard(const std::function<void()>& act) {
-    host.Loop().Pump();
-    board.heard.clear();
-    act();
-    host.Loop().Pump();
-    return board.heard;
-  }
   std::string Clicked(Point at) {
-    const std::string heard = Heard([&] { host.Click(at); });
-    return heard.substr(heard.find_last_of(' ') + 1);
-  }
-  /// What is painted again because of the action.
-  Rect Painted(const std::function<void()>& act) {
+    board.clicked.clear();
+    host.Click(at);
     host.Loop().Pump();
-    act();
-    return host.WindowOf(board).dirty;
-  }
-  Image& LoadBox() {
-    board.boxes.LoadNext();
-    board.Watch(board.boxes(board.boxes.UBound()));
-    return board.boxes(board.boxes.UBound());
+    return board.clicked;
   }
 
   HeadlessHost host{"."};
@@ -80,7 +55,9 @@ TEST_F(OnTheBoard, TheTopmostControlThatTakesTheMouseIsClicked) {
   EXPECT_EQ(Clicked({45, 45}), "boxes0");
   EXPECT_EQ(Clicked({60, 60}), "low") << "the right and lower edge are outside";
   board.high.Enabled = true;
-  Image& added = LoadBox();
+  board.boxes.LoadNext();
+  Image& added = board.boxes(2);
+  board.Watch(added);
   EXPECT_EQ(Clicked({15, 15}), "boxes0") << "not shown yet";
   added.Visible = true;
   EXPECT_EQ(Clicked({15, 15}), "boxes2") << "above its array";
@@ -89,47 +66,14 @@ TEST_F(OnTheBoard, TheTopmostControlThatTakesTheMouseIsClicked) {
   EXPECT_EQ(Clicked({115, 155}), "") << "its holder clips it";
 }
 
-TEST_F(OnTheBoard, APressedControlKeepsTheMouseUntilTheLastReleaseOrItsEnd) {
-  host.MoveMouse({125, 155});
-  host.Press();
-  EXPECT_EQ(Heard([&] { host.MoveMouse({5, 300}); }), "inner move 1 at -105; ");
-  EXPECT_EQ(Heard([&] { host.Press(kRightButton); }), "");
-  EXPECT_EQ(Heard([&] { host.Release(kRightButton); }), "inner up 2 at -105; ");
-  EXPECT_EQ(Heard([&] { host.Release(); }), "inner up 1 at -105; ") << "no click, the release was outside";
-  LoadBox().Visible = true;
-  host.MoveMouse({15, 15});
-  host.Press();
-  Heard([&] { board.boxes.UnloadAbove0(); });
-  EXPECT_EQ(Heard([&] { host.MoveMouse({16, 16}), host.Release(); }), "boxes0 move 1 at 6; ");
-  board.boxes.LoadNext();
-  board.boxes(1).Visible = true;
-  board.boxes.Click = [this](std::int16_t) { board.boxes.UnloadAbove0(); };
-  Clicked({15, 15});
-  EXPECT_EQ(board.boxes.UBound(), 0) << "unloaded by its own click";
-}
-
-TEST_F(OnTheBoard, AChangeMarksTheOldAndTheNewPlaceAndNothingElse) {
-  EXPECT_EQ(Painted([&] { board.high.Left = 60; }), (Rect{40, 40, 40, 20}));
-  EXPECT_EQ(Painted([&] { board.high.Left = 60; }), Rect{}) << "it is there already";
-  EXPECT_EQ(Painted([&] { board.high.Visible = false; }), (Rect{60, 40, 20, 20}));
-  EXPECT_EQ(Painted([&] { board.high.Top = 0; }), Rect{}) << "hidden";
-  EXPECT_EQ(Painted([&] { board.line.Visible = true; }), (Rect{0, 0, 1, 1})) << "clipped by the form";
-  EXPECT_EQ(Painted([&] { board.line.Place(50, 60, 50, 80); }), (Rect{0, 0, 51, 81}));
-  EXPECT_EQ(Painted([&] { board.inner.Top = 20; }), (Rect{120, 140, 20, 20})) << "clipped by its holder";
-  EXPECT_EQ(Painted([&] { board.boxes.UnloadAbove0(); }), (Rect{20, 20, 50, 50}));
-  EXPECT_EQ(Painted([&] { board.low.Left = 1e300; }), (Rect{0, 0, 100, 100})) << "far outside";
-  board.high.Picture = std::make_shared<PictureFile>("art", Size{30, 10});
-  board.high.Picture = nullptr;
-  EXPECT_EQ(board.high.Bounds(), (Rect{60, 0, 30, 10})) << "a lost picture leaves something to click";
-  board.high.Visible = true;
-  const int before = host.WindowOf(board).paints;
-  board.high.Refresh();
-  EXPECT_EQ(host.WindowOf(board).paints, before + 1) << "seen before the program blocks";
-}
-
-TEST(Region, LeavesOutWhatItGoesRoundTwice) {
-  const std::array<Point, 8> twice{{{0, 0}, {9, 0}, {9, 9}, {0, 9}, {3, 3}, {6, 3}, {6, 6}, {3, 6}}};
-  EXPECT_TRUE(!Region::Polygon(twice).Contains({5, 4}) && Region::Polygon(twice).Contains({7, 4}));
+// Else a drag would fall behind the mouse on a slow machine.
+TEST_F(OnTheBoard, MovesOfTheMouseMergeBetweenPresses) {
+  std::vector<double> seen;
+  board.low.MouseMove = [&](const MouseEvent& e) { seen.push_back(e.X); };
+  board.low.MouseDown = [&](const MouseEvent&) { seen.push_back(-1); };
+  for (int x = 1; x < 20; ++x) x == 10 ? host.Press() : host.MoveMouse({x, 0});
+  host.Loop().Pump();
+  EXPECT_EQ(seen, (std::vector<double>{9, -1, 19}));
 }
 
 }  // namespace

@@ -24,8 +24,6 @@ class HeadlessHost : public Host {
 
   // How the machine is.
   std::filesystem::path driveRoot;
-  std::string appPath = "D:\\";
-  bool prevInstance = false;
   Size screen{1024, 768};
   bool soundCard = true;
   int startResult = 33;
@@ -85,9 +83,9 @@ class HeadlessHost : public Host {
   Milliseconds Now() override { return now_; }
   void TakeInput() override;
   void WaitForInput(Milliseconds until) override;
-  std::string AppPath() const override { return appPath; }
+  std::string AppPath() const override { return "D:\\"; }
   std::filesystem::path DriveRoot() const override { return driveRoot; }
-  bool PrevInstance() const override { return prevInstance; }
+  bool PrevInstance() const override { return false; }
   Size ScreenSize() const override { return screen; }
   Point CursorPos() const override { return mouse_; }
   Form* ActiveForm() const override { return active; }

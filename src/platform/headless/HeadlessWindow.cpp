@@ -27,7 +27,6 @@ RecordingCanvas HeadlessWindow::Look() const {
 
 void HeadlessWindow::PaintDirty() {
   if (!visible || minimised || dirty.Empty()) return;
-  ++paints;
   RecordingCanvas canvas;
   form.Paint(canvas, std::exchange(dirty, {}));
 }

@@ -25,7 +25,6 @@ class HeadlessWindow final : public FormWindow {
   Form* owner = nullptr;
   bool visible = false;
   bool minimised = false;
-  int paints = 0;
   Rect dirty;
 
   /// Whether the point of the screen belongs to the window as it stands now.
