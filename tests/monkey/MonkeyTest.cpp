@@ -72,14 +72,23 @@ TEST_F(BadDisc, LacksAnyOneKeyOrHasGarbageInIt) {
   }
 }
 
-TEST_F(BadDisc, HasAnyOneFileCutOffOrGone) {
+TEST_F(BadDisc, HasAnyOneFileCutOffGoneOrReplaced) {
   EXPECT_GT(disc.Files().size(), 60U);
-  for (const fs::path& file : disc.Files()) {
-    fs::rename(disc.Folder() / file, disc.Folder() / "kept");
+  std::vector<fs::path> files = disc.Files();
+  files.emplace_back("Data/Menu.ini");
+  for (const fs::path& file : files) {
+    const fs::path place = disc.Folder() / file, kept = disc.Folder() / "kept";
+    fs::rename(place, kept);
     Use("no " + file.string());
+    fs::create_directory(place);
+    Use("a folder in place of " + file.string());
+    fs::remove(place);
+    fs::create_symlink(place, place);
+    Use("nothing to be read in place of " + file.string());
+    fs::remove(place);
     disc.File(file, "GIF89a\x20");
     Use("no more of " + file.string());
-    fs::rename(disc.Folder() / "kept", disc.Folder() / file);
+    fs::rename(kept, place);
   }
   disc.File("Data/Menu.ini", std::string(100000, '\0'));
   Use("zeros for settings");
