@@ -45,7 +45,8 @@ PulseServer::~PulseServer() { qputenv("PULSE_SERVER", before_.c_str()); }
 
 double Recording::Now() const {
   const auto bytes = std::filesystem::file_size("/proc/self/fd/" + std::to_string(recorder_.Output()));
-  return static_cast<double>(bytes / 2) / kRate;
+  const auto samples = bytes / sizeof(std::int16_t);
+  return static_cast<double>(samples) / kRate;
 }
 
 std::vector<std::int16_t> Recording::Samples(double from) const {

@@ -30,6 +30,7 @@ TEST_F(Instances, OnlyOneOfAUserOnADisplay) {
       fs::remove(file);
       std::latch go(std::ssize(locks));
       std::vector<std::jthread> starts;
+      starts.reserve(locks.size());
       for (auto& lock : locks)
         starts.emplace_back([&] {
           go.arrive_and_wait();

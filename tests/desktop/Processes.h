@@ -52,7 +52,7 @@ inline std::string ContentOf(const std::filesystem::path& file) {
 struct ScratchFolder : TemporaryFolder {
   ScratchFolder() { Allow(Path(), 0755); }
   std::filesystem::path Executable(const std::string& name, const std::string& bytes) const {
-    const auto made = File(name, bytes);
+    auto made = File(name, bytes);
     Allow(made, 0755);
     return made;
   }
@@ -71,6 +71,7 @@ class Program {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     for (const int standard : {STDOUT_FILENO, STDERR_FILENO}) dup2(output_, standard);
     std::vector<char*> pointers;
+    pointers.reserve(words.size() + 1);
     for (std::string& word : words) pointers.push_back(word.data());
     pointers.push_back(nullptr);
     execvp(pointers[0], pointers.data());

@@ -21,7 +21,10 @@ struct Look {
   static constexpr Rgb kAnything = 0xFF000000;
 
   explicit Look(const Size& itsSize, Rgb colour = 0);
-  Rgb& At(int x, int y) { return pixels.at(static_cast<std::size_t>(y * size.width + x)); }
+  Rgb& At(int x, int y) {
+    const int place = y * size.width + x;
+    return pixels.at(static_cast<std::size_t>(place));
+  }
   void Fill(const Rect& area, Rgb colour);
   /// The edge of an area, one pixel thick.
   void Frame(const Rect& area, Rgb colour);
