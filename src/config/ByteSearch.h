@@ -24,9 +24,9 @@ struct Anywhere {
   bool operator()(char) const { return true; }
 };
 
-/// The first of the bytes `kBytes` in [begin, end) that stands at the begin or behind what `behind` lets
-/// stand there, and that `accept(const char*)` takes, else `end`. Candidates are offered in their order, each
-/// once.
+/// The first of the bytes `kBytes` in [begin, end) that `accept(const char*)` takes, else `end`. Candidates
+/// are offered in their order, each once, but for those behind a byte that `behind` does not let stand there.
+/// It only saves work: `accept` decides, and may still be offered some of them.
 ///
 /// One std::memchr for each byte, the nearest find first.
 template <char... kBytes, class Before, class Accept>
