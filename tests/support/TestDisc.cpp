@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "config/Windows1250.h"
+#include "support/Project.h"
 
 namespace orvanta::test {
 
@@ -25,7 +26,7 @@ std::string Number(std::uint32_t n, int bytes) {
 }  // namespace
 
 TestDisc::TestDisc() {
-  std::ifstream complete(ORVANTA_SOURCE_DIR "/tests/support/complete.ini");
+  std::ifstream complete(ProjectFolder() / "tests/support/complete.ini");
   std::string section;
   for (std::string line; std::getline(complete, line);) {
     const std::string key = line.substr(0, line.find('=')), value = line.substr(line.find('=') + 1);

@@ -7,12 +7,12 @@
 #include <thread>
 #include <utility>
 
-#include "platform/desktop/DesktopWindow.h"
-#include "platform/desktop/GstPlayer.h"
-#include "platform/desktop/ProgramIcon.h"
-#include "platform/desktop/QtPicture.h"
-#include "platform/desktop/SoundCard.h"
-#include "platform/desktop/XWindow.h"
+#include "platform/desktop/media/GstPlayer.h"
+#include "platform/desktop/media/SoundCard.h"
+#include "platform/desktop/window/DesktopWindow.h"
+#include "platform/desktop/window/ProgramIcon.h"
+#include "platform/desktop/window/QtPicture.h"
+#include "platform/desktop/window/XWindow.h"
 
 namespace orvanta {
 

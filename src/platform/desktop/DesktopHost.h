@@ -8,10 +8,10 @@
 #include <optional>
 
 #include "platform/Host.h"
-#include "platform/desktop/CursorWatch.h"
-#include "platform/desktop/Fonts.h"
 #include "platform/desktop/InstanceLock.h"
-#include "platform/desktop/ProgramStart.h"
+#include "platform/desktop/start/ProgramStart.h"
+#include "platform/desktop/window/CursorWatch.h"
+#include "platform/desktop/window/Fonts.h"
 
 namespace orvanta {
 

@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <system_error>
 
-#include "platform/desktop/ExecutableSearch.h"
+#include "platform/desktop/start/ExecutableSearch.h"
 
 namespace orvanta {
 namespace {

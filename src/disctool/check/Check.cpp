@@ -1,0 +1,55 @@
+#include "disctool/check/Check.h"
+
+#include <utility>
+
+#include "config/Values.h"
+#include "config/Windows1250.h"
+#include "disctool/check/CheckParts.h"
+
+namespace orvanta {
+
+double CheckJob::Number(std::string_view section, std::string_view key) const {
+  return DoubleOf(catalogue.Find(section, key).value);
+}
+
+std::optional<Size> CheckJob::PictureOf(std::string_view section, std::string_view key,
+                                        std::string_view ending) {
+  const Setting value = catalogue.Find(section, key);
+  if (!value) return std::nullopt;
+  const HostPath& host = files.Find(PicturePath(value.value + std::string(ending))).host;
+  return host ? files.PictureSize(host.path) : std::nullopt;
+}
+
+std::string_view FixedSection(std::string_view name) {
+  std::string_view last = kNodeSection;
+  for (const SchemaKey& key : kSchema)
+    if (key.section != kNodeSection && key.section != std::exchange(last, key.section) &&
+        EqualNoCase(key.section, name))
+      return key.section;
+  return {};
+}
+
+std::string Naming(std::string_view section, std::string_view key) {
+  return std::string(key) + " of [" + std::string(section) + "]";
+}
+
+std::string PicturePath(std::string_view value) {
+  return std::string(Catalogue::kDiscRoot) + "Data\\" + std::string(value);
+}
+
+Findings CheckDisc(const std::filesystem::path& folder, DiscProbe& probe) {
+  Findings findings;
+  const Catalogue catalogue(folder);
+  if (catalogue.Empty()) {
+    findings.Error({folder, 0}, "no-disc", "there is no disc here: neither Data/Menu.ini nor Data/Param.ini");
+    return findings;
+  }
+  const MenuTree tree = ReadMenuTree(catalogue);
+  DiscFiles files(folder, probe);
+  CheckJob job{catalogue, tree, files, findings};
+  for (auto* part : {CheckLines, CheckSettings, CheckTree, CheckUnread, CheckFiles, CheckLayout}) part(job);
+  findings.Sort();
+  return findings;
+}
+
+}  // namespace orvanta

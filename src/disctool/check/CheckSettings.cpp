@@ -1,0 +1,137 @@
+// The fixed sections by the table of keys.
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <utility>
+
+#include "config/Values.h"
+#include "config/Windows1250.h"
+#include "disctool/check/CheckParts.h"
+
+namespace orvanta {
+namespace {
+
+/// Whether anything of this disc asks for the key.
+enum class Asked { Yes, NotYet, Never };
+
+Asked IsAsked(const CheckJob& job, const SchemaKey& key) {
+  const auto asked = [](bool now) { return now ? Asked::Yes : Asked::NotYet; };
+  const auto manyShots = [](const MenuNode& node) { return node.kind != NodeKind::Menu && node.shots > 3; };
+  if (key.name == "ProducerX" || key.name == "ProducerY")
+    return job.catalogue.Find("GLOBAL", "ProducerB") ? Asked::Yes : Asked::Never;
+  if (key.name == "UnderPic" || (key.section == "VOICES" && key.name == "Start"))
+    return job.catalogue.Find("GLOBAL", "StartPic") ? Asked::Yes : Asked::Never;
+  if (key.section == "CINEMA") return asked(job.tree.Has(NodeKind::Film));
+  if (key.section == "SHOTSLIDER") return asked(std::ranges::any_of(job.tree.nodes, manyShots));
+  if (key.name.starts_with("S2_")) return asked(job.tree.Has(NodeKind::Music));
+  return Asked::Yes;
+}
+
+void Missing(CheckJob& job, const SchemaKey& key) {
+  const Asked asked = IsAsked(job, key);
+  const DiscPlace place = job.catalogue.PlaceOf(key.section);
+  const std::string text = Naming(key.section, key.name) + " is missing";
+  if (asked == Asked::Yes) job.findings.Error(place, "missing-key", text);
+  if (asked == Asked::NotYet)
+    job.findings.Warning(place, "missing-key", text + "; no entry of this disc needs it yet");
+}
+
+void NoNumber(CheckJob& job, const SchemaKey& key, const Setting& found) {
+  job.findings.Error(found.place, "no-number",
+                     Naming(key.section, key.name) + " is no number: '" + found.value + "' counts as 0");
+}
+
+void WholeNumber(CheckJob& job, const SchemaKey& key, const Setting& found) {
+  const double value = DoubleOf(found.value);
+  const std::int16_t taken = WholeOf(found.value);
+  if (std::abs(value - taken) >= 1) {
+    job.findings.Error(found.place, "out-of-range",
+                       Naming(key.section, key.name) + " lies beyond -32768 to 32767: '" + found.value +
+                           "' counts as " + std::to_string(taken));
+  } else if (value != taken) {
+    job.findings.Warning(found.place, "rounded",
+                         Naming(key.section, key.name) + " is no whole number: '" + found.value +
+                             "' counts as " + std::to_string(taken));
+  }
+}
+
+void Malformed(CheckJob& job, const SchemaKey& key, const Setting& found) {
+  const bool number = IsNumber(found.value);
+  switch (key.kind) {
+    case Kind::Whole: return number ? WholeNumber(job, key, found) : NoNumber(job, key, found);
+    case Kind::Single:
+    case Kind::Double:
+      if (!number) NoNumber(job, key, found);
+      return;
+    case Kind::Colour:
+      if (!number) return NoNumber(job, key, found);
+      if (const double value = DoubleOf(found.value);
+          value < 0 || value > 0xFFFFFF || value != std::floor(value))
+        job.findings.Error(
+            found.place, "no-colour",
+            Naming(key.section, key.name) + " is no colour from 0 to 16777215: '" + found.value + "'");
+      return;
+    case Kind::Boolean:
+      if (!number && !EqualNoCase(found.value, "True") && !EqualNoCase(found.value, "False"))
+        job.findings.Error(found.place, "no-boolean",
+                           Naming(key.section, key.name) + " is neither True nor False nor a number: '" +
+                               found.value + "' counts as False");
+      return;
+    default: return;
+  }
+}
+
+bool IsNoSection(const CheckJob& job, std::string_view section) { return !job.catalogue.HasSection(section); }
+
+/// One finding for a section that is not there, rather than one for each of its keys.
+void MissingSection(CheckJob& job, std::string_view section) {
+  const auto mandatory = [&](const SchemaKey& key) {
+    return key.section == section && key.presence == Presence::Mandatory;
+  };
+  const auto keys = std::ranges::count_if(kSchema, mandatory);
+  const bool asked = std::ranges::any_of(
+      kSchema, [&](const SchemaKey& key) { return mandatory(key) && IsAsked(job, key) == Asked::Yes; });
+  const std::string text = "there is no section [" + std::string(section) + "], which has " +
+                           std::to_string(keys) + " mandatory keys";
+  const DiscPlace place = job.catalogue.PlaceOf(section);
+  if (asked) return job.findings.Error(place, "missing-section", text);
+  job.findings.Warning(place, "missing-section", text + "; no entry of this disc needs it yet");
+}
+
+/// Sizes that make something that cannot be seen or used.
+void Senseless(CheckJob& job) {
+  const auto positive = [&](std::string_view section, std::string_view key, std::string_view what) {
+    const Setting found = job.catalogue.Find(section, key);
+    if (found && IsNumber(found.value) && DoubleOf(found.value) < 1)
+      job.findings.Warning(found.place, "senseless",
+                           Naming(section, key) + " is " + found.value + ": " + std::string(what));
+  };
+  for (const char* zone : {"BackW", "BackH", "UpW", "UpH", "Back2W", "Back2H", "Up2W", "Up2H"})
+    positive("GLOBAL", zone, "nobody can click there");
+  for (const char* section : {"HEADLINE", "MENUITEM"}) positive(section, "FontSize", "nobody can read that");
+  positive("GLOBAL", "MenuLevels", "there is no way down from the first menu");
+}
+
+}  // namespace
+
+void CheckSettings(CheckJob& job) {
+  std::string_view section;
+  for (const SchemaKey& key : kSchema) {
+    if (key.section == kNodeSection) continue;
+    const bool isNew = key.section != std::exchange(section, key.section);
+    if (IsNoSection(job, key.section)) {
+      if (isNew) MissingSection(job, key.section);
+      continue;
+    }
+    if (key.presence == Presence::Run) continue;
+    if (const Setting found = job.Find(key)) {
+      Malformed(job, key, found);
+    } else if (key.presence == Presence::Mandatory) {
+      Missing(job, key);
+    }
+  }
+  Senseless(job);
+}
+
+}  // namespace orvanta

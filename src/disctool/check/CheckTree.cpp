@@ -1,0 +1,173 @@
+// The menu tree: ways that lead nowhere, too deep or round in circles, and what an entry lacks.
+
+#include <algorithm>
+#include <string>
+#include <unordered_set>
+#include <vector>
+
+#include "config/NumberedKey.h"
+#include "config/Values.h"
+#include "config/Windows1250.h"
+#include "disctool/check/CheckParts.h"
+#include "disctool/disc/NearestName.h"
+
+namespace orvanta {
+namespace {
+
+/// The longest way to each node, and the items that lead back to where their own way came from.
+class Depths {
+ public:
+  explicit Depths(const MenuTree& tree) : tree_(tree), state_(tree.nodes.size()) {}
+
+  std::vector<int> depth;
+  std::vector<const MenuItem*> backwards;
+
+  void Find() {
+    Order();
+    depth.assign(tree_.nodes.size(), 0);
+    // Every node stands in `finished_` behind those that it leads to.
+    for (auto at = finished_.rbegin(); at != finished_.rend(); ++at) {
+      for (const MenuItem& item : tree_.nodes[*at].items) {
+        if (!isBackwards_.contains(&item)) depth[item.node] = std::max(depth[item.node], depth[*at] + 1);
+      }
+    }
+  }
+
+ private:
+  enum class State : char { Unseen, Open, Done };
+  struct Step {
+    std::size_t node, next;
+  };
+
+  /// Depth first, with a stack of its own: a disc decides how deep it goes.
+  void Order() {
+    std::vector<Step> way{{0, 0}};
+    state_[0] = State::Open;
+    while (!way.empty()) {
+      Step& step = way.back();
+      const auto& items = tree_.nodes[step.node].items;
+      if (step.next == items.size()) {
+        state_[step.node] = State::Done;
+        finished_.push_back(step.node);
+        way.pop_back();
+        continue;
+      }
+      const MenuItem& item = items[step.next++];
+      if (state_[item.node] == State::Open && isBackwards_.insert(&item).second) backwards.push_back(&item);
+      if (state_[item.node] != State::Unseen) continue;
+      state_[item.node] = State::Open;
+      way.push_back({item.node, 0});
+    }
+  }
+
+  const MenuTree& tree_;
+  std::vector<State> state_;
+  std::vector<std::size_t> finished_;
+  std::unordered_set<const MenuItem*> isBackwards_;
+};
+
+void TooDeep(CheckJob& job) {
+  const Setting levels = job.catalogue.Find("GLOBAL", "MenuLevels");
+  const int most = WholeOf(levels.value);
+  Depths depths(job.tree);
+  depths.Find();
+  for (const MenuItem* item : depths.backwards)
+    job.findings.Warning(item->place, "circle",
+                         "'" + job.tree.nodes[item->node].name +
+                             "' leads back to a menu that it lies in, so the way "
+                             "down never ends");
+  if (!levels) return;
+  for (std::size_t i = 0; i < job.tree.nodes.size(); ++i) {
+    if (depths.depth[i] > most) continue;
+    for (const MenuItem& item : job.tree.nodes[i].items) {
+      const MenuNode& node = job.tree.nodes[item.node];
+      // An inert item is not entered and takes no level.
+      if (depths.depth[item.node] == most + 1 && depths.depth[i] == most && node.kind != NodeKind::Inert)
+        job.findings.Error(item.place, "too-deep",
+                           "'" + node.name + "' lies " + std::to_string(most + 1) +
+                               " levels deep, but MenuLevels is " + std::to_string(most));
+    }
+  }
+}
+
+/// Names of sections that nothing leads to: one of them may be what an item was meant to lead to.
+std::vector<std::string> Unreached(const CheckJob& job) {
+  std::vector<std::string> names;
+  for (const Catalogue::File& file : job.catalogue.Files()) {
+    for (const IniSection& section : file.ini.sections) {
+      const std::string name = FromWindows1250(section.name);
+      if (!job.tree.Find(name) && FixedSection(name).empty()) names.push_back(name);
+    }
+  }
+  return names;
+}
+
+void Inert(CheckJob& job) {
+  // Comparing every item with every section is for discs with a few faults, not for those made of them.
+  constexpr std::size_t kMostCandidates = 200;
+  constexpr int kMostHints = 50;
+  std::vector<std::string> names = Unreached(job);
+  if (names.size() > kMostCandidates) names.clear();
+  const std::vector<std::string_view> candidates(names.begin(), names.end());
+  int hints = 0;
+  for (const MenuNode& menu : job.tree.nodes) {
+    for (const MenuItem& item : menu.items) {
+      const MenuNode& node = job.tree.nodes[item.node];
+      if (node.kind != NodeKind::Inert) continue;
+      std::string text = "'" + node.name + "' leads nowhere: ";
+      text += job.catalogue.HasSection(node.name) ? "its section has neither Menu1 nor Execute nor PlayAs"
+                                                  : "there is no section of that name";
+      const auto nearest = hints < kMostHints ? NearestName(node.name, candidates) : std::string_view();
+      if (!nearest.empty() && ++hints) text += "; did you mean [" + std::string(nearest) + "]?";
+      job.findings.Warning(item.place, "inert", text);
+    }
+  }
+}
+
+void Entry(CheckJob& job, const MenuNode& node) {
+  const DiscPlace place = job.catalogue.PlaceOf(node.name);
+  if (node.shots == 0)
+    job.findings.Warning(place, "no-screenshot",
+                         "the entry '" + node.name + "' has no screenshot: Shot1 is missing");
+  for (const char* key : {"Note", "System"})
+    if (!job.catalogue.Find(node.name, key))
+      job.findings.Warning(place, "no-text",
+                           "the entry '" + node.name + "' has an empty field: " + key + " is missing");
+  const Setting playAs = job.catalogue.Find(node.name, "PlayAs");
+  if (node.kind == NodeKind::Program) {
+    if (playAs)
+      job.findings.Warning(playAs.place, "not-played",
+                           "PlayAs has no effect here: '" + node.name + "' has Execute and so is a program");
+  } else if (!job.catalogue.Find(node.name, "Parameters")) {
+    job.findings.Error(playAs.place, "nothing-to-play",
+                       "the entry '" + node.name + "' has nothing to play: Parameters is missing");
+  }
+}
+
+void Menu(CheckJob& job, const MenuNode& node) {
+  if (!FixedSection(node.name).empty())
+    job.findings.Warning(job.catalogue.PlaceOf(node.name), "fixed-section-as-menu",
+                         "[" + node.name + "] is a section of settings and a menu at once");
+  for (const char* key : {"Execute", "PlayAs"})
+    if (const Setting found = job.catalogue.Find(node.name, key))
+      job.findings.Warning(found.place, "menu-and-entry",
+                           "'" + node.name + "' is a menu, for it has items; " + key +
+                               " makes it an entry only after a page has been closed");
+}
+
+}  // namespace
+
+void CheckTree(CheckJob& job) {
+  const MenuNode& root = job.tree.nodes.front();
+  if (root.kind != NodeKind::Menu)
+    job.findings.Error(job.catalogue.PlaceOf(root.name), "empty-menu",
+                       "the first menu is empty: Menu1 of [MAINMENU] is missing");
+  TooDeep(job);
+  Inert(job);
+  for (const MenuNode& node : job.tree.nodes) {
+    if (node.kind == NodeKind::Menu) Menu(job, node);
+    if (node.kind != NodeKind::Menu && node.kind != NodeKind::Inert) Entry(job, node);
+  }
+}
+
+}  // namespace orvanta

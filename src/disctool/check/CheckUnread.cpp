@@ -1,0 +1,143 @@
+// Sections and keys that nothing reads.
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "config/NumberedKey.h"
+#include "config/Windows1250.h"
+#include "disctool/check/CheckParts.h"
+#include "disctool/disc/NearestName.h"
+
+namespace orvanta {
+namespace {
+
+/// The number behind `prefix` in a key; nothing if the key is not of that run. 0 if it is no number that the
+/// run can have.
+std::optional<int> NumberInRun(std::string_view key, std::string_view prefix) {
+  if (key.size() <= prefix.size() || !EqualNoCase(key.substr(0, prefix.size()), prefix)) return std::nullopt;
+  const std::string_view digits = key.substr(prefix.size());
+  if (digits.find_first_not_of("0123456789") != digits.npos) return std::nullopt;
+  int number = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), number);
+  return std::to_string(number) == digits ? number : 0;
+}
+
+class Section {
+ public:
+  /// `schema` is the section's name in the table of keys.
+  Section(CheckJob& job, std::string name, std::string_view schema)
+      : job_(job), name_(std::move(name)), schema_(schema) {
+    for (const SchemaKey& key : kSchema)
+      if (key.section == schema_) names_.push_back(key.name);
+  }
+
+  void Check(const Catalogue::File& file, const IniSection& section, bool isNode, bool isMenu) {
+    for (const IniEntry& entry : section.entries) {
+      if (section.Find(entry.key) != &entry) continue;
+      const std::string key = FromWindows1250(entry.key);
+      const DiscPlace place{file.path, entry.line};
+      const bool read = Known(place, key, schema_) ||
+                        (isNode && schema_ != kNodeSection && Known(place, key, kNodeSection));
+      if (!read) Unknown(place, key);
+      if (read && isMenu && schema_ == kNodeSection) OfAMenu(place, key);
+      if (read) Hidden(place, key);
+    }
+  }
+
+ private:
+  /// Whether the table has the key; a number of a run that nothing asks for is reported.
+  bool Known(const DiscPlace& place, const std::string& key, std::string_view schema) {
+    for (const SchemaKey& known : kSchema) {
+      if (known.section != schema) continue;
+      if (known.presence != Presence::Run) {
+        if (EqualNoCase(known.name, key)) return true;
+      } else if (const auto number = NumberInRun(key, known.name)) {
+        BehindTheEnd(place, key, known.name, *number);
+        return true;
+      }
+    }
+    return false;
+  }
+
+  int RunLength(std::string_view prefix) {
+    for (const auto& [known, length] : lengths_)
+      if (known == prefix) return length;
+    int length = 0;
+    while (length < kLongestRun && job_.catalogue.Find(name_, NumberedKey(prefix, length + 1))) ++length;
+    lengths_.emplace_back(prefix, length);
+    return length;
+  }
+
+  void BehindTheEnd(const DiscPlace& place, const std::string& key, std::string_view prefix, int number) {
+    const int length = RunLength(prefix);
+    if (number >= 1 && number <= length + 1) return;
+    std::string why = "numbers run from 1 to " + std::to_string(kLongestRun) + ", without leading zeros";
+    if (number > length && length < kLongestRun)
+      why = NumberedKey(prefix, length + 1) + " is missing, which ends the run";
+    job_.findings.Warning(place, "behind-the-end", Naming(name_, key) + " is never read: " + why);
+  }
+
+  void Unknown(const DiscPlace& place, const std::string& key) {
+    std::string text = Naming(name_, key) + " is never read";
+    const auto elsewhere = std::ranges::find_if(kSchema, [&](const SchemaKey& known) {
+      return known.section != kNodeSection && EqualNoCase(known.name, key);
+    });
+    if (const auto nearest = NearestName(key, names_); !nearest.empty()) {
+      text += "; did you mean " + std::string(nearest) + "?";
+    } else if (elsewhere != kSchema.end()) {
+      text += "; it is a key of [" + std::string(elsewhere->section) + "]";
+    }
+    job_.findings.Warning(place, "unknown-key", text);
+  }
+
+  void OfAMenu(const DiscPlace& place, const std::string& key) {
+    for (const char* shown : {"Note", "System", "Parameters"})
+      if (EqualNoCase(key, shown))
+        job_.findings.Warning(place, "menu-and-entry",
+                              Naming(name_, key) + " is never read: '" + name_ + "' is a menu");
+    if (NumberInRun(key, "Shot"))
+      job_.findings.Warning(place, "menu-and-entry",
+                            Naming(name_, key) + " is never read: '" + name_ + "' is a menu");
+  }
+
+  /// A value of the second file that the first file has too.
+  void Hidden(const DiscPlace& place, const std::string& key) {
+    const Setting found = job_.catalogue.Find(name_, key);
+    if (!found || found.place.file == place.file) return;
+    const Catalogue::File& second = job_.catalogue.Files()[1];
+    if (place.file != second.path) return;
+    job_.findings.Warning(place, "hidden-key",
+                          Naming(name_, key) + " is never read: line " + std::to_string(found.place.line) +
+                              " of " + found.place.file.filename().string() + " has it too");
+  }
+
+  CheckJob& job_;
+  const std::string name_;
+  const std::string_view schema_;
+  std::vector<std::string_view> names_;
+  std::vector<std::pair<std::string_view, int>> lengths_;
+};
+
+}  // namespace
+
+void CheckUnread(CheckJob& job) {
+  for (const Catalogue::File& file : job.catalogue.Files()) {
+    for (const IniSection& section : file.ini.sections) {
+      if (file.ini.Find(section.name) != &section) continue;
+      const std::string name = FromWindows1250(section.name);
+      const std::string_view fixed = FixedSection(name);
+      const MenuNode* node = job.tree.Find(name);
+      if (fixed.empty() && !node) {
+        job.findings.Warning({file.path, section.line}, "unreached", "nothing leads to [" + name + "]");
+        continue;
+      }
+      Section(job, name, fixed.empty() ? kNodeSection : fixed)
+          .Check(file, section, node != nullptr, node && node->kind == NodeKind::Menu);
+    }
+  }
+}
+
+}  // namespace orvanta

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "disctool/disc/Catalogue.h"
+
+namespace orvanta {
+
+/// One fault of a disc.
+struct Finding {
+  enum class Severity { Error, Warning };
+  DiscPlace place;
+  Severity severity = Severity::Error;
+  std::string_view id;  ///< names the kind of fault for machines: "missing-key"
+  std::string text;
+};
+
+/// What is wrong with a disc.
+class Findings {
+ public:
+  /// `id` must be a literal.
+  void Error(const DiscPlace& place, std::string_view id, std::string text) {
+    list_.push_back({place, Finding::Severity::Error, id, std::move(text)});
+  }
+  void Warning(const DiscPlace& place, std::string_view id, std::string text) {
+    list_.push_back({place, Finding::Severity::Warning, id, std::move(text)});
+  }
+
+  /// By file and line; those of one line in the order of their finding.
+  void Sort();
+  const std::vector<Finding>& List() const { return list_; }
+  std::size_t Errors() const;
+  std::size_t Warnings() const { return list_.size() - Errors(); }
+
+ private:
+  std::vector<Finding> list_;
+};
+
+/// `file:line: error: text`, a line each, like a compiler's.
+std::string FindingsText(const Findings& findings);
+/// `{"errors", "warnings", "findings": [{"file", "line", "severity", "id", "text"}]}`
+std::string FindingsJson(const Findings& findings);
+
+}  // namespace orvanta

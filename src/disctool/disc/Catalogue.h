@@ -1,0 +1,61 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "config/DiscDrive.h"
+#include "disctool/disc/IniFile.h"
+
+namespace orvanta {
+
+/// A line of a file of the disc. Line 0 stands for the whole file.
+struct DiscPlace {
+  std::filesystem::path file;
+  int line = 0;
+};
+
+/// A value as the shell looks it up, and where it stands.
+struct Setting {
+  std::string value;  ///< UTF-8, empty if missing
+  DiscPlace place;
+
+  explicit operator bool() const { return !value.empty(); }
+};
+
+/// Both configuration files of a disc, read once. It finds what `INI_Read::IniRead` finds.
+class Catalogue {
+ public:
+  /// Where the drive's root lies: every disc is looked at as the drive D.
+  static constexpr std::string_view kDiscRoot = "D:\\";
+  /// A larger file is taken for none of a disc's, and not read.
+  static constexpr std::uintmax_t kLargestFile = 64 * 1024 * 1024;
+
+  struct File {
+    std::filesystem::path path;  ///< as found, or where it would be looked for
+    bool found = false;
+    bool tooLarge = false;
+    bool unreadable = false;
+    IniFile ini;
+  };
+
+  explicit Catalogue(const std::filesystem::path& discFolder);
+
+  /// `section` and `key` are UTF-8.
+  Setting Find(std::string_view section, std::string_view key) const;
+  /// Where a section begins, in the first file that has it; else the beginning of the last file that is
+  /// there.
+  DiscPlace PlaceOf(std::string_view section) const;
+  bool HasSection(std::string_view section) const;
+
+  /// Menu.ini, then Param.ini, in the order in which they are asked.
+  const std::array<File, 2>& Files() const { return files_; }
+  bool Empty() const { return !files_[0].found && !files_[1].found; }
+
+ private:
+  std::array<File, 2> files_;
+};
+
+}  // namespace orvanta

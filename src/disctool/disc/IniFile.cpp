@@ -1,0 +1,124 @@
+#include "disctool/disc/IniFile.h"
+
+#include <algorithm>
+
+#include "config/Fold1250.h"
+#include "config/ProfileString.h"
+#include "config/Windows1250.h"
+
+namespace orvanta {
+namespace {
+
+using Kind = IniRemark::Kind;
+
+constexpr std::string_view kBlanks = " \t\v\f\x1a";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+/// The bytes for which Windows-1250 has no character.
+constexpr std::string_view kUndefined = "\x81\x83\x88\x90\x98";
+
+std::string_view Trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(kBlanks);
+  if (first == text.npos) return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+std::string_view Unquoted(std::string_view text) {
+  const bool quoted =
+      text.size() >= 2 && text.front() == text.back() && (text.front() == '"' || text.front() == '\'');
+  return quoted ? text.substr(1, text.size() - 2) : text;
+}
+
+/// Letters beyond ASCII, all of them in sequences that only UTF-8 makes.
+bool LooksLikeUtf8(std::string_view line) {
+  bool any = false;
+  for (std::size_t i = 0; i < line.size(); ++i) {
+    const auto lead = static_cast<unsigned char>(line[i]);
+    if (lead < 0x80) continue;
+    const std::size_t more = lead >= 0xC2 && lead < 0xE0 ? 1 : (lead & 0xF0) == 0xE0 ? 2 : 0;
+    if (more == 0 || i + more >= line.size()) return false;
+    for (std::size_t k = 1; k <= more; ++k)
+      if ((static_cast<unsigned char>(line[i + k]) & 0xC0) != 0x80) return false;
+    i += more;
+    any = true;
+  }
+  return any;
+}
+
+class Reader {
+ public:
+  explicit Reader(IniFile& file) : file_(file) {}
+
+  void Take(std::string_view line) {
+    ++number_;
+    if (number_ == 1 && line.starts_with(kByteOrderMark)) Remark(Kind::ByteOrderMark);
+    if (line.find('\0') != line.npos) Remark(Kind::NulByte);
+    if (LooksLikeUtf8(line)) {
+      Remark(Kind::Utf8);
+    } else if (line.find_first_of(kUndefined) != line.npos) {
+      Remark(Kind::OutsideCodePage);
+    }
+    const std::string_view text = Trimmed(line);
+    if (text.empty() || text.front() == ';') return;
+    if (text.front() == '[') return Header(text.substr(1));
+    Entry(text);
+  }
+
+ private:
+  void Remark(Kind kind) { file_.remarks.push_back({number_, kind}); }
+
+  void Header(std::string_view text) {
+    if (text.find(']') == text.npos) Remark(Kind::NoBracket);
+    const std::string name(Trimmed(text.substr(0, text.find(']'))));
+    file_.byName.try_emplace(Folded(name), file_.sections.size());
+    file_.sections.push_back({number_, name, {}, {}});
+  }
+
+  void Entry(std::string_view text) {
+    const auto equals = text.find('=');
+    if (equals == text.npos) return Remark(Kind::NoEquals);
+    const std::string_view key = Trimmed(text.substr(0, equals));
+    if (key.empty()) return Remark(Kind::NoKey);
+    if (file_.sections.empty()) return Remark(Kind::AboveSections);
+    const std::string_view rest = text.substr(equals + 1);
+    const std::string_view value = Unquoted(Trimmed(rest.substr(0, rest.find('\0'))));
+    IniSection& section = file_.sections.back();
+    section.byName.try_emplace(Folded(key), section.entries.size());
+    section.entries.push_back(
+        {number_, std::string(key), std::string(value.substr(0, kLongestValue)), value.size()});
+  }
+
+  IniFile& file_;
+  int number_ = 0;
+};
+
+}  // namespace
+
+std::string Folded(std::string_view bytes) {
+  std::string folded(bytes);
+  std::transform(folded.begin(), folded.end(), folded.begin(), Fold1250);
+  return folded;
+}
+
+const IniEntry* IniSection::Find(std::string_view key) const {
+  const auto found = byName.find(Folded(key));
+  return found == byName.end() ? nullptr : &entries[found->second];
+}
+
+const IniSection* IniFile::Find(std::string_view name) const {
+  const auto found = byName.find(Folded(name));
+  return found == byName.end() ? nullptr : &sections[found->second];
+}
+
+IniFile ParseIniFile(std::string_view text) {
+  IniFile file;
+  Reader reader(file);
+  while (!text.empty()) {
+    const auto length = std::min(text.find_first_of("\r\n"), text.size());
+    reader.Take(text.substr(0, length));
+    const bool pair = text.substr(length).starts_with("\r\n");
+    text.remove_prefix(std::min(length + (pair ? 2 : 1), text.size()));
+  }
+  return file;
+}
+
+}  // namespace orvanta

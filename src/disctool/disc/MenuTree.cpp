@@ -1,0 +1,124 @@
+#include "disctool/disc/MenuTree.h"
+
+#include <algorithm>
+
+#include "config/NumberedKey.h"
+#include "config/Windows1250.h"
+#include "disctool/OutputText.h"
+
+namespace orvanta {
+namespace {
+
+constexpr std::string_view kRoot = "MAINMENU";
+/// Deeper lines are not indented further, so that no disc makes the output grow with the square of its depth.
+constexpr std::size_t kDeepestIndent = 40;
+
+std::string Identity(std::string_view name) {
+  const auto bytes = ToWindows1250(name);
+  return Folded(bytes ? *bytes : std::string(name));
+}
+
+NodeKind KindOf(const Catalogue& catalogue, const MenuNode& node) {
+  if (!node.items.empty()) return NodeKind::Menu;
+  if (catalogue.Find(node.name, "Execute")) return NodeKind::Program;
+  const Setting playAs = catalogue.Find(node.name, "PlayAs");
+  if (!playAs) return NodeKind::Inert;
+  return EqualNoCase(playAs.value, "MUSIC") ? NodeKind::Music : NodeKind::Film;
+}
+
+class Builder {
+ public:
+  explicit Builder(const Catalogue& catalogue) : catalogue_(catalogue) {}
+
+  MenuTree Build() {
+    Add(std::string(kRoot));
+    for (std::size_t i = 0; i < tree_.nodes.size(); ++i) Fill(i);
+    return std::move(tree_);
+  }
+
+ private:
+  std::size_t Add(const std::string& name) {
+    const auto [at, isNew] = tree_.byName.try_emplace(Identity(name), tree_.nodes.size());
+    if (isNew) tree_.nodes.push_back({name, NodeKind::Inert, {}, 0});
+    return at->second;
+  }
+
+  void Fill(std::size_t index) {
+    const std::string name = tree_.nodes[index].name;
+    for (int number = 1; number <= kLongestRun; ++number) {
+      const Setting item = catalogue_.Find(name, NumberedKey("Menu", number));
+      if (!item) break;
+      const std::size_t child = Add(item.value);
+      tree_.nodes[index].items.push_back({child, item.place});
+    }
+    MenuNode& node = tree_.nodes[index];
+    while (node.shots < kLongestRun && catalogue_.Find(name, NumberedKey("Shot", node.shots + 1)))
+      ++node.shots;
+    node.kind = KindOf(catalogue_, node);
+  }
+
+  const Catalogue& catalogue_;
+  MenuTree tree_;
+};
+
+}  // namespace
+
+std::string_view NameOf(NodeKind kind) {
+  switch (kind) {
+    case NodeKind::Menu: return "menu";
+    case NodeKind::Program: return "program";
+    case NodeKind::Music: return "music";
+    case NodeKind::Film: return "film";
+    case NodeKind::Inert: break;
+  }
+  return "inert";
+}
+
+const MenuNode* MenuTree::Find(std::string_view section) const {
+  const auto found = byName.find(Identity(section));
+  return found == byName.end() ? nullptr : &nodes[found->second];
+}
+
+bool MenuTree::Has(NodeKind kind) const {
+  return std::ranges::any_of(nodes, [kind](const MenuNode& node) { return node.kind == kind; });
+}
+
+MenuTree ReadMenuTree(const Catalogue& catalogue) { return Builder(catalogue).Build(); }
+
+std::string MenuTreeText(const MenuTree& tree) {
+  struct Step {
+    std::size_t node, depth;
+  };
+  std::string text;
+  std::vector<bool> listed(tree.nodes.size());
+  std::vector<Step> steps{{0, 0}};
+  while (!steps.empty()) {
+    const Step step = steps.back();
+    steps.pop_back();
+    const MenuNode& node = tree.nodes[step.node];
+    const bool again = node.kind == NodeKind::Menu && listed[step.node];
+    text.append(2 * std::min(step.depth, kDeepestIndent), ' ') += Printable(node.name);
+    text.append(" [").append(NameOf(node.kind)).append(again ? ", see above]\n" : "]\n");
+    if (listed[step.node]) continue;
+    listed[step.node] = true;
+    for (auto item = node.items.rbegin(); item != node.items.rend(); ++item)
+      steps.push_back({item->node, step.depth + 1});
+  }
+  return text;
+}
+
+std::string MenuTreeJson(const MenuTree& tree) {
+  std::string text = "{\"nodes\": [";
+  for (std::size_t i = 0; i < tree.nodes.size(); ++i) {
+    const MenuNode& node = tree.nodes[i];
+    text += i == 0 ? "\n" : ",\n";
+    text += "  {\"id\": " + std::to_string(i) + ", \"name\": " + JsonText(node.name);
+    text.append(", \"kind\": \"").append(NameOf(node.kind)).append("\", \"items\": [");
+    for (std::size_t k = 0; k < node.items.size(); ++k)
+      text.append(k == 0 ? "" : ", ").append(std::to_string(node.items[k].node));
+    text += "]}";
+  }
+  return text + "\n]}\n";
+}
+
+}  // namespace orvanta

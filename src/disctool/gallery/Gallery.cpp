@@ -1,0 +1,37 @@
+#include "disctool/gallery/Gallery.h"
+
+#include <fstream>
+#include <system_error>
+
+#include "disctool/gallery/GalleryWalk.h"
+
+namespace orvanta {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// What is in the way of a gallery; empty if nothing is.
+std::string Obstacle(const fs::path& disc, const fs::path& folder) {
+  if (Catalogue(disc).Empty()) return disc.string() + ": there is no disc here";
+  std::error_code error;
+  fs::create_directories(folder, error);
+  if (error) return folder.string() + " cannot be made: " + error.message();
+  if (!fs::is_empty(folder, error) || error) return folder.string() + " is not empty";
+  return {};
+}
+
+}  // namespace
+
+std::string MakeGallery(const fs::path& disc, const fs::path& folder, const Progress& progress) {
+  if (std::string obstacle = Obstacle(disc, folder); !obstacle.empty()) return obstacle;
+  GalleryWalk walk(disc, folder, progress);
+  walk.Go();
+  if (!walk.fault.empty()) return walk.fault;
+  const Setting caption = Catalogue(disc).Find("HEADLINE", "Caption");
+  std::ofstream page(folder / "index.html", std::ios::binary);
+  page << GalleryPage(caption ? caption.value : disc.filename().string(), walk.entries, walk.root);
+  page.close();
+  return page ? std::string() : (folder / "index.html").string() + " cannot be written";
+}
+
+}  // namespace orvanta

@@ -1,0 +1,181 @@
+#include "disctool/image/DiscCache.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+
+#include <QCryptographicHash>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <optional>
+#include <vector>
+
+#include "disctool/image/DiscImage.h"
+#include "disctool/image/HeldSignals.h"
+
+namespace orvanta {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A copy on its way. Whoever holds the lock knows that nobody is at work on one that he finds.
+constexpr std::string_view kUnfinished = ".part";
+constexpr const char* kLockName = "lock";
+/// Counts up when copies of an older program are no longer of use.
+constexpr const char* kFormat = "1";
+
+fs::path CacheHome() {
+  const auto variable = [](const char* name) {
+    const char* value = std::getenv(name);
+    return fs::path(value ? value : "");
+  };
+  // Paths that are not absolute are to be ignored, by the rules that name these folders.
+  if (fs::path cache = variable("XDG_CACHE_HOME"); cache.is_absolute()) return cache;
+  const fs::path home = variable("HOME");
+  return (home.is_absolute() ? home : fs::path("/")) / ".cache";
+}
+
+std::string Digest(const std::string& text) {
+  constexpr qsizetype kLength = 16;
+  return QCryptographicHash::hash(QByteArray::fromStdString(text), QCryptographicHash::Sha256)
+      .toHex()
+      .first(kLength)
+      .toStdString();
+}
+
+/// A name for the image as it is now: its place, then its state. Empty if it is no regular file.
+std::string NameOf(const fs::path& image) {
+  struct stat status {};
+  std::error_code error;
+  const fs::path place = fs::canonical(image, error);
+  if (error || stat(place.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return {};
+  std::string state = kFormat;
+  for (const auto number : {std::int64_t{status.st_size}, std::int64_t{status.st_mtim.tv_sec},
+                            std::int64_t{status.st_mtim.tv_nsec}, static_cast<std::int64_t>(status.st_ino),
+                            static_cast<std::int64_t>(status.st_dev)})
+    state += " " + std::to_string(number);
+  return Digest(place.string()) + "-" + Digest(state);
+}
+
+std::string_view PlaceOf(std::string_view name) { return name.substr(0, name.find('-')); }
+
+std::string Problem(const fs::path& path) { return path.string() + ": " + std::strerror(errno); }
+
+/// Held by every shell that has a copy open.
+Descriptor Hold(const fs::path& copy, int operation) {
+  Descriptor folder(open(copy.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+  if (folder && flock(folder.get(), operation) != 0) folder.reset();
+  return folder;
+}
+
+std::vector<std::string> NamesIn(const fs::path& folder) {
+  std::vector<std::string> names;
+  std::error_code error;
+  for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error))
+    names.push_back(entry->path().filename().string());
+  return names;
+}
+
+constexpr std::uintmax_t kMegabyte = 1'000'000;
+
+/// Why a copy has no room; empty if it has.
+std::string NoRoom(const fs::path& folder, const ImageContents& contents) {
+  struct statvfs disk {};
+  if (statvfs(folder.c_str(), &disk) != 0) return Problem(folder);
+  const std::uintmax_t free = std::uintmax_t{disk.f_bavail} * disk.f_frsize;
+  // Each file begins a block of its own.
+  const std::uintmax_t needed = contents.bytes + contents.files * disk.f_frsize;
+  if (needed <= free) return {};
+  return "unpacking takes " + std::to_string((needed + kMegabyte - 1) / kMegabyte) + " MB, but " +
+         folder.string() + " has only " + std::to_string(free / kMegabyte) + " MB left";
+}
+
+OpenedDisc Failed(std::string problem) { return {{}, std::move(problem), {}}; }
+
+}  // namespace
+
+DiscCache::DiscCache() : DiscCache(CacheHome() / "orvanta") {}
+
+Descriptor DiscCache::Lock(std::string& problem) const {
+  std::error_code error;
+  fs::create_directories(folder_.parent_path(), error);
+  mkdir(folder_.c_str(), S_IRWXU);
+  struct stat status {};
+  const Descriptor folder(open(folder_.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+  if (!folder || fstat(folder.get(), &status) != 0) return problem = Problem(folder_), Descriptor();
+  // A stranger could put programs into a disc.
+  if (status.st_uid != geteuid() || (status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
+    return problem = folder_.string() + " is not the user's alone", Descriptor();
+  Descriptor lock(
+      openat(folder.get(), kLockName, O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR));
+  if (!lock || flock(lock.get(), LOCK_EX) != 0) return problem = Problem(folder_ / kLockName), Descriptor();
+  for (const std::string& name : NamesIn(folder_))
+    if (name.ends_with(kUnfinished)) fs::remove_all(folder_ / name, error);
+  return lock;
+}
+
+OpenedDisc DiscCache::Open(const fs::path& disc, const Progress& progress) const {
+  std::error_code error;
+  if (fs::is_directory(disc, error)) return {fs::absolute(disc, error), {}, {}};
+  if (!fs::exists(disc, error)) return Failed(disc.string() + ": there is nothing of that name");
+  const std::string name = NameOf(disc);
+  if (name.empty()) return Failed(disc.string() + " is neither a folder nor an image of a disc");
+  std::string problem;
+  const Descriptor lock = Lock(problem);
+  if (!lock) return Failed(problem);
+  if (Descriptor copy = Hold(folder_ / name, LOCK_SH)) return {folder_ / name, {}, std::move(copy)};
+  return Unpack(disc, name, progress);
+}
+
+OpenedDisc DiscCache::Unpack(const fs::path& image, const std::string& name, const Progress& progress) const {
+  const auto failed = [&](const std::string& why) { return Failed(image.string() + ": " + why); };
+  const ImageContents contents = ReadImage(image);
+  if (!contents.problem.empty()) return failed(contents.problem);
+  RemoveOthers(name);
+  if (const std::string problem = NoRoom(folder_, contents); !problem.empty()) return failed(problem);
+  const HeldSignals untilItIsWholeOrGone;
+  const fs::path unfinished = folder_ / (name + std::string(kUnfinished));
+  if (mkdir(unfinished.c_str(), S_IRWXU) != 0) return Failed(Problem(unfinished));
+  std::string problem = UnpackImage(image, contents, unfinished, progress);
+  if (problem.empty() && NameOf(image) != name) problem = "the image has changed while it was read";
+  // What has been moved into place must be whole after a power cut too.
+  const Descriptor folder = Hold(unfinished, LOCK_SH);
+  if (problem.empty() && (!folder || syncfs(folder.get()) != 0)) problem = Problem(unfinished);
+  std::error_code error;
+  if (problem.empty()) fs::rename(unfinished, folder_ / name, error);
+  if (error) problem = error.message();
+  if (!problem.empty()) {
+    fs::remove_all(unfinished, error);
+    return failed(problem);
+  }
+  return {folder_ / name, {}, Hold(folder_ / name, LOCK_SH)};
+}
+
+void DiscCache::RemoveOthers(const std::string& name) const {
+  std::error_code error;
+  for (const std::string& other : NamesIn(folder_)) {
+    if (PlaceOf(other) != PlaceOf(name) || other == name) continue;
+    if (Hold(folder_ / other, LOCK_EX | LOCK_NB)) fs::remove_all(folder_ / other, error);
+  }
+}
+
+std::string DiscCache::Clear() const {
+  std::error_code error;
+  if (!fs::exists(folder_, error)) return {};
+  std::string problem;
+  const Descriptor lock = Lock(problem);
+  if (!lock) return problem;
+  for (const std::string& name : NamesIn(folder_)) {
+    if (name == kLockName) continue;
+    if (!Hold(folder_ / name, LOCK_EX | LOCK_NB)) {
+      problem = (folder_ / name).string() + " is open in a shell";
+    } else if (fs::remove_all(folder_ / name, error); error) {
+      problem = (folder_ / name).string() + ": " + error.message();
+    }
+  }
+  return problem;
+}
+
+}  // namespace orvanta

@@ -1,0 +1,84 @@
+#include "disctool/image/ImageReader.h"
+
+#include <archive_entry.h>
+
+#include <algorithm>
+#include <string_view>
+
+#include "disctool/OutputText.h"
+
+namespace orvanta {
+namespace {
+
+/// The longest path of a file in an image; the folder's own comes on top.
+constexpr std::size_t kLongestName = 2000;
+
+/// The names that lead to an entry, empty for the root; nothing if they lead out of the image.
+std::optional<std::vector<std::string>> NamesOf(std::string_view path) {
+  std::vector<std::string> names;
+  if (path.starts_with('/') || path.size() > kLongestName) return std::nullopt;
+  while (!path.empty()) {
+    const auto length = std::min(path.find('/'), path.size());
+    const std::string name(path.substr(0, length));
+    path.remove_prefix(std::min(length + 1, path.size()));
+    if (name.empty() || name == ".") continue;
+    // A backslash is a separator to the discs themselves.
+    if (name == ".." || name.find('\\') != name.npos) return std::nullopt;
+    names.push_back(name);
+  }
+  return names;
+}
+
+}  // namespace
+
+std::string ProblemOf(archive* image) {
+  const char* text = archive_error_string(image);
+  return std::string("the image cannot be read: ") + (text ? text : "unknown fault");
+}
+
+ImageReader::ImageReader(const std::filesystem::path& image) : archive_(archive_read_new()) {
+  archive_read_support_format_iso9660(Get());
+  constexpr std::size_t kBlock = 64 * 1024;
+  if (archive_read_open_filename(Get(), image.c_str(), kBlock) != ARCHIVE_OK) problem = ProblemOf(Get());
+}
+
+std::optional<ImageEntry> ImageReader::Next() {
+  if (!problem.empty()) return std::nullopt;
+  archive_entry* header = nullptr;
+  const int result = archive_read_next_header(Get(), &header);
+  if (result == ARCHIVE_EOF) return std::nullopt;
+  // A warning tells of a name that could not be converted or of a broken directory.
+  if (result != ARCHIVE_OK) return Refuse(ProblemOf(Get()));
+  return Take(header);
+}
+
+std::optional<ImageEntry> ImageReader::Refuse(std::string why) {
+  problem = std::move(why);
+  return std::nullopt;
+}
+
+std::optional<ImageEntry> ImageReader::Take(archive_entry* header) {
+  const char* path = archive_entry_pathname(header);
+  if (!path) return Refuse("the image has a name that cannot be read");
+  const std::string shown = "'" + Printable(path) + "'";
+  const auto names = NamesOf(path);
+  if (!names) return Refuse("the image has a name that leads out of it: " + shown);
+  const auto type = archive_entry_filetype(header);
+  const char* same = archive_entry_hardlink(header);
+  if (type == AE_IFLNK) return Refuse("the image has a link in it: " + shown);
+  if (type != AE_IFREG && type != AE_IFDIR && !same)
+    return Refuse("the image has something in it that is neither file nor folder: " + shown);
+  ImageEntry entry{*names, type == AE_IFDIR, {}, 0, archive_entry_perm(header)};
+  if (names->empty() && !entry.isFolder) return Refuse("the image has a file without a name");
+  if (same) {
+    const auto first = NamesOf(same);
+    if (!first || first->empty()) return Refuse("the image has a name that leads out of it: " + shown);
+    entry.sameAs = *first;
+  }
+  const auto size = archive_entry_size(header);
+  if (size < 0) return Refuse("the image has a file of an impossible size: " + shown);
+  entry.size = static_cast<std::uintmax_t>(size);
+  return entry;
+}
+
+}  // namespace orvanta

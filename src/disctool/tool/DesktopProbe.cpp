@@ -1,0 +1,65 @@
+#include "disctool/tool/DesktopProbe.h"
+
+#include <gst/pbutils/pbutils.h>
+
+#include <QFile>
+#include <QFontDatabase>
+#include <QImageReader>
+#include <memory>
+
+#include "disctool/making/GifFile.h"
+#include "platform/desktop/media/MediaSource.h"
+
+namespace orvanta {
+namespace {
+
+struct Unref {
+  void operator()(void* object) const { g_object_unref(object); }
+};
+template <class Object>
+using Owned = std::unique_ptr<Object, Unref>;
+
+struct FreeStreams {
+  void operator()(GList* streams) const { gst_discoverer_stream_info_list_free(streams); }
+};
+/// Much more than the largest picture that the shell would load.
+constexpr qint64 kLargestPicture = 256 * 1024 * 1024;
+
+std::string BytesOf(const std::filesystem::path& name) {
+  QFile file(QString::fromStdString(name.string()));
+  return file.open(QIODevice::ReadOnly) ? file.read(kLargestPicture).toStdString() : std::string();
+}
+
+using Streams = std::unique_ptr<GList, FreeStreams>;
+
+}  // namespace
+
+std::optional<Size> DesktopProbe::PictureSize(const std::filesystem::path& file) {
+  QImageReader reader(QString::fromStdString(file.string()));
+  reader.setDecideFormatFromContent(true);
+  // Nearly all art is GIF, and decoding thousands of pictures would take minutes on an old machine.
+  if (reader.format() == "gif") return WholeGifSize(BytesOf(file));
+  const QImage picture = reader.read();
+  if (picture.isNull()) return std::nullopt;
+  return Size{picture.width(), picture.height()};
+}
+
+bool DesktopProbe::IsFont(const std::filesystem::path& file) {
+  const int id = QFontDatabase::addApplicationFont(QString::fromStdString(file.string()));
+  if (id >= 0) QFontDatabase::removeApplicationFont(id);
+  return id >= 0;
+}
+
+bool DesktopProbe::CanPlay(const std::filesystem::path& file, bool film) {
+  if (!gst_is_initialized() && !gst_init_check(nullptr, nullptr, nullptr)) return false;
+  const Owned<GstDiscoverer> discoverer(gst_discoverer_new(5 * GST_SECOND, nullptr));
+  if (!discoverer) return false;
+  const Owned<GstDiscovererInfo> info(
+      gst_discoverer_discover_uri(discoverer.get(), FindMediaSource(file).uri.c_str(), nullptr));
+  if (!info || gst_discoverer_info_get_result(info.get()) != GST_DISCOVERER_OK) return false;
+  const Streams video(gst_discoverer_info_get_video_streams(info.get()));
+  const Streams audio(gst_discoverer_info_get_audio_streams(info.get()));
+  return video || (audio && !film);
+}
+
+}  // namespace orvanta

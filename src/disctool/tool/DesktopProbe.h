@@ -1,0 +1,17 @@
+#pragma once
+
+#include "disctool/disc/DiscProbe.h"
+
+namespace orvanta {
+
+/// Tries a disc's files with what the desktop's shell uses: Qt for pictures and fonts, GStreamer for sound
+/// and film. Needs a `QGuiApplication`.
+class DesktopProbe : public DiscProbe {
+ public:
+  std::optional<Size> PictureSize(const std::filesystem::path& file) override;
+  bool IsFont(const std::filesystem::path& file) override;
+  /// Plays nothing. A file that keeps GStreamer busy for five seconds cannot be played.
+  bool CanPlay(const std::filesystem::path& file, bool film) override;
+};
+
+}  // namespace orvanta

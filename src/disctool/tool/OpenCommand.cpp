@@ -1,0 +1,104 @@
+#include "disctool/tool/OpenCommand.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <algorithm>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <optional>
+
+#include "disctool/OutputText.h"
+#include "disctool/disc/Catalogue.h"
+#include "disctool/image/DiscCache.h"
+#include "platform/desktop/DesktopHost.h"
+#include "platform/desktop/window/ProgramIcon.h"
+#include "startup/Shell.h"
+
+namespace orvanta {
+namespace {
+
+/// Without a display Qt ends the process, and not with a word that helps.
+bool HasDisplay() {
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+    if (const char* value = std::getenv(name); value && *value) return true;
+  return false;
+}
+
+constexpr std::chrono::milliseconds kPatience{500};
+constexpr int kSteps = 1000;
+
+/// Comes when the work has taken half a second; most discs are open by then.
+class ProgressWindow {
+ public:
+  ProgressWindow(int& argc, char** argv) : argc_(argc), argv_(argv) {}
+
+  void Show(std::uintmax_t done, std::uintmax_t all) {
+    if (!bar_ && (std::chrono::steady_clock::now() < due_ || !HasDisplay())) return;
+    if (!bar_) Open();
+    const auto part = static_cast<double>(done) / static_cast<double>(std::max(done, all));
+    if (const int step = static_cast<int>(part * kSteps); step != bar_->value()) bar_->setValue(step);
+    QCoreApplication::processEvents();
+  }
+
+ private:
+  void Open() {
+    application_.emplace(argc_, argv_);
+    QApplication::setWindowIcon(ProgramIcon());
+    bar_.emplace("Unpacking the disc...", "Cancel", 0, kSteps);
+    bar_->setWindowTitle("Orvanta Shell");
+    bar_->setMinimumDuration(0);
+    bar_->setAutoReset(false);
+    // As at a terminal: whoever unpacks tidies up, and the program ends.
+    QObject::connect(&*bar_, &QProgressDialog::canceled, [] { std::raise(SIGTERM); });
+  }
+
+  int& argc_;
+  char** argv_;
+  const std::chrono::steady_clock::time_point due_ = std::chrono::steady_clock::now() + kPatience;
+  std::optional<QApplication> application_;
+  std::optional<QProgressDialog> bar_;
+};
+
+std::string Open(const std::filesystem::path& named, int& argc, char** argv) {
+  std::optional<ProgressWindow> window(std::in_place, argc, argv);
+  const OpenedDisc disc = DiscCache().Open(
+      named, [&window](std::uintmax_t done, std::uintmax_t all) { window->Show(done, all); });
+  window.reset();
+  return disc.problem.empty() ? RunShell(disc.folder, argc, argv) : disc.problem;
+}
+
+}  // namespace
+
+std::string RunShell(const std::filesystem::path& disc, int& argc, char** argv) {
+  if (Catalogue(disc).Empty())
+    return disc.string() + ": there is no disc here: neither Data/Menu.ini nor Data/Param.ini";
+  if (!HasDisplay()) return "there is no display to open a window on";
+  DesktopHost host(argc, argv, disc);
+  if (host.PrevInstance()) return "the shell is running already on this display";
+  Shell shell(host);
+  shell.Run();
+  return {};
+}
+
+bool ErrorsAreRead() {
+  struct stat status {};
+  return isatty(STDERR_FILENO) != 0 || (fstat(STDERR_FILENO, &status) == 0 && S_ISFIFO(status.st_mode));
+}
+
+std::string OpenInWindows(const std::filesystem::path& disc, int& argc, char** argv) {
+  std::string problem = Open(disc, argc, argv);
+  if (problem.empty() || !HasDisplay()) return problem;
+  const QApplication application(argc, argv);
+  QApplication::setWindowIcon(ProgramIcon());
+  QMessageBox box(QMessageBox::Critical, "Orvanta Shell", QString::fromStdString(Printable(problem)));
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+  return problem;
+}
+
+}  // namespace orvanta

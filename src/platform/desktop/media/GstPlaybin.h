@@ -1,0 +1,64 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "platform/MoviePlayer.h"
+#include "platform/desktop/media/FrameBox.h"
+#include "platform/desktop/media/GstAudioSink.h"
+#include "platform/desktop/media/MediaSource.h"
+#include "platform/desktop/media/NewsBox.h"
+
+namespace orvanta {
+
+/// GStreamer's `playbin` with our sinks, and the few things asked of it. Every call may take as long as the
+/// drive and the sound server do. All times are in seconds.
+class GstPlaybin {
+ public:
+  /// What it calls on GStreamer's threads.
+  struct Listener {
+    std::function<void()> onNews;         ///< The news box holds an end or a failure.
+    std::function<bool()> playsOnceMore;  ///< The file has been read: is it to follow itself without a gap?
+  };
+
+  /// A `playbin` that could not be put together, for want of plugins, fails in `Preroll`.
+  GstPlaybin(MovieKind kind, SoundOutput output, FrameBoxPtr frames, NewsBox& news, Listener listener);
+  ~GstPlaybin();
+  GstPlaybin(const GstPlaybin&) = delete;
+  GstPlaybin& operator=(const GstPlaybin&) = delete;
+
+  void SetSource(MediaSource source);
+  void SetVolume(int hundredthsOfDecibel) { sound_.SetVolume(hundredthsOfDecibel); }
+
+  /// Lets go of the file.
+  void Ready();
+  /// Opens the file and waits for its first data; false if it cannot be played.
+  bool Preroll();
+  void Play();
+  void Pause();
+  /// Goes there and waits for the data; false if the file cannot do that.
+  bool Seek(double seconds);
+
+  std::optional<double> Position() const;
+  std::optional<double> Duration() const;
+
+ private:
+  bool Build(FrameBoxPtr frames);
+  bool AwaitData(std::chrono::milliseconds patience);
+  NewsBox::News Read(GstMessage* message) const;
+  bool LacksDecoder(GstMessage* message) const;
+  static GstBusSyncReply OnMessage(GstBus* bus, GstMessage* message, gpointer self);
+  static void OnAboutToFinish(GstElement* playbin, gpointer self);
+  static void OnElement(GstElement* playbin, GstElement* element, gpointer self);
+
+  const MovieKind kind_;
+  NewsBox& news_;
+  const Listener listener_;
+  MediaSource source_;
+  GstAudioSink sound_;
+  GstHandle<GstElement> playbin_;
+  GstHandle<GstBus> bus_;
+};
+
+}  // namespace orvanta

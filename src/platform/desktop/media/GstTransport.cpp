@@ -1,0 +1,164 @@
+#include "platform/desktop/media/GstTransport.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/desktop/media/MediaSource.h"
+
+namespace orvanta {
+namespace {
+
+// Seconds. MPEG program streams begin at about half a second by their own clock; less than this is the place
+// of a first picture, not of the beginning.
+constexpr double kLeastOrigin = 0.1;
+
+// Seconds. A return to the beginning that comes sooner after the start would only be heard as a stutter.
+constexpr double kStillAtBeginning = 0.1;
+
+// A pause this soon after the start leaves the sound server silent for as long as the pause lasted when the
+// stream goes on.
+constexpr std::chrono::seconds kEarly{1};
+
+// Seconds. Only what lasts at least so long is repeated without a gap: the next repetition is read in
+// advance, and of an empty file there is no end of it.
+constexpr double kLeastGapless = 0.05;
+
+// A repetition that is over sooner has nothing in it.
+constexpr std::chrono::milliseconds kLeastRepetition{10};
+
+}  // namespace
+
+GstTransport::GstTransport(MovieKind kind, FrameBoxPtr frames, NewsBox& news, std::function<void()> onNews)
+    : kind_(kind), frames_(std::move(frames)), news_(news), onNews_(std::move(onNews)) {}
+
+bool GstTransport::Load(const std::filesystem::path& file) {
+  // Harmless where it has been done. The first time on a machine it lists the plugins, which takes seconds.
+  if (!gst_init_check(nullptr, nullptr, nullptr)) return false;
+  playbin_ = std::make_unique<GstPlaybin>(kind_, FindSoundOutput(), frames_, news_,
+                                          GstPlaybin::Listener{onNews_, [this] { return PlaysOnceMore(); }});
+  playbin_->SetSource(FindMediaSource(file));
+  playbin_->SetVolume(volume_);
+  if (!playbin_->Preroll()) {
+    Die();
+    return false;
+  }
+  const double first = playbin_->Position().value_or(0);
+  origin_ = first < kLeastOrigin ? 0 : first;
+  length_ = playbin_->Duration().value_or(0);
+  mode_ = Mode::Paused;
+  return true;
+}
+
+void GstTransport::Play() {
+  if (mode_ == Mode::Dead || mode_ == Mode::Playing) return;
+  const bool fresh = mode_ == Mode::Stopped || atEnd_ || pausedEarly_ || startedAt_ == Clock::time_point{};
+  if (!LeaveStop()) return;
+  if (atEnd_) RewindEnded();
+  if (pausedEarly_) RestartSound();
+  if (mode_ == Mode::Dead) return;
+  playbin_->Play();
+  mode_ = Mode::Playing;
+  repeatedAt_ = Clock::now();
+  if (fresh) startedAt_ = repeatedAt_;
+}
+
+void GstTransport::Pause() {
+  if (mode_ == Mode::Dead || !LeaveStop()) return;
+  playbin_->Pause();
+  if (mode_ == Mode::Playing) pausedEarly_ = Clock::now() - startedAt_ < kEarly;
+  mode_ = Mode::Paused;
+}
+
+void GstTransport::Stop() {
+  if (mode_ == Mode::Dead) return;
+  playbin_->Ready();
+  mode_ = Mode::Stopped;
+  begun_ = 1;
+  startFrom_ = 0;
+  atEnd_ = pausedEarly_ = false;
+}
+
+void GstTransport::Seek(double seconds) {
+  if (mode_ == Mode::Dead || StartsOver(seconds)) return;
+  if (mode_ == Mode::Stopped)
+    startFrom_ = seconds;
+  else if (playbin_->Seek(origin_ + seconds))
+    atEnd_ = false;
+}
+
+MovieTimes GstTransport::Times() {
+  if (mode_ == Mode::Dead) return {0, length_};
+  if (length_ <= 0) length_ = std::max(0.0, playbin_->Duration().value_or(0));
+  if (mode_ == Mode::Stopped) return {startFrom_, length_};
+  return {std::max(0.0, playbin_->Position().value_or(origin_) - origin_), length_};
+}
+
+void GstTransport::SetVolume(int hundredthsOfDecibel) {
+  volume_ = hundredthsOfDecibel;
+  if (playbin_) playbin_->SetVolume(volume_);
+}
+
+bool GstTransport::HeedNews() {
+  const NewsBox::News news = news_.Take();
+  if (news.failed) Die();
+  if (!news.ended || mode_ == Mode::Dead || mode_ == Mode::Stopped) return false;
+  // Clips of about a second are over before the player is asked whether they are to be repeated.
+  if (Repeats()) return false;
+  playbin_->Pause();
+  mode_ = Mode::Paused;
+  atEnd_ = true;
+  return true;
+}
+
+bool GstTransport::LeaveStop() {
+  if (mode_ != Mode::Stopped) return true;
+  if (!playbin_->Preroll()) {
+    Die();
+    return false;
+  }
+  mode_ = Mode::Paused;
+  if (startFrom_ > 0) playbin_->Seek(origin_ + startFrom_);
+  return true;
+}
+
+void GstTransport::RewindEnded() {
+  begun_ = 1;
+  atEnd_ = pausedEarly_ = false;
+  if (playbin_->Seek(origin_)) return;
+  playbin_->Ready();
+  if (!playbin_->Preroll()) Die();
+}
+
+void GstTransport::RestartSound() {
+  startFrom_ = Times().position;
+  pausedEarly_ = false;
+  playbin_->Ready();
+  mode_ = Mode::Stopped;
+  LeaveStop();
+}
+
+bool GstTransport::StartsOver(double seconds) {
+  return seconds <= 0 && mode_ == Mode::Playing && begun_ == 1 && Times().position < kStillAtBeginning;
+}
+
+// On one of GStreamer's threads.
+bool GstTransport::PlaysOnceMore() { return length_ >= kLeastGapless && BeginRepetition(); }
+
+bool GstTransport::Repeats() {
+  const auto last = std::exchange(repeatedAt_, Clock::now());
+  return repeatedAt_ - last >= kLeastRepetition && BeginRepetition() && playbin_->Seek(origin_);
+}
+
+bool GstTransport::BeginRepetition() {
+  int begun = begun_;
+  while (begun < playCount_)
+    if (begun_.compare_exchange_weak(begun, begun + 1)) return true;
+  return false;
+}
+
+void GstTransport::Die() {
+  mode_ = Mode::Dead;
+  playbin_.reset();
+}
+
+}  // namespace orvanta

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <atomic>
+#include <chrono>
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+#include "platform/desktop/media/GstPlaybin.h"
+
+namespace orvanta {
+
+/// Where a file is and how long it is, in seconds; a length of 0 is not known.
+struct MovieTimes {
+  double position = 0;
+  double length = 0;
+};
+
+/// Plays one file: start, pause, stop, repetition, end. Its calls may take as long as the drive and the sound
+/// server do, so they belong on a thread of their own, always the same one, except where told otherwise.
+class GstTransport {
+ public:
+  /// `onNews` is called on any thread when `HeedNews` has something to do.
+  GstTransport(MovieKind kind, FrameBoxPtr frames, NewsBox& news, std::function<void()> onNews);
+
+  /// Waits until the first data stands ready; false for a file that cannot be played.
+  bool Load(const std::filesystem::path& file);
+  void Play();
+  void Pause();
+  void Stop();
+  void Seek(double seconds);
+  MovieTimes Times();
+  void SetVolume(int hundredthsOfDecibel);
+  /// Any thread. How many times the file is played in all.
+  void SetPlayCount(int count) { playCount_ = count; }
+
+  /// Repeats the file or holds it at its end, where due. True if this was the end of the last repetition.
+  bool HeedNews();
+  /// False before `Load`, and after a failure: a player of a lost file does nothing more.
+  bool Alive() const { return mode_ != Mode::Dead; }
+
+ private:
+  using Clock = std::chrono::steady_clock;
+  enum class Mode { Dead, Stopped, Paused, Playing };
+
+  bool LeaveStop();
+  void RewindEnded();
+  void RestartSound();
+  bool StartsOver(double seconds);
+  bool PlaysOnceMore();
+  bool Repeats();
+  bool BeginRepetition();
+  void Die();
+
+  const MovieKind kind_;
+  const FrameBoxPtr frames_;
+  NewsBox& news_;
+  const std::function<void()> onNews_;
+  std::unique_ptr<GstPlaybin> playbin_;
+  std::atomic<int> playCount_ = 1;
+  std::atomic<int> begun_ = 1;  ///< Repetitions that have begun, the one that is queued included.
+  int volume_ = 0;
+  Mode mode_ = Mode::Dead;
+  double origin_ = 0;  ///< What the file's own clock shows at its beginning.
+  std::atomic<double> length_ = 0;
+  double startFrom_ = 0;  ///< While stopped: where the next start is.
+  bool atEnd_ = false;
+  bool pausedEarly_ = false;
+  Clock::time_point startedAt_;
+  Clock::time_point repeatedAt_;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,157 @@
+#include "platform/desktop/start/ProcessStart.h"
+
+#include <fcntl.h>
+#include <linux/close_range.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+
+#include "platform/desktop/Descriptor.h"
+
+namespace orvanta {
+namespace {
+
+constexpr int FirstOwnDescriptor = 3;
+
+/// The way by which a child tells why it could not become the program. It is closed by the system when the
+/// program is loaded, so an end without a word is success.
+struct ReportPipe {
+  Descriptor reading;
+  Descriptor writing;
+};
+
+/// Everything that a child needs. It is made before the fork: another thread may hold the allocator's lock
+/// then, so the child may not allocate, nor call anything else that signal-safety(7) does not list.
+struct Plan {
+  int report;
+  char* const* arguments;
+  char* const* environment;
+};
+
+/// Holds back every signal of this thread, so that no handler of this program runs in its children.
+class BlockedSignals {
+ public:
+  BlockedSignals() {
+    sigset_t all;
+    sigfillset(&all);
+    pthread_sigmask(SIG_SETMASK, &all, &before);
+  }
+  BlockedSignals(const BlockedSignals&) = delete;
+  BlockedSignals& operator=(const BlockedSignals&) = delete;
+  ~BlockedSignals() { pthread_sigmask(SIG_SETMASK, &before, nullptr); }
+
+ private:
+  sigset_t before{};
+};
+
+std::vector<char*> Pointers(std::vector<std::string>& texts) {
+  std::vector<char*> pointers;
+  pointers.reserve(texts.size() + 1);
+  for (std::string& text : texts) pointers.push_back(text.data());
+  pointers.push_back(nullptr);
+  return pointers;
+}
+
+/// The child's end lies above the standard descriptors, which the child is going to replace.
+ReportPipe MakePipe(int& error) {
+  std::array<int, 2> ends{-1, -1};
+  if (pipe2(ends.data(), O_CLOEXEC) != 0) {
+    error = errno;
+    return {};
+  }
+  const Descriptor writing(ends[1]);
+  ReportPipe made{Descriptor(ends[0]), Descriptor(fcntl(writing.get(), F_DUPFD_CLOEXEC, FirstOwnDescriptor))};
+  error = made.writing ? 0 : errno;
+  return made;
+}
+
+[[noreturn]] void Fail(const Plan& plan, int error) {
+  // Nobody is left to hear of a failed write.
+  [[maybe_unused]] const ssize_t written = write(plan.report, &error, sizeof error);
+  _exit(EXIT_FAILURE);
+}
+
+void ConnectToNothing() {
+  const int nothing = open("/dev/null", O_RDWR);
+  for (int standard = 0; standard < FirstOwnDescriptor; ++standard)
+    if (nothing >= 0 && nothing != standard) dup2(nothing, standard);
+}
+
+/// Libraries open files without the close-on-exec mark, so the mark is set on all that there is.
+void CloseAllWithExec() {
+  if (close_range(FirstOwnDescriptor, ~0U, CLOSE_RANGE_CLOEXEC) == 0) return;
+  rlimit limit{};
+  getrlimit(RLIMIT_NOFILE, &limit);
+  for (int number = FirstOwnDescriptor; static_cast<rlim_t>(number) < limit.rlim_cur; ++number)
+    fcntl(number, F_SETFD, FD_CLOEXEC);
+}
+
+void ResetSignals() {
+  struct sigaction standard {};
+  standard.sa_handler = SIG_DFL;
+  for (int number = 1; number < NSIG; ++number) sigaction(number, &standard, nullptr);
+  sigset_t none;
+  sigemptyset(&none);
+  sigprocmask(SIG_SETMASK, &none, nullptr);
+}
+
+[[noreturn]] void BecomeProgram(const Plan& plan) {
+  setsid();
+  ConnectToNothing();
+  CloseAllWithExec();
+  ResetSignals();
+  execve(plan.arguments[0], plan.arguments, plan.environment);
+  Fail(plan, errno);
+}
+
+/// The child starts the program as its own child and goes at once, so the program falls to the system's first
+/// process, which collects it when it ends.
+[[noreturn]] void StartAndLeave(const Plan& plan) {
+  const pid_t program = fork();
+  if (program < 0) Fail(plan, errno);
+  if (program == 0) BecomeProgram(plan);
+  _exit(EXIT_SUCCESS);
+}
+
+int ForkAndLeave(const Plan& plan, pid_t& child) {
+  const BlockedSignals blocked;
+  child = fork();
+  if (child == 0) StartAndLeave(plan);
+  return child < 0 ? errno : 0;
+}
+
+int Reported(const Descriptor& reading) {
+  int error = 0;
+  ssize_t got = 0;
+  do got = read(reading.get(), &error, sizeof error);
+  while (got < 0 && errno == EINTR);
+  return got == sizeof error ? error : 0;
+}
+
+}  // namespace
+
+std::vector<std::string> CurrentEnvironment() {
+  std::vector<std::string> variables;
+  for (char** variable = environ; variable && *variable; ++variable) variables.emplace_back(*variable);
+  return variables;
+}
+
+int StartProcess(std::vector<std::string> arguments, std::vector<std::string> environment) {
+  int error = 0;
+  ReportPipe pipe = MakePipe(error);
+  if (error != 0) return error;
+  const std::vector<char*> argumentPointers = Pointers(arguments);
+  const std::vector<char*> environmentPointers = Pointers(environment);
+  pid_t child = -1;
+  error = ForkAndLeave({pipe.writing.get(), argumentPointers.data(), environmentPointers.data()}, child);
+  if (error != 0) return error;
+  pipe.writing.reset();
+  while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) continue;
+  return Reported(pipe.reading);
+}
+
+}  // namespace orvanta

@@ -1,0 +1,89 @@
+// What the user and the window manager do with a form's window, told to the event loop.
+
+#include <QCloseEvent>
+#include <QMouseEvent>
+#include <cmath>
+
+#include "platform/desktop/DesktopHost.h"
+#include "platform/desktop/window/DesktopWindow.h"
+
+namespace orvanta {
+
+namespace {
+
+int BitsOf(Qt::MouseButtons buttons) {
+  return (buttons & Qt::LeftButton ? kLeftButton : 0) | (buttons & Qt::RightButton ? kRightButton : 0) |
+         (buttons & Qt::MiddleButton ? kMiddleButton : 0);
+}
+
+}  // namespace
+
+void DesktopWindow::Post(FormEvent::Kind kind, Point place, int button) {
+  host_.Loop().Post({kind, &form_, place, button});
+}
+
+void DesktopWindow::PostMouse(FormEvent::Kind kind, const QMouseEvent& event, int button) {
+  SeeCursor(event);
+  Post(kind, {event.pos().x(), event.pos().y()}, button);
+}
+
+void DesktopWindow::SeeCursor(const QSinglePointEvent& event) {
+  // Some mice tell parts of a pixel.
+  const QPointF place = event.globalPosition();
+  host_.Cursor().Saw({static_cast<int>(std::floor(place.x())), static_cast<int>(std::floor(place.y()))});
+}
+
+void DesktopWindow::enterEvent(QEnterEvent* event) { SeeCursor(*event); }
+
+void DesktopWindow::mouseMoveEvent(QMouseEvent* event) {
+  PostMouse(FormEvent::Kind::MouseMove, *event, BitsOf(event->buttons()));
+}
+
+void DesktopWindow::mousePressEvent(QMouseEvent* event) {
+  if (const int button = BitsOf(event->button())) PostMouse(FormEvent::Kind::MousePress, *event, button);
+}
+
+void DesktopWindow::mouseReleaseEvent(QMouseEvent* event) {
+  if (const int button = BitsOf(event->button())) PostMouse(FormEvent::Kind::MouseRelease, *event, button);
+}
+
+void DesktopWindow::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+void DesktopWindow::leaveEvent(QEvent*) {
+  host_.Cursor().Lose();
+  Post(FormEvent::Kind::MouseLeave);
+}
+
+void DesktopWindow::changeEvent(QEvent* event) {
+  host_.Cursor().Lose();
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+    host_.Disinherit(form_);
+    Post(FormEvent::Kind::Activate);
+  }
+  if (event->type() == QEvent::WindowStateChange && isMinimized() != wasMinimised_) {
+    wasMinimised_ = isMinimized();
+    Post(wasMinimised_ ? FormEvent::Kind::Minimise : FormEvent::Kind::Restore);
+    // Restored so soon that Qt has not noticed the loss of the activation, it tells of no new one either.
+    if (!wasMinimised_ && isActiveWindow()) Post(FormEvent::Kind::Activate);
+  }
+  QWidget::changeEvent(event);
+}
+
+void DesktopWindow::moveEvent(QMoveEvent* event) {
+  if (isVisible() && !isMinimized() && !showing_) NoteMove(event->pos());
+}
+
+void DesktopWindow::NoteMove(const QPoint& corner) {
+  const Point place = Point{corner.x(), corner.y()} - host_.ScreenOrigin();
+  if (place == Point{place_.left, place_.top}) return;
+  place_.left = place.x;
+  place_.top = place.y;
+  Post(FormEvent::Kind::Moved, place);
+}
+
+void DesktopWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  Post(FormEvent::Kind::Close);
+}
+
+}  // namespace orvanta

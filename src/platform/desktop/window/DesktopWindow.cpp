@@ -1,0 +1,144 @@
+#include "platform/desktop/window/DesktopWindow.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <QWindow>
+
+#include "platform/desktop/DesktopHost.h"
+#include "platform/desktop/window/Cursors.h"
+#include "platform/desktop/window/PainterCanvas.h"
+#include "platform/desktop/window/ProgramIcon.h"
+#include "platform/desktop/window/XWindow.h"
+
+namespace orvanta {
+
+namespace {
+
+Qt::WindowFlags FlagsOf(WindowKind kind) {
+  return (kind == WindowKind::Modal ? Qt::Dialog : Qt::Window) | Qt::FramelessWindowHint;
+}
+
+QRect ToQt(const Rect& r) { return {r.left, r.top, r.width, r.height}; }
+
+// A window that the window manager keeps elsewhere is not waited for any longer.
+constexpr Milliseconds kExposurePatience = 1000;
+
+}  // namespace
+
+QString WindowTitle(const std::string& text) {
+  return QString::fromStdString(text).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+}
+
+DesktopWindow::DesktopWindow(DesktopHost& host, Form& form, WindowKind kind)
+    : QWidget(nullptr, FlagsOf(kind)), host_(host), form_(form), kind_(kind) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setAttribute(Qt::WA_NoSystemBackground);
+  setMouseTracking(true);
+  if (kind == WindowKind::Plain) setAttribute(Qt::WA_ShowWithoutActivating);
+  if (kind == WindowKind::Modal || kind == WindowKind::FullScreen) setWindowModality(Qt::ApplicationModal);
+}
+
+DesktopWindow::~DesktopWindow() { host_.Disinherit(form_); }
+
+void DesktopWindow::SetPlace(const Rect& place) {
+  place_ = place;
+  if (place.Empty()) return;
+  const Point origin = host_.ScreenOrigin();
+  setFixedSize(place.width, place.height);
+  move(place.left + origin.x, place.top + origin.y);
+}
+
+void DesktopWindow::SetShape(const Region& shape) {
+  QList<QRect> rects;
+  for (const Rect& r : shape.Rects()) rects.append(ToQt(r));
+  QRegion mask;
+  mask.setRects(rects.constData(), static_cast<int>(rects.size()));
+  setMask(mask);
+}
+
+void DesktopWindow::SetCaption(const std::string& caption) { setWindowTitle(WindowTitle(caption)); }
+
+void DesktopWindow::SetPointer(Pointer pointer) {
+  setCursor(CursorOf(pointer));
+  FlushToScreen();
+}
+
+void DesktopWindow::SetOwner(Form& owner) {
+  winId();  // makes the native window, which is what has a transient parent
+  const auto& window = static_cast<DesktopWindow&>(owner.Window());
+  windowHandle()->setTransientParent(window.windowHandle());
+}
+
+void DesktopWindow::SetVisible(bool visible) {
+  if (visible == isVisible()) return;
+  if (!visible) {
+    if (isActiveWindow() && form_.Owner()) host_.Bequeath(*form_.Owner());
+    return hide();
+  }
+  SetPlace(form_.Place());
+  ShowNow();
+}
+
+void DesktopWindow::ShowNow() {
+  // Four pictures of it are decoded, so that the start screen comes sooner without.
+  if (kind_ == WindowKind::Plain || kind_ == WindowKind::Splash) {
+    SkipTaskBar(*this);
+  } else {
+    setWindowIcon(ProgramIcon());
+  }
+  // A window manager that frames the window takes it to the screen's corner for a moment.
+  showing_ = true;
+  if (kind_ == WindowKind::FullScreen) {
+    showFullScreen();
+  } else {
+    show();
+  }
+  // Painting reaches the screen only from the exposure on.
+  const Milliseconds end = host_.Now() + kExposurePatience;
+  while (host_.Now() < end && !(windowHandle() && windowHandle()->isExposed())) host_.WaitForQt(end);
+  showing_ = false;
+  const Point origin = host_.ScreenOrigin();
+  const QPoint wanted(place_.left + origin.x, place_.top + origin.y);
+  if (pos() == wanted) return;
+  // Some window managers move a window that is larger than the screen.
+  if (kind_ == WindowKind::Modal) return move(wanted);
+  NoteMove(pos());
+}
+
+void DesktopWindow::SetMinimised(bool minimised) {
+  wasMinimised_ = minimised;
+  if (minimised) {
+    showMinimized();
+  } else {
+    showNormal();
+  }
+}
+
+void DesktopWindow::Raise() {
+  raise();
+  // The strips are lifted with the main window, which alone takes the activation.
+  if (kind_ != WindowKind::Plain) activateWindow();
+}
+
+void DesktopWindow::Invalidate(const Rect& area) {
+  dirty_ += ToQt(area);
+  update(ToQt(area));
+}
+
+void DesktopWindow::PaintNow() {
+  if (!dirty_.isEmpty() && isVisible()) repaint(dirty_);
+}
+
+void DesktopWindow::paintEvent(QPaintEvent* event) {
+  ++paints_;
+  dirty_ -= event->region();
+  QPainter painter(this);
+  PainterCanvas canvas(painter);
+  const auto paint = [&](const QRect& r) { form_.Paint(canvas, {r.x(), r.y(), r.width(), r.height()}); };
+  // Many small parts cost more than the rectangle around them.
+  constexpr int kMostParts = 8;
+  if (event->region().rectCount() > kMostParts) return paint(event->rect());
+  for (const QRect& part : event->region()) paint(part);
+}
+
+}  // namespace orvanta

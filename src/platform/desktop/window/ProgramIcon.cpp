@@ -1,0 +1,11 @@
+#include "platform/desktop/window/ProgramIcon.h"
+
+namespace orvanta {
+
+QIcon ProgramIcon() {
+  QIcon icon;
+  for (const int size : {16, 32, 48, 128}) icon.addFile(QStringLiteral(":/icon/orvanta-%1.png").arg(size));
+  return icon;
+}
+
+}  // namespace orvanta

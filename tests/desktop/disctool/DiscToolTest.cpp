@@ -1,0 +1,123 @@
+// The tool for discs as its user runs it: its commands, the gallery and new discs.
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <set>
+
+#include "desktop/media/MediaFiles.h"
+#include "desktop/support/Processes.h"
+#include "desktop/support/Programs.h"
+#include "support/TestDisc.h"
+
+namespace orvanta::test {
+
+namespace fs = std::filesystem;
+
+struct DiscTool : testing::Test {
+  /// Runs the tool with arguments as a shell takes them, and gives its status; `environment` is for `env`.
+  int Run(const std::string& arguments, const std::string& environment = "") {
+    const fs::path said = scratch.Path() / "said";
+    const std::string line = "(env " + environment + " " + DiscToolProgram() + " " + arguments + ") >'" +
+                             said.string() + "' 2>&1 </dev/null";
+    const int status = std::system(line.c_str());
+    output = ContentOf(said);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  }
+  bool Told(const std::string& text) const { return output.find(text) != output.npos; }
+  /// The pictures whose files begin so.
+  std::vector<QImage> Pictures(const std::string& begin) const {
+    std::vector<QImage> pictures;
+    for (const fs::path& file : std::set<fs::path>(fs::directory_iterator(out), {}))
+      if (file.filename().string().starts_with(begin) && file.extension() == ".png")
+        pictures.emplace_back(QString::fromStdString(file));
+    return pictures;
+  }
+  TestDisc disc;
+  const ScratchFolder scratch;
+  const fs::path out = scratch.Path() / "nowa płyta";
+  const std::string there = "'" + out.string() + "'", folder = disc.Folder();
+  std::string output;
+};
+
+TEST_F(DiscTool, TellsMisuseFromFaults) {
+  for (const std::string& misuse :
+       {std::string(), std::string("bogus"), std::string("tree"), "tree " + folder + " x",
+        "tree --strict " + folder, "get " + folder + " GLOBAL"})
+    EXPECT_EQ(Run(misuse), 2) << misuse;
+  EXPECT_EQ(Run("tree /nowhere"), 1);
+  EXPECT_EQ(Run("tree " + folder + " >/dev/full"), 1) << "what was not written is no success";
+  EXPECT_EQ(Run("get " + folder + " HEADLINE Caption"), 0);
+  EXPECT_EQ(output, "Płyta próbna\n");
+  EXPECT_EQ(Run("--help"), 0);
+  for (const char* command : {"open", "check", "tree", "gallery", "get", "new"})
+    EXPECT_TRUE(Told(std::string("\n  ") + command + " "));
+  EXPECT_EQ(Run("open " + folder, "-u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM"), 1);
+  EXPECT_TRUE(Told("no display"));
+}
+
+// No display: what is there to see needs none.
+TEST_F(DiscTool, TheGalleryShowsEveryViewOfADisc) {
+  // Four seconds; the picture of the second one carries the number 50.
+  const MediaFiles media;
+  disc.File("film.avi", ContentOf(media.Film("film.avi", std::vector(8, 440), "-c:v mjpeg -c:a pcm_s16le")));
+  disc.Menu("MAINMENU", {"Długa <lista>", "Film", "Nic"});
+  std::vector<std::string> items(30, "Gra & spółka");
+  items[29] = "MAINMENU";
+  disc.Menu("Długa <lista>", items);
+  disc.Entry("Gra & spółka", {{"Execute", "%:\\setup.exe"}});
+  for (const char* shot : {"Shot2", "Shot3", "Shot4", "Shot5"}) disc.Set("Gra & spółka", shot, "shot.gif");
+  disc.Entry("Film", {{"PlayAs", "MOVIE"}, {"Parameters", "%:\\film.avi"}});
+  ASSERT_EQ(Run("gallery " + folder + " " + there, "-u DISPLAY -u WAYLAND_DISPLAY"), 0) << output;
+  // The start screen, help in two parts, the other page, the first menu, a list of thirty, the film with its
+  // screenshot and its cinema, what leads nowhere, an entry and its five screenshots.
+  const std::size_t expected[] = {1, 2, 1, 1, 4, 3, 0, 7};
+  for (std::size_t i = 0; i < 8; ++i)
+    EXPECT_EQ(Pictures("0000" + std::to_string(i)).size(), expected[i]) << i;
+  const QImage cinema = Pictures("00005-3").at(0);
+  int number = 0;
+  for (int bar = 0; bar < 8; ++bar) number |= qGray(cinema.pixel(230 + 20 * bar, 200)) > 128 ? 1 << bar : 0;
+  EXPECT_NEAR(number, 50, 1) << "a picture of the film on the screen";
+  const QImage menu = Pictures("00003-1").at(0);
+  EXPECT_EQ(menu.pixelColor(0, 0).alpha(), 0) << "cut off by the outline";
+  EXPECT_EQ(menu.pixelColor(300, 20), QColor(0x40, 0x60, 0x80)) << "the main picture";
+  const auto list = Pictures("00004");
+  for (std::size_t i = 1; i < list.size(); ++i) EXPECT_NE(list[i - 1], list[i]) << "not scrolled";
+  output = ContentOf(out / "index.html");
+  EXPECT_TRUE(Told("<title>Płyta próbna</title>") && Told("Gra &amp; spółka") && !Told("<lista>")) << output;
+  EXPECT_EQ(Run("gallery " + folder + " " + there), 1) << "it touches no folder that holds something";
+}
+
+// Wide open numbers, missing art, a page of 40,000 pixels, a chain of menus deeper than the disc allows.
+TEST_F(DiscTool, TheGalleryComesBackFromAHostileDisc) {
+  disc.Remove("GLOBAL", "MainGfx");
+  disc.Set("SLIDER", "YMax", "2147483647");
+  disc.Picture("help.gif", 4, 40000);
+  disc.Menu("MAINMENU", {"n0", "MAINMENU", "n0"});
+  for (int i = 0; i < 40; ++i) disc.Menu("n" + std::to_string(i), {"n" + std::to_string(i + 1), "n0"});
+  disc.Entry("n40", {{"PlayAs", "x"}});
+  EXPECT_EQ(Run("gallery " + folder + " " + there, "-u DISPLAY -u WAYLAND_DISPLAY"), 0) << output;
+  EXPECT_GT(Pictures("").size(), 43U);
+  EXPECT_LT(Pictures("").size(), 250U);
+}
+
+// What is broken is found with the tool's own eyes and ears, not by its name.
+TEST_F(DiscTool, ANewDiscIsWholeUntilItIsBroken) {
+  ASSERT_EQ(Run("new " + there), 0);
+  EXPECT_EQ(Run("check --strict " + there), 0);
+  EXPECT_EQ(output, "");
+  Run("tree " + there);
+  EXPECT_TRUE(Told("[program]") && Told("[music]") && Told("[film]")) << output;
+  EXPECT_EQ(Run("new " + there), 1) << "written over";
+  for (const auto& [file, size] :
+       {std::pair{"Data/help.gif", 2000}, {"Data/szyld.ttf", 1000}, {"film.avi", 100}})
+    fs::resize_file(out / file, static_cast<std::uintmax_t>(size));
+  fs::copy_file(out / "czytaj.txt", out / "Data/Sound/start.wav", fs::copy_options::overwrite_existing);
+  EXPECT_EQ(Run("check " + there), 1);
+  for (const char* fault :
+       {"HelpB of [GLOBAL] cannot be read as a picture", "FontFile of [MENUITEM] cannot be read",
+        "Parameters of [Film] cannot be played as a film", "Start of [VOICES] cannot be played"})
+    EXPECT_TRUE(Told(fault)) << fault << "\n" << output;
+}
+
+}  // namespace orvanta::test

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <functional>
+
+#include "desktop/media/Hearing.h"
+#include "desktop/media/MediaFiles.h"
+#include "platform/MoviePlayer.h"
+#include "platform/desktop/media/GstPlayer.h"
+
+namespace orvanta::test {
+
+/// A program that has nothing but a player, on a sound server of its own.
+class PlayerStory : public testing::Test {
+ protected:
+  using Clock = std::chrono::steady_clock;
+  using Tones = MediaFiles::Tones;
+
+  /// Takes in events, as the program does, until `done` holds; false after `seconds`.
+  static bool Until(double seconds, const std::function<bool()>& done) {
+    return Soon([&] { return QCoreApplication::processEvents(), done(); },
+                std::chrono::milliseconds(std::lround(1000 * seconds)));
+  }
+  static void Wait(double seconds) {
+    Until(seconds, [] { return false; });
+  }
+  static bool UntilStopped(MoviePlayer& player, double seconds) {
+    return Until(seconds, [&player] { return player.State() == MovieState::Stopped; });
+  }
+  /// Milliseconds that `call` takes.
+  static double Cost(const std::function<void()>& call) {
+    const auto begin = Clock::now();
+    call();
+    return std::chrono::duration<double, std::milli>(Clock::now() - begin).count();
+  }
+
+  PulseServer server;
+  Recording ears;
+  MediaFiles files;
+  std::unique_ptr<MoviePlayer> music = MakeGstPlayer(MovieKind::Sound);
+  std::unique_ptr<MoviePlayer> film = MakeGstPlayer(MovieKind::Film);
+
+ private:
+  int argc_ = 1;
+  char name_[7] = "player";
+  char* argv_[2] = {name_, nullptr};
+  const QCoreApplication app_{argc_, argv_};
+};
+
+}  // namespace orvanta::test

@@ -1,0 +1,69 @@
+// What a started program inherits of the shell: nothing.
+
+#include <gtest/gtest.h>
+#include <sys/file.h>
+
+#include <cerrno>
+
+#include "desktop/support/Processes.h"
+#include "platform/desktop/start/ProcessStart.h"
+
+namespace orvanta::test {
+
+namespace fs = std::filesystem;
+
+struct Started : testing::Test {
+  /// Starts a script that writes its report by `body`, and waits for the end of the report.
+  std::string ReportOf(const std::string& body, std::vector<std::string> arguments = {}) const {
+    const std::string report = scratch.Path() / "report";
+    fs::remove(report);
+    arguments.insert(arguments.begin(),
+                     scratch.Script("p", "{ " + body + "\necho end\n} > '" + report + "'"));
+    EXPECT_EQ(StartProcess(arguments, CurrentEnvironment()), 0);
+    EXPECT_TRUE(Soon([&] { return ContentOf(report).ends_with("end\n"); })) << "the program never reported";
+    return ContentOf(report);
+  }
+  const ScratchFolder scratch;
+};
+
+// Faults: a lock or a disc's file that a game holds for the rest of the day; a child that nobody waits for,
+// or that dies with the shell's terminal; a shell that waits for its program.
+TEST_F(Started, ProgramsAreIndependent) {
+  EXPECT_EQ(
+      ReportOf("printf '<%s>' \"$@\"", {"zażółć gęślą", "", "a\"b", "$(echo x) * ;", "--", "D:\\gry\\"}),
+      "<zażółć gęślą><><a\"b><$(echo x) * ;><--><D:\\gry\\>end\n");
+  const int leaking = open(scratch.File("held", "").c_str(), O_RDWR);
+  ASSERT_EQ(flock(leaking, LOCK_EX), 0);
+  const std::string open = ReportOf("/bin/ls -l /proc/$$/fd");
+  EXPECT_EQ(open.find("held"), open.npos) << open;
+  for (const char* standard : {"0 -> /dev/null\n", "2 -> /dev/null\n"})
+    EXPECT_NE(open.find(standard), open.npos) << open;
+  const std::string self =
+      ReportOf("pwd; read -r l < /proc/$$/stat; set -- ${l##*) }; [ $3 = $$ ] && [ $4 = $$ ] && [ $2 != " +
+               std::to_string(getpid()) + " ] && echo alone");
+  EXPECT_EQ(self, fs::current_path().string() + "\nalone\nend\n") << "not alone in its session and group";
+  const auto begin = std::chrono::steady_clock::now();
+  EXPECT_EQ(StartProcess({"/bin/sleep", "5"}, {}), 0);
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(4)) << "the start waits";
+  EXPECT_TRUE(waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD) << "a child is left over";
+}
+
+TEST_F(Started, SignalsAreDefaultAndNoneIsHeldBack) {
+  // No shell script here: shells tidy up their signals themselves.
+  const fs::path report = scratch.Path() / "status";
+  EXPECT_EQ(InAnotherProcess([&] {
+              for (const int number : {SIGPIPE, SIGINT}) signal(number, SIG_IGN);
+              sigset_t some;
+              sigemptyset(&some);
+              for (const int number : {SIGTERM, SIGRTMAX}) sigaddset(&some, number);
+              sigprocmask(SIG_BLOCK, &some, nullptr);
+              return StartProcess({"/bin/cp", "/proc/self/status", report}, {});
+            }),
+            0);
+  EXPECT_TRUE(Soon([&] { return ContentOf(report).find("ctxt") != std::string::npos; }));
+  EXPECT_NE(ContentOf(report).find("SigBlk:\t0000000000000000\nSigIgn:\t0000000000000000\n"),
+            std::string::npos)
+      << ContentOf(report);
+}
+
+}  // namespace orvanta::test

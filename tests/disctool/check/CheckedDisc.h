@@ -1,0 +1,52 @@
+#pragma once
+
+#include <string>
+
+#include "disctool/check/Check.h"
+#include "disctool/disc/DiscProbe.h"
+#include "platform/headless/PictureFile.h"
+#include "support/TestDisc.h"
+
+namespace orvanta::test {
+
+inline std::string TextOf(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), {}};
+}
+
+/// Takes a file for what its first bytes say.
+struct FirstBytesProbe : DiscProbe {
+  std::optional<Size> PictureSize(const std::filesystem::path& file) override {
+    const PicturePtr picture = ReadPictureFile(file);
+    return picture ? std::optional(picture->PixelSize()) : std::nullopt;
+  }
+  bool IsFont(const std::filesystem::path& file) override { return TextOf(file).starts_with("font"); }
+  bool CanPlay(const std::filesystem::path& file, bool film) override {
+    return TextOf(file).starts_with(film ? "film" : "RIFF");
+  }
+};
+
+/// A disc without a fault: a program, a piece of music and a film.
+struct GoodDisc : TestDisc {
+  GoodDisc() {
+    File("Data/title.ttf", "font");
+    File("Data/menu.ttf", "font");
+    File("setup.exe", "MZ");
+    File("film.avi", "film");
+    Menu("MAINMENU", {"Programy", "Muzyka", "Film"});
+    Menu("Programy", {"Gra"});
+    Entry("Gra", {{"Execute", "%:\\setup.exe"}});
+    Entry("Muzyka", {{"PlayAs", "music"}, {"Parameters", "%:\\Data\\Sound\\loop.wav"}});
+    Entry("Film", {{"PlayAs", "MOVIE"}, {"Parameters", "%:\\film.avi"}});
+    for (const char* entry : {"Gra", "Muzyka", "Film"})
+      for (const char* text : {"Note", "System"}) Set(entry, text, "Opis");
+  }
+
+  Findings Check() const {
+    FirstBytesProbe probe;
+    return CheckDisc(Folder(), probe);
+  }
+  std::string MenuIni() const { return TextOf(Data() / "Menu.ini"); }
+};
+
+}  // namespace orvanta::test

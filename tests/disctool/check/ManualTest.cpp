@@ -1,0 +1,42 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <map>
+#include <regex>
+
+#include "config/SchemaTable.h"
+#include "disctool/check/CheckedDisc.h"
+#include "disctool/disc/OutlineSvg.h"
+#include "support/Project.h"
+
+namespace orvanta::test {
+namespace {
+
+std::string Document(const std::string& name) { return TextOf(ProjectFolder() / "docs" / name); }
+
+TEST(Manual, TellsEveryKeyOfTheTableAndNoOther) {
+  constexpr std::array kKinds = {"picture", "base",   "font",    "sound", "whole", "single",
+                                 "double",  "colour", "boolean", "text",  "any"};
+  std::map<std::string, std::string> table, manual;
+  for (const SchemaKey& key : kSchema) {
+    const bool run = key.presence == Presence::Run;
+    const std::string needed = run ? "run" : key.presence == Presence::Mandatory ? "yes" : "no";
+    table[std::string(key.section) + " " + std::string(key.name) + (run ? "1" : "")] =
+        std::string(kKinds.at(static_cast<std::size_t>(key.kind))) + " " + needed;
+  }
+  // A heading with the section, and rows of key, kind, whether it is needed, and effect.
+  const std::string text = Document("discs.md");
+  const std::regex line(R"re(\n#+ (?:`\[([^\]]*))?|\n\| `([^`]*)`[^|]*\| (\w+) \| (\w+) \| ...)re");
+  std::string section;
+  for (std::sregex_iterator it(text.begin(), text.end(), line), end; it != end; ++it) {
+    if (!(*it)[2].matched) section = (*it)[1];
+    if ((*it)[2].matched && !section.empty())
+      manual[section + " " + it->str(2)] = it->str(3) + " " + it->str(4);
+  }
+  EXPECT_EQ(manual, table);
+}
+
+TEST(Manual, HasTheOutlineThatTheWindowHas) { EXPECT_EQ(Document("outline.svg"), OutlineSvg()); }
+
+}  // namespace
+}  // namespace orvanta::test

@@ -1,0 +1,111 @@
+#include <gtest/gtest.h>
+
+#include <ctime>
+#include <random>
+#include <sstream>
+#include <string_view>
+
+#include "config/ProfileString.h"
+#include "disctool/check/CheckedDisc.h"
+#include "disctool/command/Commands.h"
+
+namespace orvanta::test {
+namespace {
+
+using namespace std::string_view_literals;
+
+// The tool has a reader of its own, which must not drift from the shell's: texts made of the characters that
+// decide, in thousands of orders. A key without a name is never asked for.
+TEST(Catalogue, FindsWhatTheShellFindsInWildTexts) {
+  constexpr std::string_view kAlphabet = "[]==;\"' \t\x1a\v\r\n\nAaBb\xA3\xB3%:\0"sv;
+  const std::vector<std::string> names = {"A", "a", "AB", "b", "\xB3", "A b", " a", ";a", "a]", ""};
+  std::mt19937 random(1998);
+  for (int round = 0; round < 300000; ++round) {
+    std::string text(random() % 60, ' ');
+    for (char& c : text) c = kAlphabet[random() % kAlphabet.size()];
+    if (round % 2 == 0) text = "[a]\n" + text;
+    const std::string &section = names[random() % names.size()], &key = names[random() % (names.size() - 1)];
+    const IniFile file = ParseIniFile(text);
+    const IniSection* in = file.Find(section);
+    const IniEntry* entry = in ? in->Find(key) : nullptr;
+    ASSERT_EQ(entry ? entry->value : "", ProfileStringOf(text, section, key))
+        << testing::PrintToString(text) << " [" << section << "] " << key;
+  }
+}
+
+std::string Tree(const TestDisc& disc, bool json = false) {
+  std::ostringstream out, err;
+  EXPECT_EQ(TreeCommand(disc.Folder(), json, out, err), kGood) << err.str();
+  return out.str();
+}
+
+TEST(Commands, ListTheTreeFindValuesAndTellFaults) {
+  GoodDisc disc;
+  disc.Menu("Programy", {"Gra", "Nic", "MAINMENU"});
+  EXPECT_EQ(Tree(disc), R"(MAINMENU [menu]
+  Programy [menu]
+    Gra [program]
+    Nic [inert]
+    MAINMENU [menu, see above]
+  Muzyka [music]
+  Film [film]
+)");
+  EXPECT_TRUE(Tree(disc, true).starts_with(R"({"nodes": [
+  {"id": 0, "name": "MAINMENU", "kind": "menu", "items": [1, 2, 3]},
+)"));
+  std::ostringstream out, err;
+  EXPECT_EQ(TreeCommand(disc.Data(), false, out, err), kFaults);
+  EXPECT_NE(err.str().find("no disc"), std::string::npos);
+  EXPECT_EQ(GetCommand(disc.Folder(), "headline", "CAPTION", out), kGood);
+  EXPECT_EQ(GetCommand(disc.Folder(), "Gra", "Execute", out), kGood);
+  EXPECT_EQ(GetCommand(disc.Folder(), "Gra", "Parameters", out), kFaults);
+  EXPECT_EQ(out.str(), "Płyta próbna\nD:\\setup.exe\n");
+}
+
+TEST(Commands, TakeWarningsForFaultsOnlyIfAskedTo) {
+  GoodDisc disc;
+  FirstBytesProbe probe;
+  std::ostringstream out, json;
+  disc.Set("GLOBAL", "S2_Top", "1.5");
+  EXPECT_EQ(CheckCommand(disc.Folder(), probe, {}, out), kGood);
+  EXPECT_EQ(CheckCommand(disc.Folder(), probe, {.strict = true}, out), kFaults);
+  disc.Remove("GLOBAL", "S2_Top");
+  EXPECT_EQ(CheckCommand(disc.Folder(), probe, {.json = true}, json), kFaults);
+  EXPECT_TRUE(json.str().starts_with(R"({"errors": 1, "warnings": 0, "findings": [)")) << json.str();
+  EXPECT_NE(json.str().find(R"("severity": "error", "id": "missing-key", "text": "S2_Top of)"),
+            std::string::npos);
+}
+
+// A disc that a careless walk would never come back from: deep, and with more ways than nodes.
+TEST(Commands, TakeAHugeAndHostileDiscInStride) {
+  GoodDisc disc;
+  FirstBytesProbe probe;
+  std::ostringstream text, out;
+  text << "[MAINMENU]\nMenu1=n0\n" << disc.MenuIni();
+  for (int i = 0; i < 40000; ++i)
+    text << "[n" << i << "]\nMenu1=n" << i + 1 << "\nMenu2=n" << i + 1 << "\nMenu3=n" << i / 2 << "\n";
+  disc.File("Data/Menu.ini", text.str());
+  const std::clock_t begin = std::clock();
+  EXPECT_EQ(CheckCommand(disc.Folder(), probe, {}, out), kFaults);
+  EXPECT_GT(Tree(disc).size(), 1000U);
+  // The bound is two seconds; the sanitizers take several times as long.
+  EXPECT_LT(static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC, 10);
+}
+
+// One file opens and then cannot be read, as on a scratched disc; another has no end.
+TEST(Commands, TellOfFilesThatCannotBeReadAndReadNoEndlessOne) {
+  GoodDisc disc;
+  std::filesystem::create_symlink("/proc/self/mem", disc.Data() / "Param.ini");
+  EXPECT_NE(FindingsText(disc.Check()).find("Param.ini: error: the file cannot be read"), std::string::npos);
+  EXPECT_GT(Tree(disc).size(), 50U);
+  for (const char* endless : {"help.gif", "Param.ini"}) {
+    std::filesystem::remove(disc.Data() / endless);
+    std::filesystem::create_symlink("/dev/zero", disc.Data() / endless);
+  }
+  const Findings findings = disc.Check();
+  ASSERT_EQ(findings.List().size(), 1U) << FindingsText(findings);
+  EXPECT_EQ(findings.List()[0].id, "no-picture");
+}
+
+}  // namespace
+}  // namespace orvanta::test
