@@ -17,6 +17,10 @@ enum class MovieState { NoFile = -1, Stopped = 0, Paused = 1, Running = 2 };
 ///
 /// All calls come from the program's one thread and report nothing: a call that cannot be carried out leaves
 /// the state as it was. Positions and lengths are in seconds.
+///
+/// A file that breaks half-way, or loses the sound server that it plays on, is `Stopped` at its beginning
+/// like one that was stopped; one that is paused then stays paused where it stands. It remains loaded:
+/// `Pause` is taken as ever, and the next `Run` opens it anew.
 class MoviePlayer {
  public:
   virtual ~MoviePlayer() = default;
@@ -33,7 +37,8 @@ class MoviePlayer {
 
   /// Falls to `Stopped` by itself at the end of the last repetition.
   virtual MovieState State() = 0;
-  /// The file is completely loaded and can be relied on. False after a failed `Open`.
+  /// The file is completely loaded and can be relied on. False after a failed `Open`; stays true when the
+  /// file is lost later on.
   virtual bool Loaded() = 0;
   virtual double Position() = 0;
   virtual void SetPosition(double seconds) = 0;

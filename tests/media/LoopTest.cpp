@@ -48,6 +48,27 @@ TEST_F(Loop, IsHeardInMenusAndProgramsAndNotBesideOtherSound) {
   Tell({{"run 1500", "heard"}});
 }
 
+// Faults: a loop that is lost never comes back, or each tick tries for a second to silence it.
+TEST_F(Loop, ComesBackAfterTheSoundServerOrTheFileIsLost) {
+  Tell({{"start", "heard"}});
+  user.host.RestartSoundServer();
+  Tell({{"run 100", "silent"}});
+  EXPECT_NEAR(Takes("leave"), 1000, 100) << "held once";
+  EXPECT_NEAR(Takes("run 1000"), 1000, 20) << "the ticks go on meanwhile";
+  Tell({{"return", "heard"}, {"run 4000, leave, run 1500", "silent"}});
+  const double held = Main().AM2.CurrentPosition();
+  user.host.RestartSoundServer();
+  EXPECT_NEAR(Takes("run 1000"), 1000, 20);
+  EXPECT_EQ(Main().AM2.Volume(), 0);
+  Tell({{"return", "heard"}});
+  EXPECT_NEAR(Main().AM2.CurrentPosition(), held, 0.15);
+
+  std::filesystem::remove(disc.Data() / "Sound/loop.wav");
+  user.host.RestartSoundServer();
+  Tell({{"run 100, leave, run 1500, return, run 100", "silent"}});
+  EXPECT_NEAR(Takes("run 1000"), 1000, 20) << "a loop that is gone stalls nothing";
+}
+
 /// Leaves the program, twice, and gives the file that took leave.
 std::string Farewell(const TestDisc& disc) {
   std::set<std::string> voices;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <limits>
 #include <map>
 #include <stdexcept>
 #include <string>
@@ -33,6 +34,7 @@ class HeadlessHost : public Host {
     double seconds = 1;
     Size film{};
     Milliseconds loadDelay = 0;
+    double breaksAt = std::numeric_limits<double>::infinity();  ///< seconds: nothing beyond can be read
   };
   std::map<std::string, Media> media;  ///< what a file of this name plays, whatever it holds
   Milliseconds deadline = 3600 * 1000;
@@ -72,6 +74,10 @@ class HeadlessHost : public Host {
   void Minimise(Form& form);
   void Restore(Form& form);
   void RequestClose(Form& form) { Loop().Post({FormEvent::Kind::Close, &form}); }
+  /// The sound server goes away and comes back at once: all that is open loses it.
+  void RestartSoundServer() { ++soundServer_; }
+  /// Which sound server runs, for the players.
+  int SoundServer() const { return soundServer_; }
   /// Lets the program run for so long.
   void RunFor(Milliseconds duration);
 
@@ -113,6 +119,7 @@ class HeadlessHost : public Host {
   std::multimap<Milliseconds, std::function<void()>> script_;
   Point mouse_;
   int held_ = 0;
+  int soundServer_ = 0;
   Form* capture_ = nullptr;
 };
 

@@ -1,5 +1,6 @@
 #include "platform/headless/HeadlessPlayer.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
@@ -15,41 +16,53 @@ void HeadlessPlayer::Note(const std::string& call) const {
 }
 
 void HeadlessPlayer::Open(const std::filesystem::path& file) {
+  file_ = file;
   name_ = file.filename().string();
   Note("open");
-  std::error_code error;
-  const bool isFile = std::filesystem::is_regular_file(file, error);
-  const auto known = host_.media.find(name_);
-  playable_ = isFile && known != host_.media.end();
+  playable_ = Begin();
+  if (!playable_ && state_ != MovieState::NoFile) state_ = MovieState::Stopped;
+}
+
+bool HeadlessPlayer::Begin() {
   filmSize_ = {};
   frame_ = nullptr;
-  Milliseconds delay = 0;
-  if (playable_) {
-    length_ = known->second.seconds;
-    delay = known->second.loadDelay;
-    filmSize_ = known->second.film;
-  } else if (const auto wav = isFile ? WavLength(file) : std::nullopt) {
-    playable_ = true;
-    length_ = *wav;
-  }
-  if (!playable_) {
-    if (state_ != MovieState::NoFile) state_ = MovieState::Stopped;
-    return;
-  }
-  if (kind_ == MovieKind::Film && !filmSize_.Empty())
-    frame_ = std::make_shared<PictureFile>(name_, filmSize_);
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(file_, error)) return false;
+  const auto known = host_.media.find(name_);
+  const std::optional<double> wav = WavLength(file_);
+  if (known == host_.media.end() && !wav) return false;
+  const HeadlessHost::Media media =
+      known != host_.media.end() ? known->second : HeadlessHost::Media{.seconds = *wav};
+  length_ = media.seconds;
+  breaksAt_ = media.breaksAt;
+  filmSize_ = media.film;
+  const bool seen = kind_ == MovieKind::Film && !filmSize_.Empty();
+  frame_ = seen ? std::make_shared<PictureFile>(name_, filmSize_) : nullptr;
+  soundServer_ = host_.SoundServer();
+  lost_ = false;
   from_ = 0;
-  loadedAt_ = since_ = host_.Now() + delay;
+  loadedAt_ = since_ = host_.Now() + media.loadDelay;
   state_ = MovieState::Running;
+  return true;
 }
 
 void HeadlessPlayer::Run() {
   Note("run");
   Settle();
   if (!playable_ || state_ == MovieState::Running) return;
+  if (lost_) return RunAnew();
   if (from_ >= length_ * playCount_) from_ = 0;
   since_ = std::max(host_.Now(), loadedAt_);
   state_ = MovieState::Running;
+}
+
+void HeadlessPlayer::RunAnew() {
+  const double place = state_ == MovieState::Paused ? from_ : 0;
+  if (Begin()) {
+    from_ = place;
+  } else {
+    state_ = MovieState::Stopped;
+  }
 }
 
 void HeadlessPlayer::Pause() {
@@ -62,6 +75,7 @@ void HeadlessPlayer::Pause() {
 
 void HeadlessPlayer::Stop() {
   Note("stop");
+  Settle();
   if (state_ == MovieState::NoFile) return;
   from_ = 0;
   state_ = MovieState::Stopped;
@@ -81,14 +95,15 @@ double HeadlessPlayer::Position() {
 
 void HeadlessPlayer::SetPosition(double seconds) {
   Note("position " + std::to_string(seconds));
-  if (!playable_) return;
-  from_ = seconds;
+  Settle();
+  if (!playable_ || lost_) return;
+  from_ = std::max(0.0, seconds);
   since_ = std::max(host_.Now(), loadedAt_);
 }
 
 void HeadlessPlayer::SetVolume(int hundredthsOfDecibel) {
   Note("volume " + std::to_string(hundredthsOfDecibel));
-  volume_ = hundredthsOfDecibel;
+  volume_ = std::clamp(hundredthsOfDecibel, -10000, 0);
 }
 
 double HeadlessPlayer::Played() const {
@@ -97,8 +112,12 @@ double HeadlessPlayer::Played() const {
 }
 
 void HeadlessPlayer::Settle() {
-  if (state_ != MovieState::Running || Played() < length_ * playCount_) return;
-  from_ = length_ * playCount_;
+  const bool running = state_ == MovieState::Running;
+  if (playable_ && (soundServer_ != host_.SoundServer() || (running && Played() >= breaksAt_))) lost_ = true;
+  if (!running) return;
+  const double end = length_ * playCount_;
+  if (!lost_ && Played() < end) return;
+  from_ = lost_ ? 0 : end;
   state_ = MovieState::Stopped;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <optional>
 
 #include "platform/EventLoop.h"
@@ -23,28 +24,36 @@ class HeadlessPlayer : public MoviePlayer {
   bool Loaded() override;
   double Position() override;
   void SetPosition(double seconds) override;
-  double Length() override { return length_; }
+  double Length() override { return playable_ ? length_ : 0; }
   int Volume() override { return volume_; }
   void SetVolume(int hundredthsOfDecibel) override;
-  void SetPlayCount(int count) override { playCount_ = count; }
+  void SetPlayCount(int count) override { playCount_ = std::max(1, count); }
   Size FilmSize() override { return filmSize_; }
   PicturePtr Frame() override { return frame_; }
 
  private:
   void Note(const std::string& call) const;
+  /// Opens `file_` and plays it from its beginning. False if it cannot be played.
+  bool Begin();
+  /// Opens a lost file anew, where it was paused if it was.
+  void RunAnew();
   /// Seconds played since the start of the first repetition.
   double Played() const;
   void Settle();
 
   HeadlessHost& host_;
   const MovieKind kind_;
+  std::filesystem::path file_;
   std::string name_;
   MovieState state_ = MovieState::NoFile;
   double length_ = 0;
   double from_ = 0;         // played up to the last change of state
   Milliseconds since_ = 0;  // when it last began to run
   Milliseconds loadedAt_ = 0;
+  double breaksAt_ = 0;
+  int soundServer_ = 0;  // that it plays on
   bool playable_ = false;
+  bool lost_ = false;  // needs to be opened anew
   int volume_ = 0;
   int playCount_ = 1;
   Size filmSize_;
