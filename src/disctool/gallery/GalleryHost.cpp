@@ -51,7 +51,8 @@ QImage GalleryHost::PictureOf(const Form& form) const {
   if (picture.isNull()) return picture;
   picture.fill(Qt::transparent);
   QPainter painter(&picture);
-  PainterCanvas canvas(painter);
+  EnlargedPictures unused;
+  PainterCanvas canvas(painter, {{area.width, area.height}, {area.width, area.height}}, unused);
   form.Paint(canvas, area);
   const auto& shape = WindowOf(form).shape;
   if (!shape) return picture;

@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kCriticalIcon = 16;
 
-/// Before Qt starts: one pixel of the disc is one of the screen, and windows can say where they stand, which
+/// Before Qt starts: Qt scales nothing by itself, and windows can say where they stand, which
 /// Wayland alone does not let them.
 int& PreparedForQt(int& argc) {
   argc = std::min(argc, 1);  // Qt would obey options of its own
@@ -35,27 +35,23 @@ int& PreparedForQt(int& argc) {
   return argc;
 }
 
+Rect PlaceOf(const QScreen& screen) {
+  const QRect place = screen.geometry();
+  return {place.x(), place.y(), place.width(), place.height()};
+}
+
 }  // namespace
 
 DesktopHost::DesktopHost(int& argc, char** argv, std::filesystem::path discFolder)
     : application_(PreparedForQt(argc), argv),
       discFolder_(std::move(discFolder)),
-      instance_(InstanceLock::Acquire(InstancePlaceFromEnvironment())) {
+      instance_(InstanceLock::Acquire(InstancePlaceFromEnvironment())),
+      zoom_{.screen = PlaceOf(*QGuiApplication::primaryScreen())} {
   application_.setQuitOnLastWindowClosed(false);
   clock_.start();
 }
 
-Point DesktopHost::ScreenOrigin() const {
-  const QPoint origin = QGuiApplication::primaryScreen()->geometry().topLeft();
-  return {origin.x(), origin.y()};
-}
-
-Size DesktopHost::ScreenSize() const {
-  const QSize size = QGuiApplication::primaryScreen()->geometry().size();
-  return {size.width(), size.height()};
-}
-
-Point DesktopHost::CursorPos() const { return cursor_.Place(clock_.elapsed()) - ScreenOrigin(); }
+Point DesktopHost::CursorPos() const { return zoom_.ToProgram(cursor_.Place(clock_.elapsed())); }
 
 Form* DesktopHost::ActiveForm() const {
   const auto* window = dynamic_cast<const DesktopWindow*>(QApplication::activeWindow());

@@ -11,7 +11,9 @@
 #include "platform/desktop/InstanceLock.h"
 #include "platform/desktop/start/ProgramStart.h"
 #include "platform/desktop/window/CursorWatch.h"
+#include "platform/desktop/window/EnlargedPictures.h"
 #include "platform/desktop/window/Fonts.h"
+#include "platform/desktop/window/Zoom.h"
 
 namespace orvanta {
 
@@ -24,8 +26,10 @@ class DesktopHost : public Host {
   /// `discFolder` is the root of the drive, absolute. Of the arguments none but the program's name is read.
   DesktopHost(int& argc, char** argv, std::filesystem::path discFolder);
 
-  /// Where the primary screen lies among all of them; every place of the program counts from there.
-  Point ScreenOrigin() const;
+  /// The program's screen, from whose corner every place of the program counts, and its zoom.
+  const ScreenZoom& Zoom() const { return zoom_; }
+  /// The art of all windows, enlarged.
+  EnlargedPictures& Pictures() { return pictures_; }
   /// Lets Qt wait for an event, to `deadline` at the longest, and handle it.
   void WaitForQt(Milliseconds deadline);
   /// The active window goes, and the window manager, who may be slow, has not yet named another one: until
@@ -42,7 +46,7 @@ class DesktopHost : public Host {
   std::string AppPath() const override { return "D:\\"; }
   std::filesystem::path DriveRoot() const override { return discFolder_; }
   bool PrevInstance() const override { return !instance_; }
-  Size ScreenSize() const override;
+  Size ScreenSize() const override { return zoom_.ProgramSize(); }
   Point CursorPos() const override;
   Form* ActiveForm() const override;
   std::unique_ptr<FormWindow> MakeWindow(Form& form, WindowKind kind) override;
@@ -60,6 +64,8 @@ class DesktopHost : public Host {
   QApplication application_;
   const std::filesystem::path discFolder_;
   const std::optional<InstanceLock> instance_;
+  ScreenZoom zoom_;
+  EnlargedPictures pictures_;
   PrivateFonts fonts_;
   QElapsedTimer clock_;
   QObject alarm_;  // who is woken: a timer's event needs somebody to go to

@@ -5,6 +5,8 @@
 #include <array>
 #include <span>
 
+#include "platform/desktop/window/EnlargedPictures.h"
+
 namespace orvanta {
 
 namespace {
@@ -62,7 +64,7 @@ constexpr std::array kClosedHand{"",
                                  "    #ooooooo#   ",
                                  "    #########   "};
 
-QCursor Drawn(std::span<const char* const> rows, QPoint hotSpot) {
+QCursor Drawn(std::span<const char* const> rows, QPoint hotSpot, int zoom) {
   QImage image(32, 32, QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
   int y = 0;
@@ -71,18 +73,19 @@ QCursor Drawn(std::span<const char* const> rows, QPoint hotSpot) {
       if (row[x] != ' ') image.setPixelColor(x, y, row[x] == '#' ? Qt::black : Qt::white);
     ++y;
   }
-  return QCursor(QPixmap::fromImage(image), hotSpot.x(), hotSpot.y());
+  if (zoom > 1) image = Enlarged(image, image.size() * zoom);
+  return QCursor(QPixmap::fromImage(image), hotSpot.x() * zoom, hotSpot.y() * zoom);
 }
 
 }  // namespace
 
-QCursor CursorOf(Pointer pointer) {
+QCursor CursorOf(Pointer pointer, int zoom) {
   switch (pointer) {
     case Pointer::Default: break;
     case Pointer::Hourglass: return Qt::WaitCursor;
-    case Pointer::Hand: return Drawn(kPointingHand, {3, 4});
-    case Pointer::OpenHand: return Drawn(kOpenHand, {8, 7});
-    case Pointer::ClosedHand: return Drawn(kClosedHand, {8, 7});
+    case Pointer::Hand: return Drawn(kPointingHand, {3, 4}, zoom);
+    case Pointer::OpenHand: return Drawn(kOpenHand, {8, 7}, zoom);
+    case Pointer::ClosedHand: return Drawn(kClosedHand, {8, 7}, zoom);
   }
   return Qt::ArrowCursor;
 }

@@ -24,7 +24,7 @@ void DesktopWindow::Post(FormEvent::Kind kind, Point place, int button) {
 
 void DesktopWindow::PostMouse(FormEvent::Kind kind, const QMouseEvent& event, int button) {
   SeeCursor(event);
-  Post(kind, {event.pos().x(), event.pos().y()}, button);
+  Post(kind, Zoom().ToProgram({event.pos().x(), event.pos().y()}), button);
 }
 
 void DesktopWindow::SeeCursor(const QSinglePointEvent& event) {
@@ -74,7 +74,7 @@ void DesktopWindow::moveEvent(QMoveEvent* event) {
 }
 
 void DesktopWindow::NoteMove(const QPoint& corner) {
-  const Point place = Point{corner.x(), corner.y()} - host_.ScreenOrigin();
+  const Point place = host_.Zoom().ToProgram({corner.x(), corner.y()});
   if (place == Point{place_.left, place_.top}) return;
   place_.left = place.x;
   place_.top = place.y;

@@ -43,14 +43,25 @@ DesktopWindow::~DesktopWindow() { host_.Disinherit(form_); }
 void DesktopWindow::SetPlace(const Rect& place) {
   place_ = place;
   if (place.Empty()) return;
-  const Point origin = host_.ScreenOrigin();
-  setFixedSize(place.width, place.height);
-  move(place.left + origin.x, place.top + origin.y);
+  const Rect shown = Shown();
+  setFixedSize(shown.width, shown.height);
+  move(shown.left, shown.top);
+}
+
+Rect DesktopWindow::Shown() const {
+  const bool reachesEdge = kind_ == WindowKind::Plain || kind_ == WindowKind::FullScreen;
+  return reachesEdge ? host_.Zoom().ToScreenAndEdge(place_) : host_.Zoom().ToScreen(place_);
+}
+
+WindowZoom DesktopWindow::Zoom() const {
+  const Rect shown = Shown();
+  return {{place_.width, place_.height}, {shown.width, shown.height}};
 }
 
 void DesktopWindow::SetShape(const Region& shape) {
+  const WindowZoom zoom = Zoom();
   QList<QRect> rects;
-  for (const Rect& r : shape.Rects()) rects.append(ToQt(r));
+  for (const Rect& r : shape.Rects()) rects.append(ToQt(zoom.ToScreen(r)));
   QRegion mask;
   mask.setRects(rects.constData(), static_cast<int>(rects.size()));
   setMask(mask);
@@ -59,7 +70,7 @@ void DesktopWindow::SetShape(const Region& shape) {
 void DesktopWindow::SetCaption(const std::string& caption) { setWindowTitle(WindowTitle(caption)); }
 
 void DesktopWindow::SetPointer(Pointer pointer) {
-  setCursor(CursorOf(pointer));
+  setCursor(CursorOf(pointer, host_.Zoom().factor));
   FlushToScreen();
 }
 
@@ -97,8 +108,7 @@ void DesktopWindow::ShowNow() {
   const Milliseconds end = host_.Now() + kExposurePatience;
   while (host_.Now() < end && !(windowHandle() && windowHandle()->isExposed())) host_.WaitForQt(end);
   showing_ = false;
-  const Point origin = host_.ScreenOrigin();
-  const QPoint wanted(place_.left + origin.x, place_.top + origin.y);
+  const QPoint wanted = ToQt(Shown()).topLeft();
   if (pos() == wanted) return;
   // Some window managers move a window that is larger than the screen.
   if (kind_ == WindowKind::Modal) return move(wanted);
@@ -121,8 +131,9 @@ void DesktopWindow::Raise() {
 }
 
 void DesktopWindow::Invalidate(const Rect& area) {
-  dirty_ += ToQt(area);
-  update(ToQt(area));
+  const QRect shown = ToQt(Zoom().ToScreen(area));
+  dirty_ += shown;
+  update(shown);
 }
 
 void DesktopWindow::PaintNow() {
@@ -133,8 +144,11 @@ void DesktopWindow::paintEvent(QPaintEvent* event) {
   ++paints_;
   dirty_ -= event->region();
   QPainter painter(this);
-  PainterCanvas canvas(painter);
-  const auto paint = [&](const QRect& r) { form_.Paint(canvas, {r.x(), r.y(), r.width(), r.height()}); };
+  const WindowZoom zoom = Zoom();
+  PainterCanvas canvas(painter, zoom, host_.Pictures());
+  const auto paint = [&](const QRect& r) {
+    form_.Paint(canvas, zoom.Covering({r.x(), r.y(), r.width(), r.height()}));
+  };
   // Many small parts cost more than the rectangle around them.
   constexpr int kMostParts = 8;
   if (event->region().rectCount() > kMostParts) return paint(event->rect());

@@ -5,6 +5,7 @@
 
 #include "platform/Form.h"
 #include "platform/FormWindow.h"
+#include "platform/desktop/window/Zoom.h"
 
 class QSinglePointEvent;
 
@@ -15,7 +16,8 @@ class DesktopHost;
 /// `text` for Qt, which takes "[*]" for the place of a sign of its own unless it stands there twice.
 QString WindowTitle(const std::string& text);
 
-/// A form's window: one plain widget that is painted by the form.
+/// A form's window: one plain widget that is painted by the form. The form knows program pixels alone, Qt
+/// the screen's.
 class DesktopWindow : public QWidget, public FormWindow {
  public:
   DesktopWindow(DesktopHost& host, Form& form, WindowKind kind);
@@ -54,12 +56,15 @@ class DesktopWindow : public QWidget, public FormWindow {
   void SeeCursor(const QSinglePointEvent& event);
   void NoteMove(const QPoint& corner);
   void ShowNow();
+  /// The window's place among all screens.
+  Rect Shown() const;
+  WindowZoom Zoom() const;
 
   DesktopHost& host_;
   Form& form_;
   const WindowKind kind_;
   Rect place_;
-  QRegion dirty_;
+  QRegion dirty_;  // in screen pixels
   bool wasMinimised_ = false;
   bool showing_ = false;
   int paints_ = 0;

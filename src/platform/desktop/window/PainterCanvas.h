@@ -4,13 +4,17 @@
 #include <vector>
 
 #include "platform/Canvas.h"
+#include "platform/desktop/window/EnlargedPictures.h"
+#include "platform/desktop/window/Zoom.h"
 
 namespace orvanta {
 
-/// Paints a form with Qt.
+/// Paints a form with Qt. Zoomed, art has its pixels repeated, films are smooth, and text is drawn large with
+/// the line breaks that it has at its own size.
 class PainterCanvas : public Canvas {
  public:
-  explicit PainterCanvas(QPainter& painter) : painter_(painter) {}
+  PainterCanvas(QPainter& painter, const WindowZoom& zoom, EnlargedPictures& pictures)
+      : painter_(painter), zoom_(zoom), pictures_(pictures) {}
 
   void PushClip(const Rect& area) override;
   void PopClip() override;
@@ -20,7 +24,12 @@ class PainterCanvas : public Canvas {
             Alignment alignment) override;
 
  private:
+  QRect OnScreen(const Rect& area) const;
+  void DrawArt(const QPixmap& art, const Rect& target);
+
   QPainter& painter_;
+  const WindowZoom zoom_;
+  EnlargedPictures& pictures_;
   std::vector<Rect> clips_;
 };
 
