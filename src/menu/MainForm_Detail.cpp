@@ -28,6 +28,7 @@ bool MainForm::IsPlay(const std::string& name) const {
 std::int16_t MainForm::IleShot(const std::string& name) const { return CountRun(shell_.ini, name, "Shot"); }
 
 void MainForm::OpisInit() {
+  ++views_;
   MousePointer = kHourglassPointer;
   Line1.Show(false);
   const std::string name = CurrentNode();
@@ -36,7 +37,10 @@ void MainForm::OpisInit() {
   lblPos1.UnloadAbove0();
   lblPos1(0).Visible = false;
   S2.Visible = false;
-  ShowKind(name);
+  if (!ShowKind(name)) {
+    MousePointer = kDefaultPointer;
+    return;
+  }
   Refresh();
   lblNote.Caption = shell_.ini.IniRead(name, "Note", kMenuFile);
   lblSystem.Caption = shell_.ini.IniRead(name, "System", kMenuFile);
@@ -47,17 +51,20 @@ void MainForm::OpisInit() {
   MousePointer = kDefaultPointer;
 }
 
-void MainForm::ShowKind(const std::string& name) {
+bool MainForm::ShowKind(const std::string& name) {
   const bool program = IsExec(name);
   const bool music = !program && IsMusic(shell_.ini.IniRead(name, "PlayAs", kMenuFile));
   if (!program) {
     shell_.modMain.ItemSoundHold = true;
+    const std::uint32_t view = views_;
     SoundOff();
+    if (views_ != view) return false;
   }
   if (music) ShowTransport();
   ButtonM(4).Visible = program || music;
   ButtonM(5).Visible = ButtonM(6).Visible = music;
   ButtonM(9).Visible = !program && !music;
+  return true;
 }
 
 void MainForm::ShowTransport() {
@@ -77,8 +84,6 @@ void MainForm::LoadShots(const std::string& name) {
     const std::string value = shell_.ini.IniRead(name, NumberedKey("Shot", number), kMenuFile);
     return value.empty() ? nullptr : shell_.LoadPicture(shell_.ini.PicturePath(value));
   };
-  // A nested click may have built another view while the music fell silent.
-  picShot.UnloadAbove0();
   Image& first = picShot(0);
   first.Top = ShotTop;
   first.Visible = first.Stretch = true;

@@ -27,6 +27,7 @@ ColourValue MainForm::LabelColour(const Label& label) const {
 }
 
 void MainForm::MenuInit(const std::string& menu) {
+  ++views_;
   const Settings& settings = shell_.settings;
   picTlo.Visible = true;
   PressedButton = -1;
@@ -145,6 +146,7 @@ void MainForm::imgUp_Click() {
 }
 
 void MainForm::StronaInit(double height) {
+  ++views_;
   picShot.UnloadAbove0();
   picShot(0).Visible = false;
   lblPos1.UnloadAbove0();

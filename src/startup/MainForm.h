@@ -146,7 +146,8 @@ class MainForm : public Form {
   void KnobUp(Image& knob);
 
   void OpisInit();
-  void ShowKind(const std::string& name);
+  /// False if the user has gone on to another view while the music fell silent.
+  bool ShowKind(const std::string& name);
   void ShowTransport();
   void LoadShots(const std::string& name);
   void picShot_Click(std::int16_t Index);
@@ -170,6 +171,7 @@ class MainForm : public Form {
 
   Shell& shell_;
   std::int16_t selected_ = 0;   // lblPos1_Click: the selected label's index plus 1
+  std::uint32_t views_ = 0;     // how many views have been built
   bool crosshairRuns_ = false;  // Strzal: a click on a label meanwhile is ignored
   std::int16_t hovered_ = 0;    // OverLabel: the hovered label's index plus 1
   std::int16_t markerAt_ = 0;   // Timer1_Timer: the last place given to S2

@@ -51,6 +51,16 @@ TEST_F(Browse, GoesDownBothFilesAndComesBackLevelByLevelOrInOneStep) {
   Tell({{"click imgUp2", "0: Gry Muzyka Filmy"}});
 }
 
+TEST_F(Browse, GoesWhereTheUserGoesWhileTheMusicFallsSilentForAnEntry) {
+  disc.Menu("Gry", {"Film"});
+  Tell({{"start, choose 0, hover lblPos10, after 900 click imgBack, click lblPos10, run 100", "1 Gry: Film"},
+        {"hover lblPos10, after 900 click imgUp, click lblPos10, run 100", "0: Gry Muzyka Filmy"}});
+  EXPECT_EQ(Main().AM2.CurrentState(), ActiveMovie::kRunning);
+  EXPECT_FALSE(Hourglass() || user.Button(9).Visible());
+  Tell({{"choose 0, hover lblPos10, after 900 click ButtonM3, click lblPos10", "2 (help)"},
+        {"click imgPomoc", "2 Film (entry)"}});
+}
+
 TEST_F(Browse, MarksAnInertLabelOnce) {
   user.Do("start, choose 1");
   EXPECT_EQ(Main().lblPos1(1).ForeColor(), 0x00FFFF);
