@@ -93,6 +93,8 @@ void frmKino::Form_Unload() {
 }
 
 void frmKino::Timer1_Timer() {
+  // The user can move the window.
+  shell_.modMouse.Track(*this);
   shell_.modMouse.OverButton(kSlot, *this, "ButtonM", ImageList1, PressedButton);
   if (AM0.ReadyState() != ActiveMovie::kComplete) return;
   if (!KinoPlaced) {
