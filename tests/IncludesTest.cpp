@@ -17,8 +17,10 @@ struct Room {
   std::string begin, ours, others;
 };
 
-/// What the core takes from the system beside the C++ library. Think twice before adding to it.
-const std::string kStandard = "[a-z_]+|fcntl\\.h|unistd\\.h|sys/stat\\.h|sys/types\\.h|immintrin\\.h",
+/// What the core takes from the system beside the C++ library; libintl.h is the C library's way to messages
+/// in the language of the user. Think twice before adding to it.
+const std::string kStandard =
+                      "[a-z_]+|libintl\\.h|fcntl\\.h|unistd\\.h|sys/stat\\.h|sys/types\\.h|immintrin\\.h",
                   kShell = "platform|config|startup|menu|buttons|media|launcher",
                   kLogic = "(" + kShell + ")/\\w+\\.h";
 /// The first that fits decides.

@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "config/Windows1250.h"
+#include "disctool/Translation.h"
 
 namespace orvanta {
 namespace {
@@ -67,6 +68,11 @@ DiscPlace Catalogue::PlaceOf(std::string_view section) const {
 bool Catalogue::HasSection(std::string_view section) const {
   const auto bytes = ToWindows1250(section);
   return bytes && (files_[0].ini.Find(*bytes) || files_[1].ini.Find(*bytes));
+}
+
+std::string NoDiscIn(const fs::path& folder) {
+  return folder.string() + ": " +
+         Translated("there is no disc here: neither %1 nor %2", "Data/Menu.ini", "Data/Param.ini");
 }
 
 }  // namespace orvanta

@@ -58,4 +58,7 @@ class Catalogue {
   std::array<File, 2> files_;
 };
 
+/// Says that a folder holds no disc: "FOLDER: there is no disc here: ..."
+std::string NoDiscIn(const std::filesystem::path& folder);
+
 }  // namespace orvanta

@@ -1,8 +1,11 @@
 #include "disctool/gallery/Gallery.h"
 
+#include <cerrno>
+#include <cstring>
 #include <fstream>
 #include <system_error>
 
+#include "disctool/Translation.h"
 #include "disctool/gallery/GalleryWalk.h"
 
 namespace orvanta {
@@ -12,11 +15,12 @@ namespace fs = std::filesystem;
 
 /// What is in the way of a gallery; empty if nothing is.
 std::string Obstacle(const fs::path& disc, const fs::path& folder) {
-  if (Catalogue(disc).Empty()) return disc.string() + ": there is no disc here";
+  if (Catalogue(disc).Empty()) return NoDiscIn(disc);
   std::error_code error;
   fs::create_directories(folder, error);
-  if (error) return folder.string() + " cannot be made: " + error.message();
-  if (!fs::is_empty(folder, error) || error) return folder.string() + " is not empty";
+  if (error) return folder.string() + ": " + error.message();
+  if (!fs::is_empty(folder, error) || error)
+    return folder.string() + ": " + Translated("the folder is not empty");
   return {};
 }
 
@@ -31,7 +35,7 @@ std::string MakeGallery(const fs::path& disc, const fs::path& folder, const Prog
   std::ofstream page(folder / "index.html", std::ios::binary);
   page << GalleryPage(caption ? caption.value : disc.filename().string(), walk.entries, walk.root);
   page.close();
-  return page ? std::string() : (folder / "index.html").string() + " cannot be written";
+  return page ? std::string() : (folder / "index.html").string() + ": " + std::strerror(errno);
 }
 
 }  // namespace orvanta

@@ -4,13 +4,16 @@
 #include <QFile>
 #include <QPainter>
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
+#include <cstring>
 #include <fstream>
 #include <functional>
 #include <map>
 #include <numbers>
 #include <system_error>
 
+#include "disctool/Translation.h"
 #include "disctool/disc/OutlineSvg.h"
 #include "disctool/making/GifFile.h"
 #include "disctool/making/MediaFile.h"
@@ -37,7 +40,7 @@ class Writer {
     fs::create_directories(file.parent_path(), error);
     std::ofstream out(file, std::ios::binary);
     out << bytes << std::flush;
-    if (!out) problem = file.string() + " cannot be written";
+    if (!out) problem = file.string() + ": " + std::strerror(errno);
   }
 
  private:
@@ -116,8 +119,9 @@ std::string Resource(const char* name) {
 std::string MakeNewDisc(const fs::path& folder) {
   std::error_code error;
   fs::create_directories(folder, error);
-  if (error) return folder.string() + " cannot be made: " + error.message();
-  if (!fs::is_empty(folder, error) || error) return folder.string() + " is not empty";
+  if (error) return folder.string() + ": " + error.message();
+  if (!fs::is_empty(folder, error) || error)
+    return folder.string() + ": " + Translated("the folder is not empty");
   Writer disc(folder);
   for (const std::string name :
        {"Data/Param.ini", "Data/Menu.ini", "Data/szyld.ttf", "Data/OFL.txt", "czytaj.txt"})

@@ -13,6 +13,7 @@
 #include <optional>
 
 #include "disctool/OutputText.h"
+#include "disctool/Translation.h"
 #include "disctool/disc/Catalogue.h"
 #include "disctool/image/DiscCache.h"
 #include "platform/desktop/DesktopHost.h"
@@ -49,7 +50,8 @@ class ProgressWindow {
   void Open() {
     application_.emplace(argc_, argv_);
     QApplication::setWindowIcon(ProgramIcon());
-    bar_.emplace("Unpacking the disc...", "Cancel", 0, kSteps);
+    bar_.emplace(QString::fromStdString(Translated("Unpacking the disc...")),
+                 QString::fromStdString(Translated("Cancel")), 0, kSteps);
     bar_->setWindowTitle("Orvanta Shell");
     bar_->setMinimumDuration(0);
     bar_->setAutoReset(false);
@@ -75,11 +77,10 @@ std::string Open(const std::filesystem::path& named, int& argc, char** argv) {
 }  // namespace
 
 std::string RunShell(const std::filesystem::path& disc, int& argc, char** argv) {
-  if (Catalogue(disc).Empty())
-    return disc.string() + ": there is no disc here: neither Data/Menu.ini nor Data/Param.ini";
-  if (!HasDisplay()) return "there is no display to open a window on";
+  if (Catalogue(disc).Empty()) return NoDiscIn(disc);
+  if (!HasDisplay()) return Translated("there is no display to open a window on");
   DesktopHost host(argc, argv, disc);
-  if (host.PrevInstance()) return "the shell is running already on this display";
+  if (host.PrevInstance()) return Translated("the shell is running already on this display");
   Shell shell(host);
   shell.Run();
   return {};

@@ -7,7 +7,7 @@
 
 #include "config/ProfileString.h"
 #include "disctool/check/CheckedDisc.h"
-#include "disctool/command/Commands.h"
+#include "disctool/command/DiscCommands.h"
 
 namespace orvanta::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "disctool/command/Commands.h"
+#include "disctool/command/DiscCommands.h"
 
 #include <ostream>
 
@@ -20,7 +20,7 @@ ExitStatus CheckCommand(const std::filesystem::path& disc, DiscProbe& probe, con
 ExitStatus TreeCommand(const std::filesystem::path& disc, bool json, std::ostream& out, std::ostream& err) {
   const Catalogue catalogue(disc);
   if (catalogue.Empty()) {
-    err << Printable(disc.native()) << ": there is no disc here: neither Data/Menu.ini nor Data/Param.ini\n";
+    err << "orvanta-disc: " << Printable(NoDiscIn(disc)) << '\n';
     return kFaults;
   }
   const MenuTree tree = ReadMenuTree(catalogue);

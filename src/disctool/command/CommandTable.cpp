@@ -1,0 +1,81 @@
+#include "disctool/command/CommandTable.h"
+
+#include <algorithm>
+
+#include "disctool/Translation.h"
+
+namespace orvanta {
+namespace {
+
+constexpr OptionInfo kJson{"json", "", Translatable("Write JSON for other programs.")};
+
+constexpr OptionInfo kOpenOptions[] = {
+    {"clear-cache", "",
+     Translatable("Remove the unpacked copies of images first. Without DISC, do nothing else.")}};
+constexpr ExampleInfo kOpenExamples[] = {{"orvanta-disc open disc.iso", Translatable("Opens an image.")}};
+
+constexpr OptionInfo kCheckOptions[] = {
+    kJson, {"strict", "", Translatable("Count warnings as errors in the exit status.")}};
+constexpr ExampleInfo kCheckExamples[] = {
+    {"orvanta-disc check my-disc", Translatable("Lists what is wrong with a disc.")},
+    {"orvanta-disc check --strict my-disc && make-image my-disc",
+     Translatable("Goes on only with a disc without a finding.")}};
+
+constexpr OptionInfo kTreeOptions[] = {kJson};
+constexpr ExampleInfo kTreeExamples[] = {{"orvanta-disc tree disc.iso", Translatable("Lists the menus.")}};
+
+constexpr ExampleInfo kGalleryExamples[] = {
+    {"orvanta-disc gallery disc.iso pictures",
+     Translatable("Makes a gallery; open pictures/index.html in a browser.")}};
+
+constexpr ExampleInfo kGetExamples[] = {
+    {"orvanta-disc get my-disc HEADLINE Caption", Translatable("Writes the title of a disc.")}};
+
+constexpr ExampleInfo kNewExamples[] = {{"orvanta-disc new my-disc", Translatable("Makes a disc.")},
+                                        {"orvanta-disc open my-disc", Translatable("Shows it.")}};
+
+constexpr CommandInfo kCommands[] = {
+    {"open", "DISC", Translatable("Start the shell with a disc"),
+     Translatable("Starts the shell with a disc. A folder is used as it is. An image is unpacked into the "
+                  "user's cache once and used again until it changes. Without a terminal, as from a file "
+                  "manager, windows show the progress and any problem."),
+     kOpenOptions, kOpenExamples},
+    {"check", "DISC", Translatable("List everything that is wrong with a disc"),
+     Translatable("Lists everything that is wrong with a disc, one finding per line, as FILE:LINE: "
+                  "error|warning: TEXT. Line 0 stands for the whole file."),
+     kCheckOptions, kCheckExamples},
+    {"tree", "DISC", Translatable("Show the menu tree"),
+     Translatable("Lists the menu tree with the kind of each item: menu, program, music, film, or inert for "
+                  "an item that does nothing."),
+     kTreeOptions, kTreeExamples},
+    {"gallery",
+     "DISC OUT",
+     Translatable("Make a page with screenshots of every view"),
+     Translatable("Writes screenshots of every view of a disc and a page, index.html, into OUT, a new or "
+                  "empty folder. It needs no display."),
+     {},
+     kGalleryExamples},
+    {"get",
+     "DISC SECTION KEY",
+     Translatable("Look up a setting"),
+     Translatable("Writes a setting as the shell looks it up."),
+     {},
+     kGetExamples},
+    {"new",
+     "DIR",
+     Translatable("Make a small complete disc to start from"),
+     Translatable("Makes a small complete disc in DIR, a new or empty folder."),
+     {},
+     kNewExamples},
+};
+
+}  // namespace
+
+std::span<const CommandInfo> Commands() { return kCommands; }
+
+const CommandInfo* FindCommand(std::string_view name) {
+  const auto found = std::ranges::find(kCommands, name, &CommandInfo::name);
+  return found == std::end(kCommands) ? nullptr : found;
+}
+
+}  // namespace orvanta
