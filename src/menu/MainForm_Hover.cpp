@@ -10,7 +10,7 @@ void MainForm::Timer1_Timer() {
   ParkMusic();
   if (shell_.modActiveWindow.CheckActive()) {
     shell_.modMouse.OverButton(0, *this, "ButtonM", ImageList1, PressedButton);
-    if (!SuwakDrag) MousePos();
+    if (!slider.SuwakDrag) MousePos();
   }
   if (MoveMarker()) return;
   const bool& active = shell_.modActiveWindow.AppActive;

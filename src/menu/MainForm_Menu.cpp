@@ -1,7 +1,6 @@
 // The tree of menus: a list of labels for the current node, and the ways down and up.
 
 #include "config/NumberedKey.h"
-#include "menu/MenuGeometry.h"
 #include "startup/Shell.h"
 
 namespace orvanta {
@@ -19,7 +18,7 @@ std::int16_t MainForm::IleMenu(const std::string& menu) const { return CountRun(
 
 bool MainForm::InView(const Label& label) const {
   const double upper = MenuLevel == 0 ? LabelTop - 1.0 : imgKreska.Height();
-  return IsInView(label.Top, label.Height, upper, picTlo.Height);
+  return label.Top > upper && label.Top + label.Height <= picTlo.Height;
 }
 
 ColourValue MainForm::LabelColour(const Label& label) const {
@@ -54,13 +53,7 @@ void MainForm::MenuInit(const std::string& menu) {
   Line1.Show(false);
 
   const Label& last = lblPos1(lblPos1.UBound());
-  const std::int32_t bottom = CLng(last.Height + last.Top);
-  if (picTlo.Height < bottom) {
-    SuwakInit();
-    Rescale(bottom);
-  } else {
-    HideSlider();
-  }
+  FitSlider(CLng(last.Height + last.Top));
   if (MenuLevel > 0) {
     ShowPlace(CurrentNode());
   } else {
@@ -84,17 +77,6 @@ void MainForm::BuildLabel(int i, const std::string& menu, bool opaque, ColourVal
   }
   PosTop[static_cast<std::size_t>(i)] = CLng(label.Top);
   label.ForeColor = LabelColour(label);
-}
-
-void MainForm::Rescale(std::int32_t contentHeight) {
-  SuwakRange = CLng(contentHeight - picTlo.Height);
-  SuwakScale = SliderScale(SuwakRange, YMin, YMax);
-}
-
-void MainForm::HideSlider() {
-  imgSuwakPas.Visible = imgSuwak.Visible = false;
-  SuwakScale = 0;
-  SuwakDir = -1;
 }
 
 void MainForm::ShowPlace(const std::string& name) {
@@ -153,13 +135,7 @@ void MainForm::StronaInit(double height) {
   lblPos1(0).Visible = false;
   Line1.Show(false);
   imgKreska.Visible = false;
-  const std::int16_t h = CInt(height);
-  if (h > picTlo.Height) {
-    SuwakInit();
-    Rescale(h);
-  } else {
-    HideSlider();
-  }
+  FitSlider(CInt(height));
   picTlo.Visible = true;
 }
 

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <random>
 #include <string>
 #include <vector>
 
-#include "config/Schema.h"
+#include "menu/Slider.h"
 #include "platform/ActiveMovie.h"
 #include "platform/ControlArray.h"
 #include "platform/Controls.h"
@@ -52,67 +51,26 @@ class MainForm : public Form {
   Timer Timer1;
   ImageList ImageList1;
 
-  // Lifecycle: startup/
-  void Form_Load() override;
-  void Form_Activate() override;
-  void Form_Resize() override;
-  void Form_Unload() override;
+  /// One for lists and pages (`listKnob`) and for screenshots (`shotKnob`).
+  Slider slider;
+  Slider::Knob listKnob{imgSuwak, imgSuwakPas, [this] { ScrollList(); }};
+  Slider::Knob shotKnob{imgSSuwak, imgSSlider, [this] { ScrollShots(); }};
 
-  // The tree and the position in it: menu/MainForm_Menu.cpp
   std::vector<std::string> MenuPath;  ///< node names from the root; above `MenuLevel` they are stale
   std::int16_t MenuLevel = 0;
-  std::vector<std::int32_t> PosTop;  ///< unscrolled tops of the labels or of the screenshots
-  std::int32_t LabelTop = 0;
-  void MenuInit(const std::string& menu);
-  std::int16_t IleMenu(const std::string& menu) const;
+  std::int16_t PressedButton = 0;  ///< the latched transport button, -1 for none
+
+  void Form_Load() override;
   void lblPos1_Click(std::int16_t Index);
   void imgBack_Click();
   void imgUp_Click();
-  void StronaInit(double height);
-  void StronaKoniec();
-
-  // Hover, tick and crosshair: menu/MainForm_Hover.cpp
-  std::int32_t MouseX = 0, MouseY = 0;  ///< the cursor relative to `picTlo` at the last tick
-  void OverLabel(std::int16_t Index);
-  void LinesSet(std::int16_t Index);
-  void Strzal(std::int16_t Index);
-
-  // One set for both sliders: menu/MainForm_Slider.cpp, menu/MainForm_Shots.cpp
-  std::int32_t YMin = 0, YMax = 0;
-  std::int16_t YStep = 0;
-  std::int32_t SuwakY = 0, SuwakPos = 0, SuwakRange = 0;
-  float SuwakScale = 0;         ///< pixels of the content for one of the knob; 0 means nothing to scroll
-  std::int16_t SuwakDir = -1;   ///< 0 up, 1 down, -1 none
-  std::int32_t SuwakGrab = -1;  ///< cursor's y less the knob's top at the press, -1 while none is held
-  bool SuwakDrag = false;
-  void SuwakInit();
-  void MoveSuwak(std::int32_t step);
-  void SSuwakInit();
-  void MoveSSuwak(std::int32_t step);
-
-  // The detail view: menu/MainForm_Detail.cpp
-  std::int16_t S2Start = 0, S2End = 0, S2Len = 0;
-  std::int32_t ShotTop = 0;
-  bool IsExec(const std::string& name) const;
-  bool IsPlay(const std::string& name) const;
-  std::int16_t IleShot(const std::string& name) const;
-
-  // Buttons: buttons/
-  std::int16_t PressedButton = 0;  ///< the latched transport button, -1 for none
   void ButtonM_Click(std::int16_t Index);
-
-  // Sound: media/MainForm_Cues.cpp, media/MainForm_Music.cpp
-  std::int16_t SavedVolume = 0;
-  void PlaySoundFile(const std::string& file, bool flag);
-  void PlayRandomSoundFile(const std::string& base, bool flag);
-  void PlayEndSound(bool flag);
-  void SoundOn();
-  void SoundOff();
 
  protected:
   void CloseRequested() override { Unload(); }
 
  private:
+  // Lifecycle: startup/
   void DesignControls();
   void DesignDetail();
   void WireEvents();
@@ -125,33 +83,49 @@ class MainForm : public Form {
   void StartMusic();
   void PinWindow();
   void ShowStrips(bool visible);
+  void Form_Activate() override;
+  void Form_Resize() override;
+  void Form_Unload() override;
 
+  // The tree and the position in it: menu/MainForm_Menu.cpp
+  void MenuInit(const std::string& menu);
+  std::int16_t IleMenu(const std::string& menu) const;
+  void StronaInit(double height);
+  void StronaKoniec();
   void BuildLabel(int i, const std::string& menu, bool opaque, ColourValue backColour);
-  void Rescale(std::int32_t contentHeight);
-  void HideSlider();
   void ShowPlace(const std::string& name);
   bool InView(const Label& label) const;
   ColourValue LabelColour(const Label& label) const;
   std::string CurrentNode() const;
   void EnterLevel(const std::string& name);
 
+  // Hover, tick and crosshair: menu/MainForm_Hover.cpp
   void Timer1_Timer();
-  void ParkMusic();
-  bool MoveMarker();
   void MousePos();
+  void OverLabel(std::int16_t Index);
+  void LinesSet(std::int16_t Index);
+  void Strzal(std::int16_t Index);
 
-  void MoveKnob(Image& knob, std::int32_t step);
-  void KnobDown(Image& knob, const MouseEvent& event);
-  void DragKnob(const Image& knob, const MouseEvent& event, void (MainForm::*move)(std::int32_t));
-  void KnobUp(Image& knob);
+  // What scrolls: menu/MainForm_Slider.cpp, menu/MainForm_Shots.cpp
+  void SuwakInit();
+  void FitSlider(std::int32_t contentHeight);
+  void HideSlider();
+  void ScrollList();
+  void SSuwakInit();
+  void ScrollShots();
+  void picShot_Click(std::int16_t Index);
 
+  // The detail view: menu/MainForm_Detail.cpp
   void OpisInit();
+  bool IsExec(const std::string& name) const;
+  bool IsPlay(const std::string& name) const;
+  std::int16_t IleShot(const std::string& name) const;
   /// False if the user has gone on to another view while the music fell silent.
   bool ShowKind(const std::string& name);
   void ShowTransport();
   void LoadShots(const std::string& name);
-  void picShot_Click(std::int16_t Index);
 
+  // Buttons: buttons/
   void ButtonsInit();
   void Press(std::int16_t Index);
   void Release(std::int16_t Index);
@@ -167,16 +141,27 @@ class MainForm : public Form {
   void ShowFilm();
   void ClosePage(Image& page);
 
+  // Sound: media/MainForm_Cues.cpp, media/MainForm_Music.cpp
+  void PlaySoundFile(const std::string& file, bool flag);
+  void PlayRandomSoundFile(const std::string& base, bool flag);
+  void PlayEndSound(bool flag);
   void StopEntrySound();
+  void ParkMusic();
+  bool MoveMarker();
+  void SoundOn();
+  void SoundOff();
 
   Shell& shell_;
+  std::vector<std::int32_t> PosTop;  // unscrolled tops of the labels or of the screenshots
+  std::int32_t LabelTop = 0, ShotTop = 0;
+  std::int32_t MouseX = 0, MouseY = 0;  // the cursor relative to picTlo at the last tick
+  std::int16_t S2Start = 0, S2End = 0, S2Len = 0;
+  std::int16_t SavedVolume = 0;
   std::int16_t selected_ = 0;   // lblPos1_Click: the selected label's index plus 1
   std::uint32_t views_ = 0;     // how many views have been built
   bool crosshairRuns_ = false;  // Strzal: a click on a label meanwhile is ignored
   std::int16_t hovered_ = 0;    // OverLabel: the hovered label's index plus 1
   std::int16_t markerAt_ = 0;   // Timer1_Timer: the last place given to S2
-  std::int16_t LastPos = 0;     // MoveSuwak: SuwakPos at the last move of the labels
-  std::int16_t LastSPos = 0;    // MoveSSuwak: the same for the screenshots
   std::mt19937 generator_;      // never seeded: one disc, one choice
 };
 

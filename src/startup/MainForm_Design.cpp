@@ -36,6 +36,7 @@ MainForm::MainForm(Shell& shell)
       ImgBack2(imgKreska, "ImgBack2"),
       imgUp2(imgKreska, "imgUp2"),
       Timer1(*this, 50, [this] { Timer1_Timer(); }),
+      slider(shell),
       shell_(shell) {
   DesignControls();
   DesignDetail();
@@ -57,7 +58,6 @@ void MainForm::DesignControls() {
     zone->BorderStyle = 1;
     zone->MouseIcon = Pointer::Hand;
   }
-  for (Image* knob : {&imgSuwak, &imgSSuwak}) knob->MouseIcon = Pointer::OpenHand;
   // A button whose art is missing can still be found and clicked.
   ButtonM(0).Move(0, 0, 32, 32);
   ButtonM(0).MouseIcon = Pointer::Hand;
@@ -108,15 +108,8 @@ void MainForm::WireEvents() {
   imgUp.Click = imgUp2.Click = [this] { imgUp_Click(); };
   imgPomoc.Click = [this] { ClosePage(imgPomoc); };
   imgSeven.Click = [this] { ClosePage(imgSeven); };
-
-  imgSuwak.MouseDown = [this](const MouseEvent& event) { KnobDown(imgSuwak, event); };
-  imgSuwak.MouseUp = [this](const MouseEvent&) { KnobUp(imgSuwak); };
-  imgSuwak.MouseMove = [this](const MouseEvent& event) { DragKnob(imgSuwak, event, &MainForm::MoveSuwak); };
-  imgSSuwak.MouseDown = [this](const MouseEvent& event) { KnobDown(imgSSuwak, event); };
-  imgSSuwak.MouseUp = [this](const MouseEvent&) { KnobUp(imgSSuwak); };
-  imgSSuwak.MouseMove = [this](const MouseEvent& event) {
-    DragKnob(imgSSuwak, event, &MainForm::MoveSSuwak);
-  };
+  slider.Attach(listKnob);
+  slider.Attach(shotKnob);
 }
 
 }  // namespace orvanta

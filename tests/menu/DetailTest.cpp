@@ -41,7 +41,7 @@ TEST_F(Detail, AFourthShotBringsTheSliderWhoseVariablesThePagesShare) {
   EXPECT_EQ(Main().imgSSuwak.Bounds(), (Rect{140, 200, 16, 20}));
   EXPECT_EQ(Main().picShot(3).Top + Main().picShot(3).Height, 253);
   Tell({{"drag imgSSuwak -400, drop, click ButtonM3", "20 6.0"}});
-  EXPECT_EQ(Main().SuwakRange, 600 - 309) << "the tall page has set up the other one";
+  EXPECT_EQ(Main().slider.SuwakRange, 600 - 309) << "the tall page has set up the other one";
   // The next entry begins at the top and remembers the last place of the knob: a move to where it stood
   // before does not move the pictures.
   Tell({{"click ButtonM3, drag imgSSuwak 40, drop", "60 -14.0"},

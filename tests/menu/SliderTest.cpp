@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "menu/MenuGeometry.h"
 #include "support/Story.h"
 
 namespace orvanta::test {
@@ -42,7 +41,7 @@ TEST_F(Slider, ScrollsTheListWithinItsLimitsAndStartsAgainAtTheTop) {
     EXPECT_EQ(PointerNow(), Pointer::ClosedHand);
   }
   Tell({{"drop", "40 15"}, {"drag imgSuwak 10, drop, hover imgSuwak", "50 5"}});
-  EXPECT_FALSE(Main().SuwakDrag) << "a release beside the knob ends the drag";
+  EXPECT_FALSE(Main().slider.SuwakDrag) << "a release beside the knob ends the drag";
   EXPECT_EQ(PointerNow(), Pointer::OpenHand);
   Main().lblPos1_Click(1);
   // The place of the last list is remembered: a first move to the very same one leaves the labels.
@@ -70,9 +69,19 @@ TEST_F(Slider, ScrollsALongPageAndNothingThatFits) {
     EXPECT_EQ(shell.Main().imgSuwak.Top(), 40) << "there is no travel";
     EXPECT_EQ(shell.Main().lblPos1(5).Top(), top + 5 * 27);
   }
-  EXPECT_EQ(SliderScale(100, 40, 39), 0.0F);
-  EXPECT_EQ(SliderScale(2147483647, -2147483647 - 1, 2147483647), 0.5F);
-  EXPECT_EQ(MovedKnob(-2147483647, 2147483647, true, -2147483647 - 1, 0).y, -2147483647 - 1);
+}
+
+TEST_F(Slider, KeepsToTheWidestTravelThatADiscCanName) {
+  user.Do("start");
+  auto& slider = Main().slider;
+  slider.YMin = INT32_MIN;
+  slider.YMax = INT32_MAX;
+  slider.SetRange(INT32_MAX);
+  EXPECT_EQ(slider.SuwakScale, 0.5F);
+  slider.SuwakY = INT32_MIN + 1;
+  slider.SuwakDir = 0;
+  slider.MoveSuwak(Main().listKnob, INT32_MAX);
+  EXPECT_EQ(slider.SuwakY, INT32_MIN);
 }
 
 }  // namespace

@@ -69,16 +69,17 @@ void GalleryWalk::Shots() {
 /// Drags the knob down, each time by as much as brings `view` further pixels of the content to sight.
 void GalleryWalk::Scroll(bool shots, int view) {
   MainForm& main = *shell_.MainForm;
-  if (!(main.SuwakScale > 0)) return;
+  Slider& slider = main.slider;
+  if (!(slider.SuwakScale > 0)) return;
   const auto drag = [&](std::int16_t direction, std::int32_t pixels) {
-    main.SuwakDir = direction;
-    shots ? main.MoveSSuwak(pixels) : main.MoveSuwak(pixels);
-    main.SuwakDir = -1;
+    slider.SuwakDir = direction;
+    slider.MoveSuwak(shots ? main.shotKnob : main.listKnob, pixels);
+    slider.SuwakDir = -1;
   };
   constexpr std::int16_t kUp = 0, kDown = 1;
-  const double wanted = std::max(1.0, view / static_cast<double>(main.SuwakScale));
+  const double wanted = std::max(1.0, view / static_cast<double>(slider.SuwakScale));
   const auto step = static_cast<std::int32_t>(std::min(wanted, 1e9));
-  while (main.SuwakY < main.YMax) {
+  while (slider.SuwakY < slider.YMax) {
     drag(kDown, step);
     // A hand is never as sudden: a list that jumps to where the last one stood would not be moved.
     drag(kUp, 1);
