@@ -1,7 +1,9 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace orvanta {
@@ -23,6 +25,13 @@ inline constexpr auto kFold1250 = [] {
 }();
 
 constexpr char Fold1250(char byte) { return static_cast<char>(kFold1250[static_cast<unsigned char>(byte)]); }
+
+/// Small letters for the capitals of a text in Windows-1250.
+inline std::string Folded1250(std::string_view bytes) {
+  std::string folded(bytes);
+  std::transform(folded.begin(), folded.end(), folded.begin(), Fold1250);
+  return folded;
+}
 
 /// Two texts in Windows-1250 are the same but for small and capital letters.
 constexpr bool EqualNoCase1250(std::string_view left, std::string_view right) {

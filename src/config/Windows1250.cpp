@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "config/Fold1250.h"
+#include "platform/AsciiText.h"
 
 namespace orvanta {
 namespace {
@@ -65,8 +66,6 @@ void AppendUtf8(std::string& text, char16_t character) {
   }
 }
 
-char FoldAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 0x20) : c; }
-
 }  // namespace
 
 std::string FromWindows1250(std::string_view bytes) {
@@ -90,8 +89,15 @@ std::optional<std::string> ToWindows1250(std::string_view utf8) {
 
 bool EqualNoCase(std::string_view left, std::string_view right) {
   if (const auto a = ToWindows1250(left), b = ToWindows1250(right); a && b) return EqualNoCase1250(*a, *b);
-  return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                    [](char a, char b) { return FoldAscii(a) == FoldAscii(b); });
+  return EqualNoCaseAscii(left, right);
+}
+
+std::string FoldedName(std::string_view utf8) {
+  // The first byte parts the two kinds, whose other bytes could be the same.
+  if (const auto bytes = ToWindows1250(utf8)) return '1' + Folded1250(*bytes);
+  std::string name = '0' + std::string(utf8);
+  std::transform(name.begin(), name.end(), name.begin(), FoldAscii);
+  return name;
 }
 
 }  // namespace orvanta

@@ -17,4 +17,8 @@ std::optional<std::string> ToWindows1250(std::string_view utf8);
 /// to Z are matched without regard to case.
 bool EqualNoCase(std::string_view left, std::string_view right);
 
+/// A key for a name in UTF-8: two names have the same key just when `EqualNoCase` holds them for the same. It
+/// has one byte for each letter of Windows-1250, so that keys can be compared letter by letter.
+std::string FoldedName(std::string_view utf8);
+
 }  // namespace orvanta

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "disctool/disc/IniFile.h"
+#include "config/Windows1250.h"
 
 namespace orvanta {
 namespace {
@@ -31,14 +31,15 @@ std::size_t Distance(const std::string& a, const std::string& b) {
 
 std::string_view NearestName(std::string_view name, std::span<const std::string_view> known) {
   if (name.size() > kLongest) return {};
-  const std::string wanted = Folded(name);
+  const std::string wanted = FoldedName(name);
   std::string_view best;
   std::size_t least = std::max<std::size_t>(1, name.size() / 3) + 1;
   for (const std::string_view candidate : known) {
+    const std::string other = FoldedName(candidate);
     const std::size_t apart =
-        candidate.size() > name.size() ? candidate.size() - name.size() : name.size() - candidate.size();
+        other.size() > wanted.size() ? other.size() - wanted.size() : wanted.size() - other.size();
     if (apart >= least) continue;
-    const std::size_t distance = Distance(wanted, Folded(candidate));
+    const std::size_t distance = Distance(wanted, other);
     if (distance < least) least = distance, best = candidate;
   }
   return best;

@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <sstream>
 
 #include "disctool/OutputText.h"
 #include "disctool/check/CheckedDisc.h"
+#include "disctool/disc/NearestName.h"
 
 namespace orvanta::test {
 namespace {
@@ -108,6 +110,13 @@ TEST(Check, TextsThatTheLookupReadsOtherwiseThanTheyLookAreFound) {
   disc.Set("MAINMENU", "Menu4", "\x1B[2Jx");
   EXPECT_NE(FindingsText(disc.Check()).find("\\x1B[2Jx"), std::string::npos) << "no command to the terminal";
   EXPECT_EQ(JsonText("\x1B\"\\\xFFł"), "\"\\u001B\\\"\\\\\xEF\xBF\xBDł\"");
+}
+
+TEST(NearestName, TakesLettersAsTheDiscDoesAndNotTheBytesOfTheirCode) {
+  const std::array<std::string_view, 2> known = {"Ryby", "żółć"};
+  EXPECT_EQ(NearestName("ŻÓŁĆ", known), "żółć");
+  EXPECT_EQ(NearestName("żół", known), "żółć");
+  EXPECT_EQ(NearestName("Ptaki", known), "");
 }
 
 TEST(Check, WhatLacksAWholeSectionFileOrDiscIsToldOnce) {
