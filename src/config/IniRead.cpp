@@ -34,7 +34,7 @@ std::string INI_Read::IniRead(std::string_view section, std::string_view key, st
 }
 
 std::string INI_Read::ReadFile(std::string_view section, std::string_view key, std::string_view file) const {
-  const HostPath found = drive_.Find(PicturePath(file));
+  const FoundPath found = drive_.Find(PicturePath(file));
   return found ? ProfileString(found.path, section, key) : std::string();
 }
 

@@ -9,11 +9,11 @@ namespace {
 
 constexpr int kCriticalBox = 16;
 
-StartRequest::Status StatusOf(HostPath::Outcome outcome) {
+StartRequest::Status StatusOf(FoundPath::Outcome outcome) {
   switch (outcome) {
-    case HostPath::Outcome::Found: return StartRequest::Status::Found;
-    case HostPath::Outcome::FileMissing: return StartRequest::Status::FileMissing;
-    case HostPath::Outcome::FolderMissing: break;
+    case FoundPath::Outcome::Found: return StartRequest::Status::Found;
+    case FoundPath::Outcome::FileMissing: return StartRequest::Status::FileMissing;
+    case FoundPath::Outcome::FolderMissing: break;
   }
   return StartRequest::Status::FolderMissing;
 }
@@ -24,7 +24,7 @@ void modExec::ExecItem(const std::string& entry) {
   const std::string file = shell_.ini.IniRead(entry, "Execute", kMenuFile);
   const std::string parameters = shell_.ini.IniRead(entry, "Parameters", kMenuFile);
   shell_.MainForm->MousePointer = Form::kHourglassPointer;
-  const HostPath found = shell_.ini.Drive().Find(file);
+  const FoundPath found = shell_.ini.Drive().Find(file);
   const int result = shell_.host.StartFile({StatusOf(found.outcome), file, found.path, parameters});
   if (result > 32) WaitForProgram();
   shell_.MainForm->MousePointer = Form::kDefaultPointer;

@@ -1,6 +1,7 @@
 // What a disc's paths, settings and values are read as.
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cmath>
 #include <limits>
@@ -10,6 +11,7 @@
 #include "config/Settings.h"
 #include "config/Values.h"
 #include "config/Windows1250.h"
+#include "disctool/disc/DiscTree.h"
 #include "support/TemporaryFolder.h"
 
 namespace orvanta::test {
@@ -44,12 +46,26 @@ TEST(DiscDrive, FindsNamesWithoutRegardToCaseAndNeverLeavesItsRoot) {
   fs::create_directory_symlink("Data", root / "Linked");
   fs::create_directory_symlink("Round", root / "Round");
   const DiscDrive drive(root);
+  const FolderTree tree(root);
   fs::current_path(root / "Data");
   for (const auto& [path, expected] : kPaths) {
-    const HostPath found = drive.Find(path);
-    const char* const missing = found.outcome == HostPath::Outcome::FileMissing ? "(file)" : "(folder)";
+    const FoundPath found = drive.Find(path);
+    const char* const missing = found.outcome == FoundPath::Outcome::FileMissing ? "(file)" : "(folder)";
     EXPECT_EQ(found ? found.path.lexically_relative(root).string() : missing, expected) << path;
+    const FoundPath byTool = tree.Find(path);
+    // What depends on the current folder is nothing that the tool could know of a disc.
+    if (path == std::string() || std::string_view("Dd\\").find(*path) == std::string_view::npos) continue;
+    EXPECT_EQ(byTool.outcome, found.outcome) << path;
+    EXPECT_EQ(byTool ? tree.Place(byTool.path) : fs::path(), found.path) << path;
   }
+  // Who may not search a folder is told so when he opens what lies there: to shell and check it is there.
+  fs::permissions(folder.Path(), fs::perms::all);
+  fs::permissions(root / "Data", fs::perms::none);
+  const bool poor = getuid() != 0 || seteuid(65534) == 0;
+  const auto found = drive.Find("D:\\Data\\x").outcome, byTool = tree.Find("D:\\Data\\x").outcome;
+  EXPECT_EQ(seteuid(getuid()), 0);
+  EXPECT_EQ(found, poor ? FoundPath::Outcome::Found : FoundPath::Outcome::FileMissing);
+  EXPECT_EQ(byTool, found);
   fs::current_path(fs::temp_directory_path());
   EXPECT_FALSE(drive.Find(std::string_view("D:\\Data\\Menu.ini\0x", 18)));
   EXPECT_FALSE(drive.Find("D:\\" + std::string(1 << 20, '\\') + "Data")) << "an absurd path takes no time";

@@ -16,8 +16,8 @@ std::optional<Size> CheckJob::PictureOf(std::string_view section, std::string_vi
                                         std::string_view ending) {
   const Setting value = catalogue.Find(section, key);
   if (!value) return std::nullopt;
-  const HostPath& host = files.Find(PicturePath(value.value + std::string(ending))).host;
-  return host ? files.PictureSize(host.path) : std::nullopt;
+  const FoundPath& found = files.Find(PicturePath(value.value + std::string(ending)));
+  return found ? files.PictureSize(found.path.native()) : std::nullopt;
 }
 
 std::string_view FixedSection(std::string_view name) {
@@ -37,15 +37,16 @@ std::string PicturePath(std::string_view value) {
   return std::string(Catalogue::kDiscRoot) + "Data\\" + std::string(value);
 }
 
-Findings CheckDisc(const std::filesystem::path& folder, DiscProbe& probe) {
+Findings CheckDisc(const DiscTree& disc, DiscProbe& probe) {
   Findings findings;
-  const Catalogue catalogue(folder);
+  const Catalogue catalogue(disc);
   if (catalogue.Empty()) {
-    findings.Error({folder, 0}, "no-disc", "there is no disc here: neither Data/Menu.ini nor Data/Param.ini");
+    findings.Error({disc.Name(), 0}, "no-disc",
+                   "there is no disc here: neither Data/Menu.ini nor Data/Param.ini");
     return findings;
   }
   const MenuTree tree = ReadMenuTree(catalogue);
-  DiscFiles files(folder, probe);
+  DiscFiles files(disc, probe);
   CheckJob job{catalogue, tree, files, findings};
   for (auto* part : {CheckLines, CheckSettings, CheckTree, CheckUnread, CheckFiles, CheckLayout}) part(job);
   findings.Sort();

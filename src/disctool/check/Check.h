@@ -1,15 +1,13 @@
 #pragma once
 
-#include <filesystem>
-
 #include "disctool/check/Findings.h"
 
 namespace orvanta {
 
 class DiscProbe;
+class DiscTree;
 
-/// Everything that is wrong with the disc in a folder, sorted. Never fails: a folder without a disc is a
-/// finding too.
-Findings CheckDisc(const std::filesystem::path& folder, DiscProbe& probe);
+/// Everything that is wrong with a disc, sorted. Never fails: a folder without a disc is a finding too.
+Findings CheckDisc(const DiscTree& disc, DiscProbe& probe);
 
 }  // namespace orvanta

@@ -10,8 +10,6 @@
 namespace orvanta {
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr char kDrive = Catalogue::kDiscRoot.front();
 
 /// A file that some key names: where it is named, how, and the Windows path to it.
@@ -21,34 +19,34 @@ struct NamedFile {
   std::string path;
 };
 
-/// The file on the host; empty, and reported, if it is not there.
-fs::path Locate(CheckJob& job, const NamedFile& file) {
-  const DiscFiles::Found& found = job.files.Find(file.path);
-  if (!found.host) {
+/// The file on the disc; empty, and reported, if it is not there.
+std::string Locate(CheckJob& job, const NamedFile& file) {
+  const FoundPath& found = job.files.Find(file.path);
+  if (!found) {
     job.findings.Error(file.place, "no-file", file.naming + " names a file that is not there: " + file.path);
     return {};
   }
   if (found.otherCase)
     job.findings.Warning(file.place, "other-case",
                          file.naming + " is found only by ignoring small and capital letters: " + file.path +
-                             " is called " + found.host.path.filename().string());
-  return found.host.path;
+                             " is called " + found.path.filename().string());
+  return found.path.native();
 }
 
 void Picture(CheckJob& job, const NamedFile& file) {
-  const fs::path path = Locate(job, file);
+  const std::string path = Locate(job, file);
   if (!path.empty() && !job.files.PictureSize(path))
     job.findings.Error(file.place, "no-picture", file.naming + " cannot be read as a picture: " + file.path);
 }
 
 void Font(CheckJob& job, const NamedFile& file) {
-  const fs::path path = Locate(job, file);
+  const std::string path = Locate(job, file);
   if (!path.empty() && !job.files.IsFont(path))
     job.findings.Error(file.place, "no-font", file.naming + " cannot be read as a font: " + file.path);
 }
 
 void Media(CheckJob& job, const NamedFile& file, bool film) {
-  const fs::path path = Locate(job, file);
+  const std::string path = Locate(job, file);
   if (!path.empty() && !job.files.CanPlay(path, film))
     job.findings.Error(
         file.place, "not-playable",

@@ -2,14 +2,13 @@
 
 #include <ostream>
 
-#include "config/Settings.h"
 #include "disctool/OutputText.h"
 #include "disctool/check/Check.h"
 #include "disctool/disc/MenuTree.h"
 
 namespace orvanta {
 
-ExitStatus CheckCommand(const std::filesystem::path& disc, DiscProbe& probe, const CheckOptions& options,
+ExitStatus CheckCommand(const DiscTree& disc, DiscProbe& probe, const CheckOptions& options,
                         std::ostream& out) {
   const Findings findings = CheckDisc(disc, probe);
   out << (options.json ? FindingsJson(findings) : FindingsText(findings));
@@ -17,10 +16,10 @@ ExitStatus CheckCommand(const std::filesystem::path& disc, DiscProbe& probe, con
   return faults == 0 ? kGood : kFaults;
 }
 
-ExitStatus TreeCommand(const std::filesystem::path& disc, bool json, std::ostream& out, std::ostream& err) {
+ExitStatus TreeCommand(const DiscTree& disc, bool json, std::ostream& out, std::ostream& err) {
   const Catalogue catalogue(disc);
   if (catalogue.Empty()) {
-    err << "orvanta-disc: " << Printable(NoDiscIn(disc)) << '\n';
+    err << "orvanta-disc: " << Printable(NoDiscIn(disc.Name())) << '\n';
     return kFaults;
   }
   const MenuTree tree = ReadMenuTree(catalogue);
@@ -28,10 +27,9 @@ ExitStatus TreeCommand(const std::filesystem::path& disc, bool json, std::ostrea
   return kGood;
 }
 
-ExitStatus GetCommand(const std::filesystem::path& disc, std::string_view section, std::string_view key,
+ExitStatus GetCommand(const DiscTree& disc, std::string_view section, std::string_view key,
                       std::ostream& out) {
-  const INI_Read ini{std::string(Catalogue::kDiscRoot), DiscDrive(disc)};
-  const std::string value = ini.IniRead(section, key, kMenuFile);
+  const std::string value = Catalogue(disc).Find(section, key).value;
   if (value.empty()) return kFaults;
   out << value << '\n';
   return kGood;

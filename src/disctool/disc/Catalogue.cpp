@@ -1,9 +1,6 @@
 #include "disctool/disc/Catalogue.h"
 
-#include <fstream>
 #include <optional>
-#include <sstream>
-#include <system_error>
 
 #include "config/Windows1250.h"
 #include "disctool/Translation.h"
@@ -11,35 +8,28 @@
 namespace orvanta {
 namespace {
 
-namespace fs = std::filesystem;
+constexpr std::array<const char*, 2> kNames = {"Menu.ini", "Param.ini"};
 
-constexpr std::array<std::string_view, 2> kNames = {"Menu.ini", "Param.ini"};
-
-Catalogue::File ReadFile(const DiscDrive& drive, const fs::path& folder, std::string_view name) {
+Catalogue::File ReadFile(const DiscTree& disc, const std::string& name) {
   Catalogue::File file;
-  file.path = folder / "Data" / name;
-  const HostPath found = drive.Find(std::string(Catalogue::kDiscRoot) + "Data\\" + std::string(name));
-  std::error_code error;
-  // A FIFO or a device of this name would be waited for.
-  if (!found || !fs::is_regular_file(found.path, error)) return file;
-  file.path = found.path;
+  file.path = disc.Place("Data/" + name);
+  const FoundPath found = disc.Find(std::string(Catalogue::kDiscRoot) + "Data\\" + name);
+  const DiscTree::Entry entry = disc.Look(found.path.native());
+  if (!found || entry.kind != DiscTree::Kind::File) return file;
+  file.path = disc.Place(found.path.native());
   file.found = true;
-  file.tooLarge = fs::file_size(found.path, error) > Catalogue::kLargestFile;
+  file.tooLarge = entry.size > Catalogue::kLargestFile;
   if (file.tooLarge) return file;
-  std::ifstream in(found.path, std::ios::binary);
-  std::ostringstream bytes;
-  // An empty file gives no byte, which a stream takes for a failure.
-  if (in.peek() != std::ifstream::traits_type::eof()) bytes << in.rdbuf();
-  file.unreadable = !in.is_open() || in.bad() || bytes.fail();
-  file.ini = ParseIniFile(bytes.str());
+  const auto bytes = disc.Read(found.path.native());
+  file.unreadable = !bytes;
+  if (bytes) file.ini = ParseIniFile(*bytes);
   return file;
 }
 
 }  // namespace
 
-Catalogue::Catalogue(const fs::path& discFolder) {
-  const DiscDrive drive(discFolder);
-  for (std::size_t i = 0; i < files_.size(); ++i) files_[i] = ReadFile(drive, discFolder, kNames[i]);
+Catalogue::Catalogue(const DiscTree& disc) {
+  for (std::size_t i = 0; i < files_.size(); ++i) files_[i] = ReadFile(disc, kNames[i]);
 }
 
 Setting Catalogue::Find(std::string_view section, std::string_view key) const {
@@ -70,8 +60,8 @@ bool Catalogue::HasSection(std::string_view section) const {
   return bytes && (files_[0].ini.Find(*bytes) || files_[1].ini.Find(*bytes));
 }
 
-std::string NoDiscIn(const fs::path& folder) {
-  return folder.string() + ": " +
+std::string NoDiscIn(const std::filesystem::path& disc) {
+  return disc.string() + ": " +
          Translated("there is no disc here: neither %1 nor %2", "Data/Menu.ini", "Data/Param.ini");
 }
 

@@ -6,12 +6,12 @@
 #include <string>
 #include <string_view>
 
-#include "config/DiscDrive.h"
+#include "disctool/disc/DiscTree.h"
 #include "disctool/disc/IniFile.h"
 
 namespace orvanta {
 
-/// A line of a file of the disc. Line 0 stands for the whole file.
+/// A line of a file of the disc, which is named as by `DiscTree::Place`. Line 0 stands for the whole file.
 struct DiscPlace {
   std::filesystem::path file;
   int line = 0;
@@ -41,7 +41,7 @@ class Catalogue {
     IniFile ini;
   };
 
-  explicit Catalogue(const std::filesystem::path& discFolder);
+  explicit Catalogue(const DiscTree& disc);
 
   /// `section` and `key` are UTF-8.
   Setting Find(std::string_view section, std::string_view key) const;
@@ -58,7 +58,7 @@ class Catalogue {
   std::array<File, 2> files_;
 };
 
-/// Says that a folder holds no disc: "FOLDER: there is no disc here: ..."
-std::string NoDiscIn(const std::filesystem::path& folder);
+/// Says that there is no disc in a place: "PLACE: there is no disc here: ..."
+std::string NoDiscIn(const std::filesystem::path& disc);
 
 }  // namespace orvanta

@@ -1,44 +1,35 @@
 #pragma once
 
-#include <filesystem>
-#include <map>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <unordered_map>
 
-#include "config/DiscDrive.h"
 #include "disctool/disc/DiscProbe.h"
+#include "disctool/disc/DiscTree.h"
 
 namespace orvanta {
 
-/// The files of a disc: finds what `DiscDrive` finds, but reads each folder once, and tries each file once.
+/// The files that a disc's settings name: each path is looked up once, and each file tried once.
 class DiscFiles {
  public:
-  /// `probe` must outlive it.
-  DiscFiles(std::filesystem::path discFolder, DiscProbe& probe);
+  /// Both must outlive it.
+  DiscFiles(const DiscTree& disc, DiscProbe& probe) : disc_(disc), probe_(probe) {}
 
-  struct Found {
-    HostPath host;
-    bool otherCase = false;  ///< found only by ignoring small and capital letters
-  };
-  /// `path` is a Windows path with the disc's drive letter.
-  const Found& Find(const std::string& path);
+  /// As `DiscTree::Find`.
+  const FoundPath& Find(const std::string& windowsPath);
 
-  /// As those of the probe; a file that is not regular is none of anything.
-  std::optional<Size> PictureSize(const std::filesystem::path& file);
-  bool IsFont(const std::filesystem::path& file);
-  bool CanPlay(const std::filesystem::path& file, bool film);
+  /// As those of the probe, for paths of the disc; what is not a file is none of anything.
+  std::optional<Size> PictureSize(const std::string& path);
+  bool IsFont(const std::string& path);
+  bool CanPlay(const std::string& path, bool film);
 
  private:
-  Found Search(const std::string& path);
-  const std::map<std::string, std::string>& FolderOf(const std::filesystem::path& folder);
+  template <class Value, class Try>
+  Value Once(std::unordered_map<std::string, Value>& known, const std::string& path, Try attempt);
 
-  std::filesystem::path root_;
+  const DiscTree& disc_;
   DiscProbe& probe_;
-  std::unordered_map<std::string, Found> found_;
-  /// Folded name to the first name in byte order, for each folder.
-  std::unordered_map<std::string, std::map<std::string, std::string>> folders_;
+  std::unordered_map<std::string, FoundPath> found_;
   std::unordered_map<std::string, std::optional<Size>> pictures_;
   std::unordered_map<std::string, bool> fonts_, sounds_, films_;
 };

@@ -69,7 +69,7 @@ class Reader {
   void Header(std::string_view text) {
     if (text.find(']') == text.npos) Remark(Kind::NoBracket);
     const std::string name(Trimmed(text.substr(0, text.find(']'))));
-    file_.byName.try_emplace(Folded(name), file_.sections.size());
+    file_.byName.try_emplace(Folded1250(name), file_.sections.size());
     file_.sections.push_back({number_, name, {}, {}});
   }
 
@@ -82,7 +82,7 @@ class Reader {
     const std::string_view rest = text.substr(equals + 1);
     const std::string_view value = Unquoted(Trimmed(rest.substr(0, rest.find('\0'))));
     IniSection& section = file_.sections.back();
-    section.byName.try_emplace(Folded(key), section.entries.size());
+    section.byName.try_emplace(Folded1250(key), section.entries.size());
     section.entries.push_back(
         {number_, std::string(key), std::string(value.substr(0, kLongestValue)), value.size()});
   }
@@ -93,19 +93,13 @@ class Reader {
 
 }  // namespace
 
-std::string Folded(std::string_view bytes) {
-  std::string folded(bytes);
-  std::transform(folded.begin(), folded.end(), folded.begin(), Fold1250);
-  return folded;
-}
-
 const IniEntry* IniSection::Find(std::string_view key) const {
-  const auto found = byName.find(Folded(key));
+  const auto found = byName.find(Folded1250(key));
   return found == byName.end() ? nullptr : &entries[found->second];
 }
 
 const IniSection* IniFile::Find(std::string_view name) const {
-  const auto found = byName.find(Folded(name));
+  const auto found = byName.find(Folded1250(name));
   return found == byName.end() ? nullptr : &sections[found->second];
 }
 

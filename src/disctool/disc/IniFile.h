@@ -56,7 +56,4 @@ struct IniFile {
 /// `text` are the bytes of the file.
 IniFile ParseIniFile(std::string_view text);
 
-/// Small letters for capitals, so that names that match for the lookup are equal.
-std::string Folded(std::string_view bytes);
-
 }  // namespace orvanta

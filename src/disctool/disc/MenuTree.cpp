@@ -13,11 +13,6 @@ constexpr std::string_view kRoot = "MAINMENU";
 /// Deeper lines are not indented further, so that no disc makes the output grow with the square of its depth.
 constexpr std::size_t kDeepestIndent = 40;
 
-std::string Identity(std::string_view name) {
-  const auto bytes = ToWindows1250(name);
-  return Folded(bytes ? *bytes : std::string(name));
-}
-
 NodeKind KindOf(const Catalogue& catalogue, const MenuNode& node) {
   if (!node.items.empty()) return NodeKind::Menu;
   if (catalogue.Find(node.name, "Execute")) return NodeKind::Program;
@@ -38,7 +33,7 @@ class Builder {
 
  private:
   std::size_t Add(const std::string& name) {
-    const auto [at, isNew] = tree_.byName.try_emplace(Identity(name), tree_.nodes.size());
+    const auto [at, isNew] = tree_.byName.try_emplace(FoldedName(name), tree_.nodes.size());
     if (isNew) tree_.nodes.push_back({name, NodeKind::Inert, {}, 0});
     return at->second;
   }
@@ -75,7 +70,7 @@ std::string_view NameOf(NodeKind kind) {
 }
 
 const MenuNode* MenuTree::Find(std::string_view section) const {
-  const auto found = byName.find(Identity(section));
+  const auto found = byName.find(FoldedName(section));
   return found == byName.end() ? nullptr : &nodes[found->second];
 }
 

@@ -35,7 +35,7 @@ struct MenuTree {
   const MenuNode* Find(std::string_view section) const;
   bool Has(NodeKind kind) const;
 
-  std::unordered_map<std::string, std::size_t> byName;  ///< folded name, in Windows-1250, to the node
+  std::unordered_map<std::string, std::size_t> byName;  ///< `FoldedName` to the node
 };
 
 MenuTree ReadMenuTree(const Catalogue& catalogue);

@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 /// What is in the way of a gallery; empty if nothing is.
 std::string Obstacle(const fs::path& disc, const fs::path& folder) {
-  if (Catalogue(disc).Empty()) return NoDiscIn(disc);
+  if (Catalogue(FolderTree(disc)).Empty()) return NoDiscIn(disc);
   std::error_code error;
   fs::create_directories(folder, error);
   if (error) return folder.string() + ": " + error.message();
@@ -31,7 +31,7 @@ std::string MakeGallery(const fs::path& disc, const fs::path& folder, const Prog
   GalleryWalk walk(disc, folder, progress);
   walk.Go();
   if (!walk.fault.empty()) return walk.fault;
-  const Setting caption = Catalogue(disc).Find("HEADLINE", "Caption");
+  const Setting caption = Catalogue(FolderTree(disc)).Find("HEADLINE", "Caption");
   std::ofstream page(folder / "index.html", std::ios::binary);
   page << GalleryPage(caption ? caption.value : disc.filename().string(), walk.entries, walk.root);
   page.close();

@@ -10,7 +10,7 @@ GalleryWalk::GalleryWalk(const std::filesystem::path& disc, std::filesystem::pat
       shell_(host_),
       folder_(std::move(folder)),
       progress_(progress),
-      catalogue_(disc),
+      catalogue_(FolderTree(disc)),
       tree_(ReadMenuTree(catalogue_)),
       visited_(tree_.nodes.size()) {
   // A disc of thousands of entries takes hours of the virtual clock.

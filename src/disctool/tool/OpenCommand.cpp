@@ -77,7 +77,7 @@ std::string Open(const std::filesystem::path& named, int& argc, char** argv) {
 }  // namespace
 
 std::string RunShell(const std::filesystem::path& disc, int& argc, char** argv) {
-  if (Catalogue(disc).Empty()) return NoDiscIn(disc);
+  if (Catalogue(FolderTree(disc)).Empty()) return NoDiscIn(disc);
   if (!HasDisplay()) return Translated("there is no display to open a window on");
   DesktopHost host(argc, argv, disc);
   if (host.PrevInstance()) return Translated("the shell is running already on this display");

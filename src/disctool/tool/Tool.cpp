@@ -83,13 +83,13 @@ int Check(const Request& request, int& argc, char** argv) {
   return WithDisc(request, [&](const fs::path& folder) -> int {
     const QGuiApplication application(PreparedForNoDisplay(argc), argv);
     DesktopProbe probe;
-    return CheckCommand(folder, probe, {request.Has("json"), request.Has("strict")}, std::cout);
+    return CheckCommand(FolderTree(folder), probe, {request.Has("json"), request.Has("strict")}, std::cout);
   });
 }
 
 int Tree(const Request& request, int&, char**) {
   return WithDisc(request, [&](const fs::path& folder) -> int {
-    return TreeCommand(folder, request.Has("json"), std::cout, std::cerr);
+    return TreeCommand(FolderTree(folder), request.Has("json"), std::cout, std::cerr);
   });
 }
 
@@ -104,8 +104,8 @@ int Gallery(const Request& request, int& argc, char** argv) {
 
 int Get(const Request& request, int&, char**) {
   return WithDisc(request, [&](const fs::path& folder) -> int {
-    if (Catalogue(folder).Empty()) return Outcome(NoDiscIn(folder));
-    return GetCommand(folder, request.words[1], request.words[2], std::cout);
+    if (Catalogue(FolderTree(folder)).Empty()) return Outcome(NoDiscIn(folder));
+    return GetCommand(FolderTree(folder), request.words[1], request.words[2], std::cout);
   });
 }
 

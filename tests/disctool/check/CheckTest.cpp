@@ -129,7 +129,7 @@ TEST(Check, WhatLacksAWholeSectionFileOrDiscIsToldOnce) {
   two.File("Data/Param.ini", "[GLOBAL]\r\nBackX=500\r\nBackY=100\r\n");
   EXPECT_TRUE(FindingsText(two.Check()).starts_with((two.Data() / "Param.ini").string() + ":3: "));
   FirstBytesProbe probe;
-  EXPECT_EQ(CheckDisc(disc.Data() / "Sound", probe).Errors(), 1U);
+  EXPECT_EQ(CheckDisc(FolderTree(disc.Data() / "Sound"), probe).Errors(), 1U);
 }
 
 }  // namespace

@@ -44,7 +44,7 @@ struct GoodDisc : TestDisc {
 
   Findings Check() const {
     FirstBytesProbe probe;
-    return CheckDisc(Folder(), probe);
+    return CheckDisc(FolderTree(Folder()), probe);
   }
   std::string MenuIni() const { return TextOf(Data() / "Menu.ini"); }
 };

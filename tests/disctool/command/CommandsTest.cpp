@@ -35,7 +35,7 @@ TEST(Catalogue, FindsWhatTheShellFindsInWildTexts) {
 
 std::string Tree(const TestDisc& disc, bool json = false) {
   std::ostringstream out, err;
-  EXPECT_EQ(TreeCommand(disc.Folder(), json, out, err), kGood) << err.str();
+  EXPECT_EQ(TreeCommand(FolderTree(disc.Folder()), json, out, err), kGood) << err.str();
   return out.str();
 }
 
@@ -54,11 +54,11 @@ TEST(Commands, ListTheTreeFindValuesAndTellFaults) {
   {"id": 0, "name": "MAINMENU", "kind": "menu", "items": [1, 2, 3]},
 )"));
   std::ostringstream out, err;
-  EXPECT_EQ(TreeCommand(disc.Data(), false, out, err), kFaults);
+  EXPECT_EQ(TreeCommand(FolderTree(disc.Data()), false, out, err), kFaults);
   EXPECT_NE(err.str().find("no disc"), std::string::npos);
-  EXPECT_EQ(GetCommand(disc.Folder(), "headline", "CAPTION", out), kGood);
-  EXPECT_EQ(GetCommand(disc.Folder(), "Gra", "Execute", out), kGood);
-  EXPECT_EQ(GetCommand(disc.Folder(), "Gra", "Parameters", out), kFaults);
+  EXPECT_EQ(GetCommand(FolderTree(disc.Folder()), "headline", "CAPTION", out), kGood);
+  EXPECT_EQ(GetCommand(FolderTree(disc.Folder()), "Gra", "Execute", out), kGood);
+  EXPECT_EQ(GetCommand(FolderTree(disc.Folder()), "Gra", "Parameters", out), kFaults);
   EXPECT_EQ(out.str(), "Płyta próbna\nD:\\setup.exe\n");
 }
 
@@ -67,10 +67,10 @@ TEST(Commands, TakeWarningsForFaultsOnlyIfAskedTo) {
   FirstBytesProbe probe;
   std::ostringstream out, json;
   disc.Set("GLOBAL", "S2_Top", "1.5");
-  EXPECT_EQ(CheckCommand(disc.Folder(), probe, {}, out), kGood);
-  EXPECT_EQ(CheckCommand(disc.Folder(), probe, {.strict = true}, out), kFaults);
+  EXPECT_EQ(CheckCommand(FolderTree(disc.Folder()), probe, {}, out), kGood);
+  EXPECT_EQ(CheckCommand(FolderTree(disc.Folder()), probe, {.strict = true}, out), kFaults);
   disc.Remove("GLOBAL", "S2_Top");
-  EXPECT_EQ(CheckCommand(disc.Folder(), probe, {.json = true}, json), kFaults);
+  EXPECT_EQ(CheckCommand(FolderTree(disc.Folder()), probe, {.json = true}, json), kFaults);
   EXPECT_TRUE(json.str().starts_with(R"({"errors": 1, "warnings": 0, "findings": [)")) << json.str();
   EXPECT_NE(json.str().find(R"("severity": "error", "id": "missing-key", "text": "S2_Top of)"),
             std::string::npos);
@@ -86,7 +86,7 @@ TEST(Commands, TakeAHugeAndHostileDiscInStride) {
     text << "[n" << i << "]\nMenu1=n" << i + 1 << "\nMenu2=n" << i + 1 << "\nMenu3=n" << i / 2 << "\n";
   disc.File("Data/Menu.ini", text.str());
   const std::clock_t begin = std::clock();
-  EXPECT_EQ(CheckCommand(disc.Folder(), probe, {}, out), kFaults);
+  EXPECT_EQ(CheckCommand(FolderTree(disc.Folder()), probe, {}, out), kFaults);
   EXPECT_GT(Tree(disc).size(), 1000U);
   // The bound is two seconds; the sanitizers take several times as long.
   EXPECT_LT(static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC, 10);

@@ -1,0 +1,78 @@
+#include "disctool/disc/DiscTree.h"
+
+#include <algorithm>
+#include <fstream>
+#include <system_error>
+
+#include "config/DiscDrive.h"
+
+namespace orvanta {
+namespace {
+
+namespace fs = std::filesystem;
+
+}  // namespace
+
+FoundPath DiscTree::Find(std::string_view windowsPath) const {
+  const bool hasDrive = windowsPath.size() >= 2 && windowsPath[1] == ':';
+  const bool rooted = windowsPath.starts_with('\\') || windowsPath.starts_with('/');
+  return hasDrive || rooted ? DiscDrive(fs::path()).Find(windowsPath, *this) : FoundPath();
+}
+
+bool DiscTree::Exists(const fs::path& path) const { return Look(path.native()).kind != Kind::Missing; }
+
+bool DiscTree::IsFolder(const fs::path& path) const { return Look(path.native()).kind == Kind::Folder; }
+
+std::string DiscTree::EntryNoCase(const fs::path& folder, const std::string& name) const {
+  const auto [at, isNew] = folders_.try_emplace(folder.native());
+  if (isNew)
+    for (const std::string& entry : List(folder.native())) at->second.Add(entry);
+  return at->second.Find(name);
+}
+
+DiscTree::Entry FolderTree::Look(const std::string& path) const {
+  std::error_code error;
+  const fs::path place = Place(path);
+  switch (fs::status(place, error).type()) {
+    case fs::file_type::regular: {
+      const std::uintmax_t size = fs::file_size(place, error);
+      return {Kind::File, error ? 0 : size};
+    }
+    case fs::file_type::directory: return {Kind::Folder};
+    case fs::file_type::none:
+    case fs::file_type::not_found: return {};
+    default: return {Kind::Other};
+  }
+}
+
+std::vector<std::string> FolderTree::List(const std::string& folder) const {
+  std::vector<std::string> names;
+  std::error_code error;
+  for (fs::directory_iterator entry(Place(folder), error), end; !error && entry != end;
+       entry.increment(error))
+    names.push_back(entry->path().filename().string());
+  return names;
+}
+
+std::optional<std::string> FolderTree::Read(const std::string& path, std::uintmax_t from,
+                                            std::uintmax_t most) const {
+  // A FIFO or a device would be waited for.
+  if (Look(path).kind != Kind::File) return std::nullopt;
+  std::ifstream in(Place(path), std::ios::binary);
+  if (!in || !in.seekg(static_cast<std::streamoff>(from))) return std::nullopt;
+  std::string bytes;
+  // Not by the size that the file claims: those of the system claim none.
+  constexpr std::uintmax_t kPart = 256 * 1024;
+  while (in && bytes.size() < most) {
+    const std::size_t before = bytes.size();
+    bytes.resize(before + static_cast<std::size_t>(std::min(kPart, most - before)));
+    in.read(&bytes[before], static_cast<std::streamsize>(bytes.size() - before));
+    bytes.resize(before + static_cast<std::size_t>(in.gcount()));
+  }
+  if (in.bad()) return std::nullopt;
+  return bytes;
+}
+
+bool FolderTree::Exists(const fs::path& path) const { return HostLookup().Exists(Place(path.native())); }
+
+}  // namespace orvanta
