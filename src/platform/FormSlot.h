@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <tuple>
 #include <utility>
 
 #include "platform/Form.h"
@@ -8,11 +9,12 @@
 
 namespace orvanta {
 
-/// A form by its name: loaded at its first use, and afresh at the first use after it was unloaded.
-template <class FormType, class Owner>
+/// A form by its name: loaded at its first use, and afresh at the first use after it was unloaded. It is made
+/// from its owner and, where several forms are of one class, from what tells them apart.
+template <class FormType, class Owner, class... Design>
 class FormSlot {
  public:
-  explicit FormSlot(Owner& owner) : owner_(owner) {}
+  explicit FormSlot(Owner& owner, Design... design) : owner_(owner), design_(std::move(design)...) {}
   FormSlot(const FormSlot&) = delete;
   FormSlot& operator=(const FormSlot&) = delete;
 
@@ -29,7 +31,8 @@ class FormSlot {
  private:
   FormType& Load() {
     if (!form_) {
-      form_ = std::make_unique<FormType>(owner_);
+      form_ = std::apply(
+          [this](const Design&... design) { return std::make_unique<FormType>(owner_, design...); }, design_);
       form_->Released = [this] { form_->TheHost().Loop().Bury(std::move(form_)); };
       form_->Form_Load();
     }
@@ -37,6 +40,7 @@ class FormSlot {
   }
 
   Owner& owner_;
+  const std::tuple<Design...> design_;
   std::unique_ptr<FormType> form_;
 };
 

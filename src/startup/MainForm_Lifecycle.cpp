@@ -27,11 +27,7 @@ void MainForm::PinWindow() {
 }
 
 void MainForm::ShowStrips(bool visible) {
-  shell_.frmDociagLewo->Visible = visible;
-  shell_.frmDociagGora->Visible = visible;
-  shell_.frmDociagPrawo1->Visible = visible;
-  shell_.frmDociagPrawo2->Visible = visible;
-  shell_.frmDociagPrawo3->Visible = visible;
+  for (Shell::StripSlot* strip : shell_.Strips()) (*strip)->Visible = visible;
 }
 
 void MainForm::Form_Unload() {
@@ -45,11 +41,7 @@ void MainForm::Form_Unload() {
   FontResource(shell_, shell_.settings.Font({"HEADLINE", "FontFile"}), false);
   FontResource(shell_, shell_.settings.Font({"MENUITEM", "FontFile"}), false);
   if (!shell_.modMain.SmallScreen) {
-    shell_.frmDociagLewo.Unload();
-    shell_.frmDociagGora.Unload();
-    shell_.frmDociagPrawo1.Unload();
-    shell_.frmDociagPrawo2.Unload();
-    shell_.frmDociagPrawo3.Unload();
+    for (Shell::StripSlot* strip : shell_.Strips()) strip->Unload();
   }
   throw ProgramEnd{};
 }

@@ -63,11 +63,7 @@ void MainForm::Form_Load() {
   Timer1.Enabled = true;
   Visible = true;
   if (!shell_.modMain.SmallScreen) {
-    shell_.frmDociagLewo->Show();
-    shell_.frmDociagGora->Show();
-    shell_.frmDociagPrawo1->Show();
-    shell_.frmDociagPrawo2->Show();
-    shell_.frmDociagPrawo3->Show();
+    for (Shell::StripSlot* strip : shell_.Strips()) (*strip)->Show();
     ShowStrips(true);
   }
   MousePointer = kDefaultPointer;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <string>
 
@@ -34,6 +35,8 @@ class Shell {
   /// Null if the path leads to no picture.
   PicturePtr LoadPicture(const std::string& path) { return host.LoadPicture(HostFile(path)); }
 
+  using StripSlot = FormSlot<frmDociag, Shell, EdgeStrip>;
+
   Host& host;
   const INI_Read ini;
   const Settings settings{ini};
@@ -46,13 +49,18 @@ class Shell {
 
   FormSlot<orvanta::frmReklama, Shell> frmReklama{*this};
   FormSlot<orvanta::MainForm, Shell> MainForm{*this};
-  FormSlot<orvanta::frmDociagLewo, Shell> frmDociagLewo{*this};
-  FormSlot<orvanta::frmDociagGora, Shell> frmDociagGora{*this};
-  FormSlot<orvanta::frmDociagPrawo1, Shell> frmDociagPrawo1{*this};
-  FormSlot<orvanta::frmDociagPrawo2, Shell> frmDociagPrawo2{*this};
-  FormSlot<orvanta::frmDociagPrawo3, Shell> frmDociagPrawo3{*this};
+  StripSlot frmDociagLewo{*this, kDociagLewo};
+  StripSlot frmDociagGora{*this, kDociagGora};
+  StripSlot frmDociagPrawo1{*this, kDociagPrawo1};
+  StripSlot frmDociagPrawo2{*this, kDociagPrawo2};
+  StripSlot frmDociagPrawo3{*this, kDociagPrawo3};
   FormSlot<orvanta::frmShowPic, Shell> frmShowPic{*this};
   FormSlot<orvanta::frmKino, Shell> frmKino{*this};
+
+  /// The five strips, in the order in which they are shown and lifted.
+  std::array<StripSlot*, 5> Strips() {
+    return {&frmDociagLewo, &frmDociagGora, &frmDociagPrawo1, &frmDociagPrawo2, &frmDociagPrawo3};
+  }
 };
 
 }  // namespace orvanta

@@ -5,11 +5,7 @@
 namespace orvanta {
 
 void basCommon::DociagToFront() {
-  shell_.frmDociagLewo->Show();
-  shell_.frmDociagGora->Show();
-  shell_.frmDociagPrawo1->Show();
-  shell_.frmDociagPrawo2->Show();
-  shell_.frmDociagPrawo3->Show();
+  for (Shell::StripSlot* strip : shell_.Strips()) (*strip)->Show();
   shell_.MainForm->Show();
 }
 

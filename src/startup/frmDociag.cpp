@@ -4,18 +4,18 @@
 
 namespace orvanta {
 
-frmDociag::frmDociag(Shell& shell, const char* name, KeyRef<Kind::Picture> key)
+frmDociag::frmDociag(Shell& shell, const EdgeStrip& strip)
     : Form(shell.host,
-           {.name = name, .scale = ScaleMode::Twips, .window = WindowKind::Plain, .centred = false}),
+           {.name = strip.name, .scale = ScaleMode::Twips, .window = WindowKind::Plain, .centred = false}),
       Image1(*this, "Image1"),
       shell_(shell),
-      key_(key) {
+      strip_(strip) {
   Image1.Stretch = true;
   Image1.Click = [this] { shell_.basCommon.DociagToFront(); };
 }
 
 void frmDociag::Form_Load() {
-  Image1.Picture = shell_.LoadPicture(shell_.settings.Picture(key_));
+  Image1.Picture = shell_.LoadPicture(shell_.settings.Picture(strip_.picture));
   Image1.Left = 0;
   Image1.Top = 0;
   SizeImage();
@@ -24,48 +24,42 @@ void frmDociag::Form_Load() {
   PlaceForm();
 }
 
-frmDociagLewo::frmDociagLewo(Shell& shell) : frmDociag(shell, "frmDociagLewo", {"GLOBAL", "LeftPic"}) {
-  Image1.Height = 1200;
+/// As long as the gap between the main window and the edge of the screen, as thick as the tab.
+void frmDociag::SizeImage() {
+  const MainForm& main = *shell_.MainForm;
+  switch (strip_.side) {
+    case EdgeStrip::Side::Left:
+      Image1.Height = 1200;
+      Image1.Width = main.Left();
+      break;
+    case EdgeStrip::Side::Top:
+      Image1.Width = 3060;
+      Image1.Height = main.Top();
+      break;
+    case EdgeStrip::Side::Right:
+      Image1.Height = 150;
+      Image1.Width = shell_.host.Screen().Width - (main.Left + main.Width);
+      break;
+  }
 }
 
-void frmDociagLewo::SizeImage() { Image1.Width = shell_.MainForm->Left(); }
-
-void frmDociagLewo::PlaceForm() {
-  Left = 0;
-  Top = shell_.MainForm->Top + 137 * shell_.host.Screen().TwipsPerPixelY;
+void frmDociag::PlaceForm() {
+  const MainForm& main = *shell_.MainForm;
+  const ScreenMetrics screen = shell_.host.Screen();
+  switch (strip_.side) {
+    case EdgeStrip::Side::Left:
+      Left = 0;
+      Top = main.Top + strip_.offset * screen.TwipsPerPixelY;
+      break;
+    case EdgeStrip::Side::Top:
+      Left = main.Left + strip_.offset * screen.TwipsPerPixelX;
+      Top = 0;
+      break;
+    case EdgeStrip::Side::Right:
+      Left = main.Left + main.Width;
+      Top = main.Top + strip_.offset * screen.TwipsPerPixelY;
+      break;
+  }
 }
-
-frmDociagGora::frmDociagGora(Shell& shell) : frmDociag(shell, "frmDociagGora", {"GLOBAL", "UpperPic"}) {
-  Image1.Width = 3060;
-}
-
-void frmDociagGora::SizeImage() { Image1.Height = shell_.MainForm->Top(); }
-
-void frmDociagGora::PlaceForm() {
-  Left = shell_.MainForm->Left + 208 * shell_.host.Screen().TwipsPerPixelX;
-  Top = 0;
-}
-
-frmDociagPrawo::frmDociagPrawo(Shell& shell, const char* name, KeyRef<Kind::Picture> key, int top)
-    : frmDociag(shell, name, key), top_(top) {}
-
-void frmDociagPrawo::SizeImage() {
-  Image1.Height = 150;
-  Image1.Width = shell_.host.Screen().Width - (shell_.MainForm->Left + shell_.MainForm->Width);
-}
-
-void frmDociagPrawo::PlaceForm() {
-  Left = shell_.MainForm->Left + shell_.MainForm->Width;
-  Top = shell_.MainForm->Top + top_ * shell_.host.Screen().TwipsPerPixelY;
-}
-
-frmDociagPrawo1::frmDociagPrawo1(Shell& shell)
-    : frmDociagPrawo(shell, "frmDociagPrawo1", {"GLOBAL", "RightPic3"}, 424) {}
-
-frmDociagPrawo2::frmDociagPrawo2(Shell& shell)
-    : frmDociagPrawo(shell, "frmDociagPrawo2", {"GLOBAL", "RightPic2"}, 369) {}
-
-frmDociagPrawo3::frmDociagPrawo3(Shell& shell)
-    : frmDociagPrawo(shell, "frmDociagPrawo3", {"GLOBAL", "RightPic1"}, 314) {}
 
 }  // namespace orvanta

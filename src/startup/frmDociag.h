@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "config/Schema.h"
 #include "platform/Controls.h"
 #include "platform/Form.h"
@@ -10,68 +8,42 @@ namespace orvanta {
 
 class Shell;
 
+/// One of the five strips: the side of the main window that it runs from, and how many pixels from that
+/// window's upper edge (from its left one for the strip at the top).
+struct EdgeStrip {
+  enum class Side { Left, Top, Right };
+  const char* name;
+  KeyRef<Kind::Picture> picture;
+  Side side;
+  int offset;
+};
+
+// The digits of the keys run downwards, those of the forms upwards.
+inline constexpr EdgeStrip kDociagLewo{"frmDociagLewo", {"GLOBAL", "LeftPic"}, EdgeStrip::Side::Left, 137};
+inline constexpr EdgeStrip kDociagGora{"frmDociagGora", {"GLOBAL", "UpperPic"}, EdgeStrip::Side::Top, 208};
+inline constexpr EdgeStrip kDociagPrawo1{
+    "frmDociagPrawo1", {"GLOBAL", "RightPic3"}, EdgeStrip::Side::Right, 424};
+inline constexpr EdgeStrip kDociagPrawo2{
+    "frmDociagPrawo2", {"GLOBAL", "RightPic2"}, EdgeStrip::Side::Right, 369};
+inline constexpr EdgeStrip kDociagPrawo3{
+    "frmDociagPrawo3", {"GLOBAL", "RightPic1"}, EdgeStrip::Side::Right, 314};
+
 /// A strip from a tab of the main window's outline to the edge of the screen: one stretched picture. It takes
 /// its place from the main window when it is loaded. A click lifts the whole group.
 class frmDociag : public Form {
  public:
-  frmDociag(Shell& shell, const char* name, KeyRef<Kind::Picture> key);
+  frmDociag(Shell& shell, const EdgeStrip& strip);
 
   Image Image1;
 
   void Form_Load() override;
 
- protected:
-  /// Sets the size of `Image1` that depends on the main window.
-  virtual void SizeImage() = 0;
-  /// Sets the form's place.
-  virtual void PlaceForm() = 0;
+ private:
+  void SizeImage();
+  void PlaceForm();
 
   Shell& shell_;
-
- private:
-  const KeyRef<Kind::Picture> key_;
-};
-
-class frmDociagLewo : public frmDociag {
- public:
-  explicit frmDociagLewo(Shell& shell);
-
- protected:
-  void SizeImage() override;
-  void PlaceForm() override;
-};
-
-class frmDociagGora : public frmDociag {
- public:
-  explicit frmDociagGora(Shell& shell);
-
- protected:
-  void SizeImage() override;
-  void PlaceForm() override;
-};
-
-/// One of the three on the right, at `top` pixels below the main window's upper edge.
-class frmDociagPrawo : public frmDociag {
- public:
-  frmDociagPrawo(Shell& shell, const char* name, KeyRef<Kind::Picture> key, int top);
-
- protected:
-  void SizeImage() override;
-  void PlaceForm() override;
-
- private:
-  const int top_;
-};
-
-// The digits of the keys run downwards, those of the forms upwards.
-struct frmDociagPrawo1 : frmDociagPrawo {
-  explicit frmDociagPrawo1(Shell& shell);
-};
-struct frmDociagPrawo2 : frmDociagPrawo {
-  explicit frmDociagPrawo2(Shell& shell);
-};
-struct frmDociagPrawo3 : frmDociagPrawo {
-  explicit frmDociagPrawo3(Shell& shell);
+  const EdgeStrip strip_;
 };
 
 }  // namespace orvanta

@@ -1,5 +1,7 @@
 #include "startup/modActiveWindow.h"
 
+#include <algorithm>
+
 #include "startup/Shell.h"
 
 namespace orvanta {
@@ -16,9 +18,9 @@ bool modActiveWindow::CheckActive() {
 }
 
 bool modActiveWindow::IsStrip(const Form* form) const {
-  return form && (form == shell_.frmDociagLewo.Loaded() || form == shell_.frmDociagGora.Loaded() ||
-                  form == shell_.frmDociagPrawo1.Loaded() || form == shell_.frmDociagPrawo2.Loaded() ||
-                  form == shell_.frmDociagPrawo3.Loaded());
+  return form && std::ranges::any_of(shell_.Strips(), [form](const Shell::StripSlot* strip) {
+           return form == strip->Loaded();
+         });
 }
 
 }  // namespace orvanta
