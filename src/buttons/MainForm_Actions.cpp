@@ -1,6 +1,6 @@
 // What the ten buttons do.
 
-#include "buttons/ButtonLook.h"
+#include "buttons/PictureButtons.h"
 #include "startup/Shell.h"
 
 namespace orvanta {
@@ -14,85 +14,88 @@ constexpr Milliseconds kSwitchPause = 300, kMinimisePause = 500;
 
 }  // namespace
 
-void MainForm::Press(std::int16_t Index) {
-  ButtonM(Index).Picture = ImageList1(LookEntry(Index, Look::Pressed));
-  ButtonM(Index).Refresh();
+void MainForm::Press(BarButton button) {
+  ButtonM(button).Picture = ImageList1(PictureEntry(button, ButtonPicture::Pressed));
+  ButtonM(button).Refresh();
 }
 
-void MainForm::Release(std::int16_t Index) {
-  ButtonM(Index).Picture = ImageList1(LookEntry(Index, Look::Over));
-  ButtonM(Index).Refresh();
+void MainForm::Release(BarButton button) {
+  ButtonM(button).Picture = ImageList1(PictureEntry(button, ButtonPicture::Over));
+  ButtonM(button).Refresh();
 }
 
 void MainForm::Drop() {
   // None is latched while the exit voice plays, which a click can meet.
-  if (PressedButton == -1) return;
-  ButtonM(PressedButton).Picture = ImageList1(LookEntry(PressedButton, Look::Normal));
+  if (PressedButton == BarButton::None) return;
+  ButtonM(PressedButton).Picture = ImageList1(PictureEntry(PressedButton, ButtonPicture::Normal));
   ButtonM(PressedButton).Refresh();
 }
 
-void MainForm::StoppedLook() {
-  ButtonM(4).Picture = ImageList1(LookEntry(4, Look::Normal));
-  ButtonM(5).Picture = ImageList1(LookEntry(5, Look::Normal));
-  ButtonM(6).Picture = ImageList1(LookEntry(6, Look::Pressed));
+void MainForm::ShowStopped() {
+  const auto show = [this](BarButton button, ButtonPicture picture) {
+    ButtonM(button).Picture = ImageList1(PictureEntry(button, picture));
+  };
+  show(BarButton::Start, ButtonPicture::Normal);
+  show(BarButton::Pause, ButtonPicture::Normal);
+  show(BarButton::Stop, ButtonPicture::Pressed);
 }
 
-void MainForm::ButtonM_Click(std::int16_t Index) {
+void MainForm::ButtonM_Click(BarButton button) {
   const bool soundCard = shell_.basCommon.SoundCardOK;
-  const bool pagesOpen = PressedButton == -1 || PressedButton == 6;
-  switch (Index) {
-    case 0: Unload(); break;
-    case 1:
+  const bool pagesOpen = PressedButton == BarButton::None || PressedButton == BarButton::Stop;
+  switch (button) {
+    case BarButton::Exit: Unload(); break;
+    case BarButton::SoundOn:
       if (soundCard) SwitchSound(false);
       break;
-    case 2:
+    case BarButton::SoundOff:
       if (soundCard) SwitchSound(true);
       break;
-    case 3:
-      if (pagesOpen) TogglePage(Index, imgPomoc, imgSeven);
+    case BarButton::Help:
+      if (pagesOpen) TogglePage(button, imgPomoc, imgSeven);
       break;
-    case 4:
+    case BarButton::Start:
       if (!picTlo.Visible) StartEntry();
       break;
-    case 5:
+    case BarButton::Pause:
       if (AM3.CurrentState() == ActiveMovie::kRunning && soundCard) PauseMusic();
       break;
-    case 6:
+    case BarButton::Stop:
       if (soundCard) StopMusic();
       break;
-    case 7:
-      if (pagesOpen) TogglePage(Index, imgSeven, imgPomoc);
+    case BarButton::About:
+      if (pagesOpen) TogglePage(button, imgSeven, imgPomoc);
       break;
-    case 8:
-      Press(Index);
+    case BarButton::Minimise:
+      Press(button);
       shell_.host.Sleep(kMinimisePause);
       WindowState = kMinimised;
       break;
-    case 9: ShowFilm(); break;
-    default: break;
+    case BarButton::Film: ShowFilm(); break;
+    case BarButton::None: break;
   }
 }
 
 void MainForm::SwitchSound(bool on) {
-  Press(on ? 2 : 1);
+  Image& soundOn = ButtonM(BarButton::SoundOn);
+  Image& soundOff = ButtonM(BarButton::SoundOff);
+  Press(on ? BarButton::SoundOff : BarButton::SoundOn);
   shell_.basCommon.SoundWanted = on;
   shell_.host.Sleep(kSwitchPause);
-  ButtonM(1).Visible = on;
-  ButtonM(1).Enabled = on;
-  ButtonM(2).Visible = !on;
-  ButtonM(2).Enabled = !on;
-  const int there = on ? 1 : 2;
+  soundOn.Visible = soundOn.Enabled = on;
+  soundOff.Visible = soundOff.Enabled = !on;
+  const BarButton there = on ? BarButton::SoundOn : BarButton::SoundOff;
   // The cursor is on it.
-  ButtonM(there).Picture = ImageList1(LookEntry(there, Look::Over));
-  ButtonM(1).Refresh();
-  ButtonM(2).Refresh();
+  ButtonM(there).Picture = ImageList1(PictureEntry(there, ButtonPicture::Over));
+  soundOn.Refresh();
+  soundOff.Refresh();
 }
 
-void MainForm::TogglePage(std::int16_t Index, Image& page, Image& other) {
-  Press(Index);
+void MainForm::TogglePage(BarButton button, Image& page, Image& other) {
+  Press(button);
   PlayRandomSoundFile("Tool", true);
   shell_.host.Sleep(kSwitchPause);
-  Release(Index);
+  Release(button);
   page.Visible = !page.Visible;
   if (!page.Visible) return StronaKoniec();
   other.Visible = false;
@@ -108,7 +111,7 @@ void MainForm::ClosePage(Image& page) {
 void MainForm::StartEntry() {
   const std::string entry = lblBackTxt.Caption;
   if (IsExec(entry)) {
-    Press(4);
+    Press(BarButton::Start);
     PlayRandomSoundFile("Exec", true);
     return shell_.modExec.ExecItem(entry);
   }
@@ -118,25 +121,26 @@ void MainForm::StartEntry() {
         "Odtworzenie muzyki jest niemożliwe.",
         kCriticalBox, Caption);
   }
-  if (IsPlay(entry) && shell_.basCommon.SoundCardOK && PressedButton != 4) StartMusicEntry(entry);
+  if (IsPlay(entry) && shell_.basCommon.SoundCardOK && PressedButton != BarButton::Start)
+    StartMusicEntry(entry);
 }
 
 void MainForm::StartMusicEntry(const std::string& entry) {
   const std::int32_t state = AM3.CurrentState();
   if (state != ActiveMovie::kRunning && state != ActiveMovie::kPaused) {
-    PressedButton = 6;
+    PressedButton = BarButton::Stop;
     AM3.FileName(shell_.HostFile(shell_.ini.IniRead(entry, "Parameters", kMenuFile)));
-    Press(4);
+    Press(BarButton::Start);
     WaitForMusic();
   }
-  if (PressedButton > -1) Drop();
-  if (PressedButton == 5) {
-    Press(4);
+  Drop();
+  if (PressedButton == BarButton::Pause) {
+    Press(BarButton::Start);
   } else {
     AM3.CurrentPosition(0);
   }
   AM3.Run();
-  PressedButton = 4;
+  PressedButton = BarButton::Start;
 }
 
 void MainForm::WaitForMusic() {
@@ -148,26 +152,26 @@ void MainForm::WaitForMusic() {
 }
 
 void MainForm::PauseMusic() {
-  Press(5);
+  Press(BarButton::Pause);
   Drop();
   AM3.Pause();
-  PressedButton = 5;
+  PressedButton = BarButton::Pause;
 }
 
 void MainForm::StopMusic() {
-  Press(6);
+  Press(BarButton::Stop);
   const std::int32_t state = AM3.CurrentState();
   if (state != ActiveMovie::kRunning && state != ActiveMovie::kPaused) return;
   Drop();
   AM3.Stop();
-  PressedButton = 6;
+  PressedButton = BarButton::Stop;
   S2.Left = S2Start;
 }
 
 void MainForm::ShowFilm() {
   const std::string entry = lblBackTxt.Caption;
   if (shell_.basCommon.SoundCardOK) {
-    Press(9);
+    Press(BarButton::Film);
     PlaySoundFile(shell_.settings.Any({"VOICES", "Cinema"}), false);
   }
   if (picTlo.Visible || !IsPlay(entry)) return;
@@ -179,7 +183,7 @@ void MainForm::ShowFilm() {
     return;
   }
   shell_.basCommon.ShowArg = shell_.ini.IniRead(entry, "Parameters", kMenuFile);
-  ButtonM(9).Picture = ImageList1(LookEntry(9, Look::Normal));
+  ButtonM(BarButton::Film).Picture = ImageList1(PictureEntry(BarButton::Film, ButtonPicture::Normal));
   shell_.frmKino->ShowModal(*this);
 }
 

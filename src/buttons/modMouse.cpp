@@ -1,6 +1,6 @@
 #include "buttons/modMouse.h"
 
-#include "buttons/ButtonLook.h"
+#include "buttons/PictureButtons.h"
 #include "startup/Shell.h"
 
 namespace orvanta {
@@ -46,8 +46,8 @@ std::int16_t modMouse::ButtonUnderCursor(const Form& form, std::string_view name
 void modMouse::OverButton(std::int16_t slot, Form& form, std::string_view name, const ImageList& pictures,
                           std::int16_t pressed) {
   std::int16_t& last = LastOver.at(static_cast<std::size_t>(slot));
-  const auto show = [&](Image& button, Look look) {
-    button.Picture = pictures(LookEntry(button.Index, look));
+  const auto show = [&](Image& button, ButtonPicture picture) {
+    button.Picture = pictures(PictureEntry(button.Index, picture));
   };
   const std::int16_t hit = ButtonUnderCursor(form, name);
   if (hit == last) return;
@@ -55,15 +55,15 @@ void modMouse::OverButton(std::int16_t slot, Form& form, std::string_view name, 
   Image* const left = ButtonAt(form, last);
   if (over && last == -1) {
     last = hit;
-    if (over->Index != pressed) show(*over, Look::Over);
+    if (over->Index != pressed) show(*over, ButtonPicture::Over);
     return;
   }
-  if (left && left->Index != pressed) show(*left, Look::Normal);
+  if (left && left->Index != pressed) show(*left, ButtonPicture::Normal);
   if (over) {
     // The latched button is not entered: the slot goes on naming the one that was left.
     if (over->Index == pressed) return;
     last = hit;
-    show(*over, Look::Over);
+    show(*over, ButtonPicture::Over);
   } else if (!left || left->Index != pressed) {
     last = -1;
   }

@@ -8,7 +8,7 @@ namespace orvanta {
 void MainForm::StopEntrySound() {
   if (AM3.CurrentState() == ActiveMovie::kNoFile) return;
   AM3.Stop();
-  PressedButton = -1;
+  PressedButton = BarButton::None;
 }
 
 void MainForm::PlaySoundFile(const std::string&, bool) { StopEntrySound(); }

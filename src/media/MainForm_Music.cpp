@@ -23,10 +23,10 @@ void MainForm::ParkMusic() {
 }
 
 bool MainForm::MoveMarker() {
-  if (PressedButton != 4 || !shell_.basCommon.SoundCardOK || !S2.Visible) return false;
+  if (PressedButton != BarButton::Start || !shell_.basCommon.SoundCardOK || !S2.Visible) return false;
   if (AM3.CurrentState() == ActiveMovie::kStopped) {
-    PressedButton = 6;
-    StoppedLook();
+    PressedButton = BarButton::Stop;
+    ShowStopped();
     S2.Left = S2Start;
     return true;
   }

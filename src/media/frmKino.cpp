@@ -1,6 +1,6 @@
 #include "media/frmKino.h"
 
-#include "buttons/ButtonLook.h"
+#include "buttons/PictureButtons.h"
 #include "startup/Shell.h"
 
 namespace orvanta {
@@ -8,21 +8,6 @@ namespace orvanta {
 namespace {
 
 constexpr std::int16_t kSlot = 10;
-
-struct KinoButton {
-  KeyRef<Kind::Base> base;
-  KeyRef<Kind::Whole> left, top;
-  const char* key;  // in ImageList1
-};
-
-// By Index.
-constexpr std::array<KinoButton, 5> kButtons{{
-    {{"CINEMA", "CPlayB"}, {"CINEMA", "CPlayX"}, {"CINEMA", "CPlayY"}, "cplay"},
-    {{"CINEMA", "CStopB"}, {"CINEMA", "CStopX"}, {"CINEMA", "CStopY"}, "cstop"},
-    {{"CINEMA", "CpauseB"}, {"CINEMA", "CPauseX"}, {"CINEMA", "CPauseY"}, "cpause"},
-    {{"CINEMA", "CScaleB"}, {"CINEMA", "CScaleX"}, {"CINEMA", "CScaleY"}, "cscale"},
-    {{"CINEMA", "CFScaleB"}, {"CINEMA", "CFScaleX"}, {"CINEMA", "CFScaleY"}, "cfscale"},
-}};
 
 }  // namespace
 
@@ -37,7 +22,7 @@ frmKino::frmKino(Shell& shell)
                         .scale = ScaleMode::Twips,
                         .window = WindowKind::Modal}),
       Picture1(*this, "Picture1"),
-      ButtonM(Picture1, "ButtonM", 5),
+      ButtonM(Picture1, "ButtonM", static_cast<int>(kKinoButtons.size())),
       AM0(*this, "AM0", MovieKind::Film),
       Timer1(*this, 200, [this] { Timer1_Timer(); }),
       shell_(shell) {
@@ -46,9 +31,9 @@ frmKino::frmKino(Shell& shell)
   Picture1.Move(0, 0, 9600, 7200);
   // A button whose art is missing can still be clicked.
   ButtonM.ForEach([](Image& button) { button.Move(0, 0, 32, 32); });
-  ButtonM.Click = [this](std::int16_t Index) { ButtonM_Click(Index); };
+  ButtonM.Click = [this](std::int16_t Index) { ButtonM_Click(KinoButton{Index}); };
   // The buttons lie under a film on the whole screen.
-  AM0.ScreenClick = [this] { ButtonM_Click(4); };
+  AM0.ScreenClick = [this] { ButtonM_Click(KinoButton::Window); };
 }
 
 void frmKino::Form_Load() {
@@ -60,7 +45,7 @@ void frmKino::Form_Load() {
   Width = Picture1.Width();
   shell_.host.Sleep(1000);
   KinoButtonsInit();
-  PressedButton = 0;
+  PressedButton = KinoButton::Play;
   Refresh();
   AM0.FullScreenMode(false);
   AM0.Left = Width();
@@ -72,14 +57,14 @@ void frmKino::Form_Load() {
 }
 
 void frmKino::KinoButtonsInit() {
-  for (std::int16_t i = 0; i <= 4; ++i) {
-    const KinoButton& button = kButtons[static_cast<std::size_t>(i)];
-    AddButtonArt(shell_, ImageList1, shell_.settings.Base(button.base), button.key);
-    ButtonM(i).Picture = i == 0 ? ImageList1(LookEntry(0, Look::Pressed)) : ImageList1(button.key);
-    ButtonM(i).Left = shell_.settings.Whole(button.left);
-    ButtonM(i).Top = shell_.settings.Whole(button.top);
-  }
-  ButtonM(4).Visible = false;
+  ButtonM.ForEach([this](Image& button) {
+    const ButtonKeys& keys = kKinoButtons.at(static_cast<std::size_t>(button.Index));
+    LoadButton(shell_, button, ImageList1, keys);
+    button.Picture = KinoButton{button.Index} == KinoButton::Play
+                         ? ImageList1(PictureEntry(KinoButton::Play, ButtonPicture::Pressed))
+                         : ImageList1(keys.name);
+  });
+  ButtonM(KinoButton::Window).Visible = false;
 }
 
 void frmKino::Form_Activate() {
@@ -95,14 +80,14 @@ void frmKino::Form_Unload() {
 void frmKino::Timer1_Timer() {
   // The user can move the window.
   shell_.modMouse.Track(*this);
-  shell_.modMouse.OverButton(kSlot, *this, "ButtonM", ImageList1, PressedButton);
+  shell_.modMouse.OverButton(kSlot, *this, "ButtonM", ImageList1, static_cast<std::int16_t>(PressedButton));
   if (AM0.ReadyState() != ActiveMovie::kComplete) return;
   if (!KinoPlaced) {
     KinoPlaced = true;
     PlaceFilm();
-  } else if (AM0.CurrentState() == ActiveMovie::kStopped && PressedButton == 0) {
-    Restore(0);
-    PressedButton = -1;
+  } else if (AM0.CurrentState() == ActiveMovie::kStopped && PressedButton == KinoButton::Play) {
+    Restore(KinoButton::Play);
+    PressedButton = KinoButton::None;
   }
 }
 
@@ -116,41 +101,41 @@ void frmKino::PlaceFilm() {
   AM0.Visible = true;
 }
 
-void frmKino::Press(std::int16_t Index) {
-  ButtonM(Index).Picture = ImageList1(LookEntry(Index, Look::Pressed));
-  ButtonM(Index).Refresh();
+void frmKino::Press(KinoButton button) {
+  ButtonM(button).Picture = ImageList1(PictureEntry(button, ButtonPicture::Pressed));
+  ButtonM(button).Refresh();
 }
 
-void frmKino::Restore(std::int16_t Index) {
-  ButtonM(Index).Picture = ImageList1(LookEntry(Index, Look::Normal));
+void frmKino::Restore(KinoButton button) {
+  ButtonM(button).Picture = ImageList1(PictureEntry(button, ButtonPicture::Normal));
 }
 
-void frmKino::ButtonM_Click(std::int16_t Index) {
-  switch (Index) {
-    case 0:
-      if (PressedButton != 0) Play();
+void frmKino::ButtonM_Click(KinoButton button) {
+  switch (button) {
+    case KinoButton::Play:
+      if (PressedButton != KinoButton::Play) Play();
       break;
-    case 1: StopAndClose(); break;
-    case 2:
-      if (PressedButton == 0) Pause();
+    case KinoButton::Stop: StopAndClose(); break;
+    case KinoButton::Pause:
+      if (PressedButton == KinoButton::Play) Pause();
       break;
-    case 3: SetFullScreen(true); break;
-    case 4: SetFullScreen(false); break;
-    default: break;
+    case KinoButton::FullScreen: SetFullScreen(true); break;
+    case KinoButton::Window: SetFullScreen(false); break;
+    case KinoButton::None: break;
   }
 }
 
 void frmKino::Play() {
-  PressedButton = 0;
-  Press(0);
-  Restore(2);
-  ButtonM(2).Refresh();
+  PressedButton = KinoButton::Play;
+  Press(KinoButton::Play);
+  Restore(KinoButton::Pause);
+  ButtonM(KinoButton::Pause).Refresh();
   AM0.Run();
 }
 
 void frmKino::StopAndClose() {
-  PressedButton = 1;
-  Press(1);
+  PressedButton = KinoButton::Stop;
+  Press(KinoButton::Stop);
   shell_.host.Sleep(100);
   Timer1.Enabled = false;
   AM0.Stop();
@@ -158,21 +143,22 @@ void frmKino::StopAndClose() {
 }
 
 void frmKino::Pause() {
-  PressedButton = 2;
-  Press(2);
-  Restore(0);
-  ButtonM(0).Refresh();
+  PressedButton = KinoButton::Pause;
+  Press(KinoButton::Pause);
+  Restore(KinoButton::Play);
+  ButtonM(KinoButton::Play).Refresh();
   AM0.Pause();
 }
 
 void frmKino::SetFullScreen(bool on) {
-  const std::int16_t clicked = on ? 3 : 4, other = on ? 4 : 3;
+  const KinoButton clicked = on ? KinoButton::FullScreen : KinoButton::Window;
+  const KinoButton other = on ? KinoButton::Window : KinoButton::FullScreen;
   Press(clicked);
-  if (PressedButton == 0) AM0.Pause();
+  if (PressedButton == KinoButton::Play) AM0.Pause();
   AM0.FullScreenMode(on);
   ButtonM(clicked).Visible = false;
   ButtonM(other).Visible = true;
-  if (PressedButton == 0) AM0.Run();
+  if (PressedButton == KinoButton::Play) AM0.Run();
 }
 
 }  // namespace orvanta

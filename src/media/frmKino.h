@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "buttons/PictureButtons.h"
 #include "platform/ActiveMovie.h"
 #include "platform/ControlArray.h"
 #include "platform/Form.h"
@@ -23,13 +24,13 @@ class frmKino : public Form {
   Timer Timer1;
   ImageList ImageList1;
 
-  /// The latched button and the state of the film: 0 playing, 2 paused, 1 being closed, -1 run to its end.
-  std::int16_t PressedButton = 0;
+  /// The latched button tells the state of the film; with none it has run to its end.
+  KinoButton PressedButton = KinoButton::Play;
 
   void Form_Load() override;
   void Form_Activate() override;
   void Form_Unload() override;
-  void ButtonM_Click(std::int16_t Index);
+  void ButtonM_Click(KinoButton button);
 
  protected:
   void CloseRequested() override { Unload(); }
@@ -38,8 +39,8 @@ class frmKino : public Form {
   void KinoButtonsInit();
   void Timer1_Timer();
   void PlaceFilm();
-  void Press(std::int16_t Index);
-  void Restore(std::int16_t Index);
+  void Press(KinoButton button);
+  void Restore(KinoButton button);
   void Play();
   void StopAndClose();
   void Pause();

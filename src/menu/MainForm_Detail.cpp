@@ -61,9 +61,9 @@ bool MainForm::ShowKind(const std::string& name) {
     if (views_ != view) return false;
   }
   if (music) ShowTransport();
-  ButtonM(4).Visible = program || music;
-  ButtonM(5).Visible = ButtonM(6).Visible = music;
-  ButtonM(9).Visible = !program && !music;
+  ButtonM(BarButton::Start).Visible = program || music;
+  ButtonM(BarButton::Pause).Visible = ButtonM(BarButton::Stop).Visible = music;
+  ButtonM(BarButton::Film).Visible = !program && !music;
   return true;
 }
 
@@ -74,9 +74,9 @@ void MainForm::ShowTransport() {
   S2Start = settings.Whole({"GLOBAL", "S2_Start"});
   S2End = settings.Whole({"GLOBAL", "S2_End"});
   S2.Left = S2Start;
-  PressedButton = 6;
+  PressedButton = BarButton::Stop;
   S2Len = CInt(S2End - S2Start);
-  StoppedLook();
+  ShowStopped();
 }
 
 void MainForm::LoadShots(const std::string& name) {

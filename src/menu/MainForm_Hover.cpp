@@ -9,7 +9,7 @@ namespace orvanta {
 void MainForm::Timer1_Timer() {
   ParkMusic();
   if (shell_.modActiveWindow.CheckActive()) {
-    shell_.modMouse.OverButton(0, *this, "ButtonM", ImageList1, PressedButton);
+    shell_.modMouse.OverButton(0, *this, "ButtonM", ImageList1, static_cast<std::int16_t>(PressedButton));
     if (!slider.SuwakDrag) MousePos();
   }
   if (MoveMarker()) return;

@@ -29,11 +29,12 @@ void MainForm::MenuInit(const std::string& menu) {
   ++views_;
   const Settings& settings = shell_.settings;
   picTlo.Visible = true;
-  PressedButton = -1;
+  PressedButton = BarButton::None;
   picShot.UnloadAbove0();
   lblPos1.UnloadAbove0();
   Line2.Show(false);
-  for (const int index : {4, 5, 6, 9}) ButtonM(index).Visible = false;
+  for (const BarButton button : {BarButton::Start, BarButton::Pause, BarButton::Stop, BarButton::Film})
+    ButtonM(button).Visible = false;
   const int n = IleMenu(menu);
   while (lblPos1.UBound() < n - 1) lblPos1.LoadNext();
   PosTop.assign(static_cast<std::size_t>(lblPos1.UBound()) + 1, 0);

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -25,6 +26,8 @@ class ControlArray {
   /// The element `i`, which must be loaded.
   T& operator()(int i) { return *elements_.at(static_cast<std::size_t>(i)); }
   const T& operator()(int i) const { return *elements_.at(static_cast<std::size_t>(i)); }
+  template <class Button>
+  requires std::is_enum_v<Button> T& operator()(Button button) { return (*this)(static_cast<int>(button)); }
   /// Highest index.
   int UBound() const { return static_cast<int>(elements_.size()) - 1; }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "buttons/PictureButtons.h"
 #include "menu/Slider.h"
 #include "platform/ActiveMovie.h"
 #include "platform/ControlArray.h"
@@ -58,13 +59,13 @@ class MainForm : public Form {
 
   std::vector<std::string> MenuPath;  ///< node names from the root; above `MenuLevel` they are stale
   std::int16_t MenuLevel = 0;
-  std::int16_t PressedButton = 0;  ///< the latched transport button, -1 for none
+  BarButton PressedButton = BarButton::None;  ///< the latched one of the transport buttons
 
   void Form_Load() override;
   void lblPos1_Click(std::int16_t Index);
   void imgBack_Click();
   void imgUp_Click();
-  void ButtonM_Click(std::int16_t Index);
+  void ButtonM_Click(BarButton button);
 
  protected:
   void CloseRequested() override { Unload(); }
@@ -127,12 +128,12 @@ class MainForm : public Form {
 
   // Buttons: buttons/
   void ButtonsInit();
-  void Press(std::int16_t Index);
-  void Release(std::int16_t Index);
+  void Press(BarButton button);
+  void Release(BarButton button);
   void Drop();
-  void StoppedLook();
+  void ShowStopped();
   void SwitchSound(bool on);
-  void TogglePage(std::int16_t Index, Image& page, Image& other);
+  void TogglePage(BarButton button, Image& page, Image& other);
   void StartEntry();
   void StartMusicEntry(const std::string& entry);
   void WaitForMusic();

@@ -101,7 +101,7 @@ void MainForm::DesignDetail() {
 }
 
 void MainForm::WireEvents() {
-  ButtonM.Click = [this](std::int16_t Index) { ButtonM_Click(Index); };
+  ButtonM.Click = [this](std::int16_t Index) { ButtonM_Click(BarButton{Index}); };
   lblPos1.Click = [this](std::int16_t Index) { lblPos1_Click(Index); };
   picShot.Click = [this](std::int16_t Index) { picShot_Click(Index); };
   imgBack.Click = ImgBack2.Click = [this] { imgBack_Click(); };

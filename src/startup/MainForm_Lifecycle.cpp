@@ -31,7 +31,7 @@ void MainForm::ShowStrips(bool visible) {
 }
 
 void MainForm::Form_Unload() {
-  Press(0);
+  Press(BarButton::Exit);
   shell_.host.Sleep(200);
   if (shell_.basCommon.SoundCardOK) {
     if (shell_.basCommon.MusicLoaded) AM2.Stop();

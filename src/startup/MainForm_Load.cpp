@@ -30,7 +30,7 @@ void MainForm::Form_Load() {
   picTlo.Left = settings.Single({"MENUITEM", "BackgroundX"});
   picTlo.Top = settings.Single({"MENUITEM", "BackgroundY"});
   ApplyFormShape(*this);
-  PressedButton = -1;
+  PressedButton = BarButton::None;
   // The form's twips taken as pixels: far outside the window.
   AM3.Left = Width();
   AM3.Top = Height();

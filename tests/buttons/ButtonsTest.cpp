@@ -8,33 +8,37 @@ namespace orvanta::test {
 namespace {
 
 struct Buttons : Story {
-  /// What the middle shows, the latch and how Start, Pauza and Stop look.
   std::string Look() override {
     const char* entry = Main().picTlo.Visible ? "list" : "entry";
     const std::string middle = Main().imgPomoc.Visible ? "help" : Main().imgSeven.Visible ? "about" : entry;
-    return middle + " " + std::to_string(Main().PressedButton) + " " + user.Looks({4, 5, 6});
+    const std::string looks = user.Looks({BarButton::Start, BarButton::Pause, BarButton::Stop});
+    return middle + ", " + NameOf(Main().PressedButton) + " latched" + (looks.empty() ? "" : ", ") + looks;
   }
-  /// The button that counts as hovered, -1 for none.
-  int Hovered() {
+  /// The button that counts as hovered.
+  BarButton Hovered() {
     const int position = user.shell.modMouse.LastOver[0];
-    return position < 0 ? -1 : Main().Controls()[static_cast<std::size_t>(position)]->Index;
+    if (position < 0) return BarButton::None;
+    return BarButton{Main().Controls()[static_cast<std::size_t>(position)]->Index};
   }
   /// The buttons that are there.
   static std::string There(TestShell& shell) {
-    std::string text;
-    for (int i = 0; i < 10; ++i) text += shell.Button(i).Visible ? std::to_string(i) : "";
-    return text;
+    std::string names;
+    for (std::int16_t i = 0; i < 10; ++i)
+      if (shell.Button(i).Visible) names += NameOf(BarButton{i}) + " ";
+    return names;
   }
-  /// Clicks a button and gives how it looked, painted, during each pause that followed: "2 for 300".
-  std::string Pressed(int i) {
-    std::string looks;
+  /// Clicks a button, expects it to be painted pressed in one pause, and gives how long that is.
+  Milliseconds PressedFor(BarButton button) {
+    Milliseconds pause = 0;
     user.host.OnSleep = [&] {
-      const bool painted = user.host.WindowOf(Main()).dirty.Empty();
-      looks += (painted ? user.Looks({i}) : "?") + " for " + std::to_string(user.host.sleeps.back().duration);
+      EXPECT_EQ(pause, 0) << "a second pause";
+      EXPECT_TRUE(user.host.WindowOf(Main()).dirty.Empty());
+      EXPECT_EQ(user.Looks({button}), NameOf(button) + " pressed");
+      pause = user.host.sleeps.back().duration;
     };
-    user.Do("click ButtonM" + std::to_string(i));
+    user.Do("click " + NameOf(button));
     user.host.OnSleep = nullptr;
-    return looks;
+    return pause;
   }
 };
 
@@ -42,94 +46,109 @@ TEST_F(Buttons, TakePlacesFromTheDiscAndSizesFromTheirPicturesAndAreThereWhereNe
   disc.Picture("hlp1.gif", 50, 60);
   disc.Remove("GLOBAL", "PokazB");
   const int lefts[] = {560, 480, 480, 400, 120, 170, 220, 440, 520, 300};
-  for (const std::string pair : {"1", "2"}) {
+  for (const std::string sound : {"SoundOn", "SoundOff"}) {
     TestShell shell(disc);
-    shell.host.soundCard = pair == "1";
-    shell.Do("start, hover ButtonM3");
+    shell.host.soundCard = sound == "SoundOn";
+    shell.Do("start, hover Help");
     for (int i = 0; i < 10; ++i) EXPECT_EQ(shell.Button(i).Left(), lefts[i]);
-    EXPECT_EQ(shell.Button(3).Bounds(), (Rect{400, 70, 50, 60}));
-    EXPECT_EQ(shell.Button(9).Bounds(), (Rect{300, 465, 32, 32})) << "without art it can still be clicked";
-    for (const std::string buttons : {"0 478", "1 45678", "2 789", "3 78"}) {
-      shell.Do("choose " + buttons.substr(0, 1));
-      EXPECT_EQ(There(shell), "0" + pair + "3" + buttons.substr(2));
+    EXPECT_EQ(shell.Button(BarButton::Help).Bounds(), (Rect{400, 70, 50, 60}));
+    EXPECT_EQ(shell.Button(BarButton::Film).Bounds(), (Rect{300, 465, 32, 32})) << "it can still be clicked";
+    const std::string always = "Exit " + sound + " Help ";
+    for (const auto& [entry, buttons] : {std::pair{"choose 0", "Start About Minimise "},
+                                         {"choose 1", "Start Pause Stop About Minimise "},
+                                         {"choose 2", "About Minimise Film "},
+                                         {"choose 3", "About Minimise "}}) {
+      shell.Do(entry);
+      EXPECT_EQ(There(shell), always + buttons);
       shell.Do("click imgUp");
-      EXPECT_EQ(There(shell), "0" + pair + "378");
+      EXPECT_EQ(There(shell), always + "About Minimise ");
     }
   }
 }
 
 TEST_F(Buttons, LeaveTheLatchedOneAlone) {
-  const std::pair<const char*, std::string> steps[] = {
-      {"start, choose 1, hover ButtonM6", "02 6"},
-      {"aside", "02 6"},  // the slot keeps the latched button
-      {"hover ButtonM4", "12 4"},
-      {"hover ButtonM6", "02 4"},  // the first goes back, and the slot goes on naming it
-      {"aside", "02 -1"},
-      {"hover ButtonM6, aside", "02 6"},
-      {"click ButtonM4", "20 6"},
-      {"aside", "20 -1"}};  // the latch has moved on
-  for (const auto& [act, seen] : steps) {
+  const std::tuple<const char*, std::string, BarButton> steps[] = {
+      {"start, choose 1, hover Stop", "Stop pressed", BarButton::Stop},
+      {"aside", "Stop pressed", BarButton::Stop},  // the slot keeps the latched button
+      {"hover Start", "Start over, Stop pressed", BarButton::Start},
+      {"hover Stop", "Stop pressed", BarButton::Start},  // the slot goes on naming the one that was left
+      {"aside", "Stop pressed", BarButton::None},
+      {"hover Stop, aside", "Stop pressed", BarButton::Stop},
+      {"click Start", "Start pressed", BarButton::Stop},
+      {"aside", "Start pressed", BarButton::None}};  // the latch has moved on
+  for (const auto& [act, looks, hovered] : steps) {
     user.Do(act);
-    EXPECT_EQ(user.Looks({4, 6}) + " " + std::to_string(Hovered()), seen) << act;
+    EXPECT_EQ(user.Looks({BarButton::Start, BarButton::Stop}), looks) << act;
+    EXPECT_EQ(Hovered(), hovered) << act;
   }
 }
 
 TEST_F(Buttons, KeepALookUntilTheCursorLeavesAndStandStillBehindAnotherProgram) {
   user.host.startResult = 2;
   disc.Set("Piosenka", "Execute", "%:\\gra.exe");  // an entry with both keys is a program
-  user.Do("start, choose 1, hover ButtonM4, click ButtonM4, run 1000");
+  user.Do("start, choose 1, hover Start, click Start, run 1000");
   EXPECT_EQ(user.host.started.size(), 1U);
-  EXPECT_EQ(user.Looks({4}), "2");
-  user.Do("hover ButtonM0, leave, run 1500, aside, return");
-  EXPECT_EQ(user.Looks({4, 0}), "01") << "kept until the cursor has entered and left it once more";
-  EXPECT_EQ(Hovered(), -1);
+  EXPECT_EQ(user.Looks({BarButton::Start}), "Start pressed");
+  user.Do("hover Exit, leave, run 1500, aside, return");
+  EXPECT_EQ(user.Looks({BarButton::Start, BarButton::Exit}), "Exit over")
+      << "kept until the cursor has entered and left it once more";
+  EXPECT_EQ(Hovered(), BarButton::None);
 }
 
 TEST_F(Buttons, ShowThemselvesPressedWhileTheyAct) {
   user.Do("start");
-  EXPECT_EQ(Pressed(1), "2 for 300");
-  EXPECT_EQ(There(user) + " " + user.Looks({2}), "02378 1");
-  EXPECT_FALSE(user.shell.basCommon.SoundWanted || user.Button(1).Enabled());
+  EXPECT_EQ(PressedFor(BarButton::SoundOn), 300);
+  EXPECT_EQ(There(user), "Exit SoundOff Help About Minimise ");
+  EXPECT_EQ(user.Looks({BarButton::SoundOff}), "SoundOff over");
+  EXPECT_FALSE(user.shell.basCommon.SoundWanted);
+  EXPECT_FALSE(user.Button(BarButton::SoundOn).Enabled());
   user.Do("run 2000");
-  EXPECT_EQ(Pressed(2), "2 for 300");
-  EXPECT_EQ(There(user) + " " + user.Looks({1}), "01378 1");
-  EXPECT_TRUE(user.shell.basCommon.SoundWanted && user.Button(1).Enabled());
-  EXPECT_EQ(Pressed(8), "2 for 500");
+  EXPECT_EQ(PressedFor(BarButton::SoundOff), 300);
+  EXPECT_EQ(There(user), "Exit SoundOn Help About Minimise ");
+  EXPECT_EQ(user.Looks({BarButton::SoundOn}), "SoundOn over");
+  EXPECT_TRUE(user.shell.basCommon.SoundWanted);
+  EXPECT_TRUE(user.Button(BarButton::SoundOn).Enabled());
+  EXPECT_EQ(PressedFor(BarButton::Minimise), 500);
   user.Do("restore");
-  EXPECT_EQ(Pressed(3), "2 for 300");
-  EXPECT_EQ(user.Looks({3}), "1");
+  EXPECT_EQ(PressedFor(BarButton::Help), 300);
+  EXPECT_EQ(user.Looks({BarButton::Help}), "Help over");
   const Milliseconds before = user.host.Now();
-  EXPECT_EQ(Pressed(0), "2 for 200");
+  EXPECT_EQ(PressedFor(BarButton::Exit), 200);
   const auto stop = std::ranges::find(user.host.playerCalls, "stop", &HeadlessHost::PlayerCall::call);
   EXPECT_EQ(stop->time, before + 200) << "before any sound stops";
 }
 
 TEST_F(Buttons, OpenAndClosePagesInTurnOverAListAndAnEntry) {
-  Tell({{"start, press 3", "help -1 000"},
-        {"press 7", "about -1 000"},
-        {"press 7", "list -1 000"},
-        {"press 3, click imgPomoc", "list -1 000"},
-        {"choose 0", "entry -1 000"},
-        {"press 7", "about -1 000"},
-        {"press 4", "about -1 000"},  // the page covers the entry
-        {"press 7", "entry -1 000"}});
-  EXPECT_TRUE(user.host.started.empty() && user.Button(4).Visible && Main().picShot(0).Visible);
-  Tell({{"click imgUp, choose 1, press 3", "help 6 002"},  // the player has never had a file
-        {"press 3, press 4", "entry 4 200"},
-        {"press 3, press 7", "entry 4 200"},  // only while the music is stopped
-        {"press 5, press 3, press 7", "entry 5 020"},
-        {"press 6, press 7", "about -1 002"},  // the latch is gone, its look is not
-        {"hover ButtonM6", "about -1 001"},
-        {"aside, press 7", "entry 6 002"},
-        {"click imgUp, choose 2, press 7, click ButtonM9", "about -1 002"}});
-  EXPECT_EQ(user.Looks({9}), "2");
+  Tell({{"start, press Help", "help, none latched"},
+        {"press About", "about, none latched"},
+        {"press About", "list, none latched"},
+        {"press Help, click imgPomoc", "list, none latched"},
+        {"choose 0", "entry, none latched"},
+        {"press About", "about, none latched"},
+        {"press Start", "about, none latched"},  // the page covers the entry
+        {"press About", "entry, none latched"}});
+  EXPECT_TRUE(user.host.started.empty() && user.Button(BarButton::Start).Visible &&
+              Main().picShot(0).Visible);
+  Tell(
+      {{"click imgUp, choose 1, press Help",
+        "help, Stop latched, Stop pressed"},  // the player has never had a file
+       {"press Help, press Start", "entry, Start latched, Start pressed"},
+       {"press Help, press About", "entry, Start latched, Start pressed"},  // only while the music is stopped
+       {"press Pause, press Help, press About", "entry, Pause latched, Pause pressed"},
+       {"press Stop, press About",
+        "about, none latched, Stop pressed"},  // the latch is gone, its look is not
+       {"hover Stop", "about, none latched, Stop over"},
+       {"aside, press About", "entry, Stop latched, Stop pressed"},
+       {"click imgUp, choose 2, press About, click Film", "about, none latched, Stop pressed"}});
+  EXPECT_EQ(user.Looks({BarButton::Film}), "Film pressed");
   EXPECT_FALSE(user.shell.frmKino.Loaded()) << "no film under a page";
 }
 
 TEST_F(Buttons, WithoutASoundCardTellTheUserAndPlayNothing) {
   user.host.soundCard = false;
-  Tell({{"start, choose 1, press 2, press 5, press 6, press 4", "entry 6 002"},
-        {"click imgUp, choose 2, press 9", "entry -1 002"}});
+  Tell({{"start, choose 1, press SoundOff, press Pause, press Stop, press Start",
+         "entry, Stop latched, Stop pressed"},
+        {"click imgUp, choose 2, press Film", "entry, none latched, Stop pressed"}});
   ASSERT_EQ(user.host.messages.size(), 2U);
   const std::string card = "Brak lub źle skonfigurowana karta dźwiękowa.\r\nOdtworzenie ";
   EXPECT_EQ(user.host.messages[0].text, card + "muzyki jest niemożliwe.");

@@ -20,7 +20,7 @@ TEST_F(Launch, HandsOverFileAndParametersAndWaitsForTheProgramsWindow) {
   user.Do("start, choose 0, after 5000 leave");
   Expect(4900, "1/1 waits active");
   Expect(5000 + 3 * 50, "1/1 waits");
-  EXPECT_LE(Takes("click ButtonM4"), 5000 + 1000 + 3 * 50) << "the music has fallen silent by then";
+  EXPECT_LE(Takes("click Start"), 5000 + 1000 + 3 * 50) << "the music has fallen silent by then";
   EXPECT_EQ(Look(), "1/1");
   EXPECT_EQ(user.host.started[0].file, disc.Folder() / "gra.exe");
   EXPECT_EQ(user.host.started[0].parameters, "-a \"b c\"");
@@ -35,25 +35,25 @@ TEST_F(Launch, TellsWhatIsThereAndOfEachFailureAtOnce) {
                                      {"%:\\keine.exe", Status::FileMissing},
                                      {"%:\\nie ma\\gra.exe", Status::FolderMissing}}) {
     disc.Set("Gra", "Execute", file);
-    EXPECT_LT(Takes("click ButtonM4"), 100);
+    EXPECT_LT(Takes("click Start"), 100);
     EXPECT_EQ(user.host.started.back().status, status) << file;
     EXPECT_EQ(user.host.messages.back().text, ExecErrorText(32).value());
     EXPECT_EQ(user.host.messages.back().title, "Orvanta Shell");
   }
   user.host.startResult = -1;
-  Tell({{"click ButtonM4", "1/4 active"}});
+  Tell({{"click Start", "1/4 active"}});
   EXPECT_EQ(user.host.messages.size(), 3U) << "nothing is told of this one";
 }
 
 TEST_F(Launch, LetsTheUserStartGoBackMinimiseAndLeaveWhileItWaits) {
   user.Do("start, choose 0");
-  Tell({{"after 500 click ButtonM4, after 1000 click imgBack, after 2000 leave, click ButtonM4", "0/2"},
-        {"return, choose 0, after 1000 click ButtonM8, click ButtonM4", "1/3"},
+  Tell({{"after 500 click Start, after 1000 click imgBack, after 2000 leave, click Start", "0/2"},
+        {"return, choose 0, after 1000 click Minimise, click Start", "1/3"},
         {"restore", "1/3 active"}});
   // Within the second of the soft pause the tick that looks for the active window stands still.
-  Tell({{"after 600 click ButtonM4, after 5000 leave, click ButtonM1, run 6000", "1/4"}});
+  Tell({{"after 600 click Start, after 5000 leave, click SoundOn, run 6000", "1/4"}});
   EXPECT_TRUE(Main().Timer1.Enabled());
-  user.Do("return, after 300 click ButtonM4, after 600 click ButtonM0, click ButtonM4");
+  user.Do("return, after 300 click Start, after 600 click Exit, click Start");
   EXPECT_TRUE(user.ended);
   EXPECT_EQ(user.Calls("exit1.wav"), "open");
 }

@@ -34,14 +34,14 @@ TEST_F(Loop, IsHeardInMenusAndProgramsAndNotBesideOtherSound) {
         {"click imgUp, choose 1", "silent"},
         {"click imgUp, run 100", "heard"},
         {"choose 2", "silent"},
-        {"after 4000 click kino1, click ButtonM9", "silent"},
+        {"after 4000 click kinoStop, click Film", "silent"},
         {"run 500", "silent"},
         {"click imgBack, run 100", "heard"},
         {"minimise, run 1500", "silent"},
         {"restore", "heard"},
-        {"after 500 click ButtonM7, click ButtonM1, run 2000", "silent"},
+        {"after 500 click About, click SoundOn, run 2000", "silent"},
         {"leave, run 2000, return", "silent"},
-        {"click ButtonM2, run 100", "heard"}});
+        {"click SoundOff, run 100", "heard"}});
   EXPECT_TRUE(Main().imgSeven.Visible) << "a click in the silent second is delivered";
   EXPECT_EQ(Main().AM2.Volume(), 0);
   user.host.Activate(*user.shell.frmDociagLewo);
@@ -76,7 +76,7 @@ std::string Farewell(const TestDisc& disc) {
     TestShell user(disc);
     user.Do("start");
     const Milliseconds before = user.host.Now();
-    user.Do("click ButtonM0");
+    user.Do("click Exit");
     EXPECT_EQ(user.host.Now() - before, 200 + 2001) << "whatever is heard";
     voices.insert(user.host.playerCalls.back().file);
   }

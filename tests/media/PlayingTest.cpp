@@ -7,10 +7,10 @@ namespace orvanta::test {
 namespace {
 
 struct EntryMusic : Story {
-  /// The latch, the player's state and how Start, Pauza and Stop look.
   std::string Look() override {
-    return std::to_string(Main().PressedButton) + "/" + std::to_string(Main().AM3.CurrentState()) + " " +
-           user.Looks({4, 5, 6});
+    const std::string looks = user.Looks({BarButton::Start, BarButton::Pause, BarButton::Stop});
+    return NameOf(Main().PressedButton) + " latched, " + StateOf(Main().AM3) + (looks.empty() ? "" : ", ") +
+           looks;
   }
   double Marker() { return Main().S2.Left; }
   double At() { return Main().AM3.CurrentPosition(); }
@@ -19,34 +19,37 @@ struct EntryMusic : Story {
 
 TEST_F(EntryMusic, GoesThroughItsStates) {
   disc.Sound("x.wav", 1);
-  Tell({{"start, choose 1, aside", "6/-1 002"},
-        {"press 5", "6/-1 002"},
-        {"press 6", "6/-1 002"},
-        {"press 4, run 5000, press 4", "4/2 200"},
-        {"press 5", "5/1 020"}});
+  Tell({{"start, choose 1, aside", "Stop latched, no file, Stop pressed"},
+        {"press Pause", "Stop latched, no file, Stop pressed"},
+        {"press Stop", "Stop latched, no file, Stop pressed"},
+        {"press Start, run 5000, press Start", "Start latched, playing, Start pressed"},
+        {"press Pause", "Pause latched, paused, Pause pressed"}});
   const double held = At(), marker = Marker();
-  Tell({{"run 3000, press 4", "4/2 200"}});
+  Tell({{"run 3000, press Start", "Start latched, playing, Start pressed"}});
   EXPECT_TRUE(At() > held && At() < held + 0.25 && Marker() <= marker + 3) << "it stood still";
-  Tell({{"press 6", "6/0 002"}});
+  Tell({{"press Stop", "Stop latched, stopped, Stop pressed"}});
   EXPECT_EQ(Marker(), 120);
   EXPECT_EQ(user.Calls("song.wav"), "open, position 0.000000, run, pause, run, stop");
-  Tell({{"press 4", "4/2 200"}});
+  Tell({{"press Start", "Start latched, playing, Start pressed"}});
   EXPECT_NEAR(At(), 0.2, 0.1) << "loaded anew";
-  Tell({{"press 5, press 6", "6/0 002"}, {"press 4, click imgUp", "-1/0 200"}});
-  Tell({{"choose 3, choose 0, aside", "6/0 002"}, {"press 4", "4/2 200"}, {"press 6", "6/0 002"}});
+  Tell({{"press Pause, press Stop", "Stop latched, stopped, Stop pressed"},
+        {"press Start, click imgUp", "none latched, stopped, Start pressed"}});
+  Tell({{"choose 3, choose 0, aside", "Stop latched, stopped, Stop pressed"},
+        {"press Start", "Start latched, playing, Start pressed"},
+        {"press Stop", "Stop latched, stopped, Stop pressed"}});
   EXPECT_EQ(user.Calls("second.wav"), "open, position 0.000000, run, stop") << "the next entry loads its own";
   disc.Set("VOICES", "Tool0", "x.wav");
-  Tell({{"press 7", "-1/0 002"}});
+  Tell({{"press About", "none latched, stopped, Stop pressed"}});
   EXPECT_EQ(user.Calls("x.wav"), "") << "a cue plays nothing and resets the latch";
 }
 
 TEST_F(EntryMusic, MovesItsMarkerFromEndToEndAndBack) {
-  Tell({{"start, choose 1, press 1, press 4, run 9800", "4/2 200"}});
+  Tell({{"start, choose 1, press SoundOn, press Start, run 9800", "Start latched, playing, Start pressed"}});
   EXPECT_EQ(Main().AM2.CurrentState(), ActiveMovie::kPaused) << "the switch is for the loop alone";
   EXPECT_NEAR(Marker(), 120 + 200 * 0.5, 2);
   user.Do("leave, run 5000");
   EXPECT_NEAR(Marker(), 120 + 200 * 0.75, 12) << "it goes on behind another program's window";
-  Tell({{"run 5200", "6/0 002"}});
+  Tell({{"run 5200", "Stop latched, stopped, Stop pressed"}});
   EXPECT_EQ(Marker(), 120);
   EXPECT_EQ(MarkerPlace(320, -200, 5, 20), 270);
   EXPECT_EQ(MarkerPlace(0, 5, 1, 2), 2) << "ties go to even";
@@ -56,25 +59,31 @@ TEST_F(EntryMusic, MovesItsMarkerFromEndToEndAndBack) {
 
 TEST_F(EntryMusic, WaitsForASlowFileWhileTheUserGoesOn) {
   LoadsFor(1500);
-  user.Do("start, choose 1, hover ButtonM4, after 600 aside");
-  Expect(500, "6/2 202");
-  Expect(900, "6/2 002");
-  EXPECT_NEAR(Takes("click ButtonM4"), 1500, 60);
+  user.Do("start, choose 1, hover Start, after 600 aside");
+  Expect(500, "Stop latched, playing, Start pressed, Stop pressed");
+  Expect(900, "Stop latched, playing, Stop pressed");
+  EXPECT_NEAR(Takes("click Start"), 1500, 60);
   // Latched with the look that the hover left; twice started it takes that look back itself.
-  Tell({{"run 0", "4/2 000"}, {"press 6, after 700 click ButtonM4, click ButtonM4", "4/2 000"}});
+  Tell({{"run 0", "Start latched, playing"},
+        {"press Stop, after 700 click Start, click Start", "Start latched, playing"}});
   EXPECT_TRUE(user.Calls("song.wav").ends_with("stop, open, position 0.000000, run, position 0.000000, run"));
-  Tell({{"press 6, after 700 click ButtonM5, click ButtonM4, aside", "4/2 200"},
-        {"press 6, after 700 click imgUp, click ButtonM4, aside", "4/2 002"},  // left, it still plays
-        {"choose 0", "-1/0 002"}});
+  Tell({{"press Stop, after 700 click Pause, click Start, aside", "Start latched, playing, Start pressed"},
+        {"press Stop, after 700 click imgUp, click Start, aside",
+         "Start latched, playing, Stop pressed"},  // left, it still plays
+        {"choose 0", "none latched, stopped, Stop pressed"}});
 }
 
 TEST_F(EntryMusic, GivesUpOnAFileThatDoesNotOpenAfterTwoSeconds) {
   disc.Set("Piosenka", "Parameters", "%:\\brak.wav");
   user.Do("start, choose 1");
-  EXPECT_NEAR(Takes("click ButtonM4"), 2000, 60);
-  Tell({{"aside, run 1000", "4/-1 100"}, {"click imgUp", "-1/-1 100"}});
-  Tell({{"choose 3, choose 0, press 4", "4/2 200"}, {"click imgUp, choose 1, aside", "6/0 002"}});
-  Tell({{"press 4", "6/0 002"}});  // after an earlier file it looks like the end of the music
+  EXPECT_NEAR(Takes("click Start"), 2000, 60);
+  Tell({{"aside, run 1000", "Start latched, no file, Start over"},
+        {"click imgUp", "none latched, no file, Start over"}});
+  Tell({{"choose 3, choose 0, press Start", "Start latched, playing, Start pressed"},
+        {"click imgUp, choose 1, aside", "Stop latched, stopped, Stop pressed"}});
+  Tell(
+      {{"press Start",
+        "Stop latched, stopped, Stop pressed"}});  // after an earlier file it looks like the end of the music
   EXPECT_TRUE(user.host.messages.empty());
 }
 
@@ -84,15 +93,16 @@ struct Cinema : Story {
     HeadlessWindow* top = user.host.windows.back();
     return top->kind == WindowKind::FullScreen && top->visible ? top : nullptr;
   }
-  /// The latch, the player's state, how play, stop and pause look, and where the film is.
   std::string Look() override {
-    EXPECT_EQ(Kino().ButtonM(4).Visible(), WholeScreen() != nullptr);
-    EXPECT_NE(Kino().ButtonM(3).Visible(), WholeScreen() != nullptr);
-    return std::to_string(Kino().PressedButton) + "/" + std::to_string(Kino().AM0.CurrentState()) + " " +
-           LookOf(Kino().ButtonM(0)) + LookOf(Kino().ButtonM(1)) + LookOf(Kino().ButtonM(2)) +
-           (WholeScreen()                         ? " whole"
-            : Kino().AM0.Left() >= Kino().Width() ? " aside"
-                                                  : "");
+    EXPECT_EQ(Kino().ButtonM(KinoButton::Window).Visible(), WholeScreen() != nullptr);
+    EXPECT_NE(Kino().ButtonM(KinoButton::FullScreen).Visible(), WholeScreen() != nullptr);
+    std::string text = NameOf(Kino().PressedButton) + " latched, " + StateOf(Kino().AM0);
+    for (const KinoButton button : {KinoButton::Play, KinoButton::Stop, KinoButton::Pause}) {
+      const std::string look = NamedLook(button, Kino().ButtonM(button));
+      text += (look.empty() ? "" : ", ") + look;
+    }
+    if (WholeScreen()) return text + ", whole screen";
+    return text + (Kino().AM0.Left() >= Kino().Width() ? ", aside" : "");
   }
   /// Something to click, so long after the step before it, and what is seen a moment later.
   using Step = std::tuple<int, std::string, std::string>;
@@ -104,7 +114,7 @@ struct Cinema : Story {
       user.Do("after " + std::to_string(at) + " click " + what);
       Expect(at + 250, seen);
     }
-    user.Do("after " + std::to_string(at + 1000) + " click kino1, click ButtonM9");
+    user.Do("after " + std::to_string(at + 1000) + " click kinoStop, click Film");
     EXPECT_EQ(user.host.windows.size(), 6U);
   }
 };
@@ -112,11 +122,14 @@ struct Cinema : Story {
 TEST_F(Cinema, OpensPlayingAndPutsTheFilmOnItsPlaceWithTheNextTick) {
   user.host.media["film.avi"].film = {15, 13};
   user.Do("start, choose 2");
-  Expect(1011, "0/2 200 aside");
+  Expect(1011, "Play latched, playing, Play pressed, aside");
   After(1250, [&] {
     // Half of an odd size goes to the even neighbour: 7.5 is 8, 6.5 is 6.
     EXPECT_EQ(Kino().AM0.Bounds(), (Rect{300 - 8, 200 - 6, 15, 13}));
-    user.host.OnSleep = [&] { EXPECT_EQ(Look(), "1/2 220") << "seen pressed before it closes"; };
+    user.host.OnSleep = [&] {
+      EXPECT_EQ(Look(), "Stop latched, playing, Play pressed, Stop pressed")
+          << "seen pressed before it closes";
+    };
   });
   Watch({});
   EXPECT_EQ(user.host.sleeps.back().duration, 100);
@@ -125,44 +138,47 @@ TEST_F(Cinema, OpensPlayingAndPutsTheFilmOnItsPlaceWithTheNextTick) {
 TEST_F(Cinema, PausesPlaysOnFillsTheScreenAndStandsAtTheEnd) {
   user.Do("start, choose 2");
   for (const int delay : {4700, 6000}) After(1001 + delay, [&] { user.host.Click({5, 5}); });
-  Watch({{2000, "kino2", "2/1 002"},
-         {300, "kino2", "2/1 002"},
-         {1000, "kino0", "0/2 200"},
-         {300, "kino0", "0/2 200"},
-         {700, "kino3", "0/2 200 whole"},
-         {900, "kino2", "2/1 002"},
-         {300, "kino3", "2/1 002 whole"}});
+  Watch({{2000, "kinoPause", "Pause latched, paused, Pause pressed"},
+         {300, "kinoPause", "Pause latched, paused, Pause pressed"},
+         {1000, "kinoPlay", "Play latched, playing, Play pressed"},
+         {300, "kinoPlay", "Play latched, playing, Play pressed"},
+         {700, "kinoFullScreen", "Play latched, playing, Play pressed, whole screen"},
+         {900, "kinoPause", "Pause latched, paused, Pause pressed"},
+         {300, "kinoFullScreen", "Pause latched, paused, Pause pressed, whole screen"}});
   EXPECT_EQ(user.Calls("film.avi"), "open, pause, run, pause, run, pause, run, pause, stop, stop");
   user.host.media["film.avi"].seconds = 2;
   const std::size_t before = user.host.playerCalls.size();
-  Watch({{2500, "kino2", "-1/0 001"}, {300, "kino0", "0/2 200"}});
+  Watch({{2500, "kinoPause", "none latched, stopped, Pause over"},
+         {300, "kinoPlay", "Play latched, playing, Play pressed"}});
   EXPECT_EQ(user.Calls("film.avi", before), "open, run, stop, stop") << "played again without a new file";
 }
 
 TEST_F(Cinema, ALargeFilmTakesTheClicksAboveTheButtonsAndFillsTheScreenInOneDimension) {
   user.host.screen = {1920, 1080};
   user.host.media["film.avi"].film = {854, 480};
-  user.Do("start, choose 2, after 2000 click kino2, after 3000 close");
-  Expect(2250, "0/2 201");  // looks go by the place of the cursor alone
+  user.Do("start, choose 2, after 2000 click kinoPause, after 3000 close");
+  Expect(2250,
+         "Play latched, playing, Play pressed, Pause over");  // looks go by the place of the cursor alone
   After(2500, [&] {
-    Kino().ButtonM_Click(3);
+    Kino().ButtonM_Click(KinoButton::FullScreen);
     EXPECT_EQ(WholeScreen()->Look().strokes.back().whole, (Rect{0, 0, 1920, 1079}));
   });
-  user.Do("click ButtonM9");
+  user.Do("click Film");
 }
 
 TEST_F(Cinema, WaitsForASlowFilmAndLeavesTheMainWindowAlone) {
   user.host.media["film.avi"].loadDelay = 700;
-  user.Do("start, choose 2, after 2000 hover kino1, after 2500 click ButtonM0");
-  Expect(1400, "0/2 200 aside");
+  user.Do("start, choose 2, after 2000 hover kinoStop, after 2500 click Exit");
+  Expect(1400, "Play latched, playing, Play pressed, aside");
   After(1900, [&] { Kino().Left = Kino().Left + 1500; });  // the buttons go with the window
-  Expect(2450, "0/2 210");
-  Expect(2750, "0/2 200");
-  After(2750, [&] { EXPECT_EQ(user.Looks({0, 9}), "00"); });
-  user.Do("after 3000 click kino3, after 3500 close, click ButtonM9, run 1000");
+  Expect(2450, "Play latched, playing, Play pressed, Stop over");
+  Expect(2750, "Play latched, playing, Play pressed");
+  After(2750, [&] { EXPECT_EQ(user.Looks({BarButton::Exit, BarButton::Film}), ""); });
+  user.Do("after 3000 click kinoFullScreen, after 3500 close, click Film, run 1000");
   EXPECT_EQ(user.host.windows.size(), 6U) << "closed on the whole screen too";
   disc.Set("Film", "Parameters", "%:\\brak.avi");
-  Watch({{3000, "kino0", "0/-1 200 aside"}});  // one that does not open can only be closed
+  Watch({{3000, "kinoPlay",
+          "Play latched, no file, Play pressed, aside"}});  // one that does not open can only be closed
   EXPECT_FALSE(user.ended) << "the main window takes no clicks";
 }
 

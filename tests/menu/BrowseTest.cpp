@@ -42,7 +42,7 @@ TEST_F(Browse, GoesDownBothFilesAndComesBackLevelByLevelOrInOneStep) {
         {"choose 0", "2 Logiczne: Gra MAINMENU"},
         {"choose 0", "3 Gra (entry)"},
         {"click imgBack", "2 Logiczne: Gra MAINMENU"},
-        {"click ButtonM3", "2 (help)"},
+        {"click Help", "2 (help)"},
         {"click imgBack", "1 Gry (help) Logiczne"},
         {"click imgPomoc", "1 Gry: Logiczne"},
         {"choose 0, choose 1, choose 0", "4 Gry: Logiczne"},  // round in a circle, deeper than the disc says
@@ -57,7 +57,7 @@ TEST_F(Browse, GoesWhereTheUserGoesWhileTheMusicFallsSilentForAnEntry) {
         {"hover lblPos10, after 900 click imgUp, click lblPos10, run 100", "0: Gry Muzyka Filmy"}});
   EXPECT_EQ(Main().AM2.CurrentState(), ActiveMovie::kRunning);
   EXPECT_FALSE(Hourglass() || user.Button(9).Visible());
-  Tell({{"choose 0, hover lblPos10, after 900 click ButtonM3, click lblPos10", "2 (help)"},
+  Tell({{"choose 0, hover lblPos10, after 900 click Help, click lblPos10", "2 (help)"},
         {"click imgPomoc", "2 Film (entry)"}});
 }
 
@@ -105,7 +105,7 @@ TEST_F(Browse, SweepsTheCrosshairToTheCursorBeforeAClickActs) {
 TEST_F(Browse, MeetsClicksInTheMiddleOfTheCrosshair) {
   // A second label is not taken; the help page takes the list away.
   Tell({{"start, hover lblPos10, after 5 click lblPos12, click lblPos10, run 2000", "1 Gry: Logiczne"},
-        {"click imgUp, hover lblPos12, after 5 click ButtonM3, click lblPos12, run 2000", "0 (help)"}});
+        {"click imgUp, hover lblPos12, after 5 click Help, click lblPos12, run 2000", "0 (help)"}});
   EXPECT_FALSE(Main().Line2(0).Visible);
 }
 

@@ -40,11 +40,11 @@ TEST_F(Detail, AFourthShotBringsTheSliderWhoseVariablesThePagesShare) {
         {"drag imgSSuwak 400, drop", "200 -84.0"}});
   EXPECT_EQ(Main().imgSSuwak.Bounds(), (Rect{140, 200, 16, 20}));
   EXPECT_EQ(Main().picShot(3).Top + Main().picShot(3).Height, 253);
-  Tell({{"drag imgSSuwak -400, drop, click ButtonM3", "20 6.0"}});
+  Tell({{"drag imgSSuwak -400, drop, click Help", "20 6.0"}});
   EXPECT_EQ(Main().slider.SuwakRange, 600 - 309) << "the tall page has set up the other one";
   // The next entry begins at the top and remembers the last place of the knob: a move to where it stood
   // before does not move the pictures.
-  Tell({{"click ButtonM3, drag imgSSuwak 40, drop", "60 -14.0"},
+  Tell({{"click Help, drag imgSSuwak 40, drop", "60 -14.0"},
         {"click imgUp, choose 2", "20 6.0"},
         {"drag imgSSuwak 40, drop", "60 6.0"},
         {"drag imgSSuwak 1, drop", "61 -14.5"},
@@ -58,11 +58,12 @@ TEST_F(Detail, TheViewerShowsThePictureThatIsThereAndTheTickGoesOn) {
   user.Do("start, choose 0");
   disc.Picture("shot.gif", 10, 10);
   const std::size_t loads = user.host.pictures.size();
-  user.Do("after 800 hover ButtonM8, after 1000 click picPic");
+  user.Do("after 800 hover Minimise, after 1000 click picPic");
   After(900, [&] {
     EXPECT_EQ(user.shell.frmShowPic->lblTxt.Caption(), "kliknij rysunek aby zniknął...  ");
     EXPECT_EQ(user.host.pictures.size(), loads) << "nothing is read anew";
-    EXPECT_EQ(user.Looks({8}), "1") << "the tick goes on: the viewer counts as active";
+    EXPECT_EQ(user.Looks({BarButton::Minimise}), "Minimise over")
+        << "the tick goes on: the viewer counts as active";
   });
   user.Do("click picShot0");
   EXPECT_TRUE(!user.shell.frmShowPic.Loaded() && !user.shell.modMain.ShowPicOpen && !user.ended);

@@ -52,9 +52,9 @@ TEST_F(Slider, ScrollsTheListWithinItsLimitsAndStartsAgainAtTheTop) {
 
 TEST_F(Slider, ScrollsALongPageAndNothingThatFits) {
   disc.Set("SLIDER", "YMax", "242");
-  user.Do("start, click ButtonM3, drag imgSuwak 101, drop");
+  user.Do("start, click Help, drag imgSuwak 101, drop");
   EXPECT_EQ(Main().imgPomoc.Top(), -(101.0F * (291.0F / 202.0F))) << "no whole pixels here";
-  user.Do("click ButtonM7");
+  user.Do("click About");
   EXPECT_FALSE(Main().imgSuwak.Visible) << "this page fits";
   Tell({{"click imgSeven", "40 15"}});
   EXPECT_TRUE(Main().imgSuwak.Visible);

@@ -75,7 +75,7 @@ class Monkey : TestShell {
     Main().imgUp_Click();
     Run(1300);
     Must(Main().MenuLevel == 0, "the way up leads to the root");
-    Must(Main().PressedButton == -1, "no button is latched in a list");
+    Must(Main().PressedButton == BarButton::None, "no button is latched in a list");
     Must(Main().AM3.CurrentState() <= ActiveMovie::kStopped, "an entry's music ends when it is left");
     CheckRest();
   }
@@ -88,7 +88,7 @@ class Monkey : TestShell {
 
   void Click(Point at) {
     // Most clicks on the exit button are spared, else no life would be long.
-    const Rect exit = Button(0).Bounds().Moved({Main().Place().left, Main().Place().top});
+    const Rect exit = Button(BarButton::Exit).Bounds().Moved({Main().Place().left, Main().Place().top});
     if (exit.Contains(at) && Dice(20) != 0) return host.MoveMouse(at);
     host.Click(at);
     held_ &= ~kLeftButton;
@@ -133,7 +133,7 @@ class Monkey : TestShell {
 
   /// What holds whatever the user does.
   void Check() {
-    const Image &on = Button(1), &off = Button(2);
+    const Image &on = Button(BarButton::SoundOn), &off = Button(BarButton::SoundOff);
     const int arrays = Main().lblPos1.UBound() + Main().picShot.UBound();
     const auto levels = static_cast<int>(Main().MenuPath.size());
     Must(on.Visible != off.Visible, "one of the two sound buttons is there");
@@ -144,16 +144,18 @@ class Monkey : TestShell {
     CheckTransport(Main().PressedButton, Main().AM3.CurrentState());
   }
 
-  void CheckTransport(int latch, int state) {
-    const bool pressed = latch < 0 || Button(latch).Picture() == Main().ImageList1(latch * 3 + 3);
-    Must(latch == -1 || (latch >= 4 && latch <= 6), "the latch is one of the transport buttons");
-    Must(latch != 5 || pressed, "a latched Pauza looks pressed");
+  void CheckTransport(BarButton latch, int state) {
+    using enum BarButton;
+    const bool pressed = latch == None || Button(latch).Picture() ==
+                                              Main().ImageList1(PictureEntry(latch, ButtonPicture::Pressed));
+    Must(latch == None || latch == Start || latch == Pause || latch == Stop, "only transport buttons latch");
+    Must(latch != Pause || pressed, "a latched Pauza looks pressed");
     // What follows holds unless the mouse has meddled with a wait.
-    if (meddled_ || Waits() || Main().picTlo.Visible || !Button(6).Visible) return;
-    Must(latch != 4 || state != ActiveMovie::kPaused, "a latched Start means that music plays");
-    Must(latch != 5 || state == ActiveMovie::kPaused, "a latched Pauza means that music is paused");
-    Must(latch != 6 || state <= ActiveMovie::kStopped, "a latched Stop means that nothing plays");
-    Must(latch != 6 || pressed, "a latched Stop looks pressed");
+    if (meddled_ || Waits() || Main().picTlo.Visible || !Button(Stop).Visible) return;
+    Must(latch != Start || state != ActiveMovie::kPaused, "a latched Start means that music plays");
+    Must(latch != Pause || state == ActiveMovie::kPaused, "a latched Pauza means that music is paused");
+    Must(latch != Stop || state <= ActiveMovie::kStopped, "a latched Stop means that nothing plays");
+    Must(latch != Stop || pressed, "a latched Stop looks pressed");
   }
 
   void CheckRest() {

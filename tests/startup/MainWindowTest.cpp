@@ -84,7 +84,7 @@ TEST_F(MainWindow, TakesLeaveInOrderAndLeavesASecondShellAlone) {
   Expect(1500, kGroup);  // all stands while the exit voice has its two seconds
   After(1500, [&] { EXPECT_TRUE(user.host.fonts.empty()); });
   const std::size_t calls = user.host.playerCalls.size();
-  Tell({{"click ButtonM0", "Main "}});
+  Tell({{"click Exit", "Main "}});
   EXPECT_TRUE(user.ended);
   EXPECT_EQ(user.host.playerCalls.at(calls).call, "stop") << "first the music stops";
   EXPECT_EQ(user.host.playerCalls.at(calls + 1).file, "exit1.wav");

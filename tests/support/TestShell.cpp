@@ -4,6 +4,15 @@
 
 namespace orvanta::test {
 
+namespace {
+
+// By Index.
+const std::array<std::string, 10> kBarNames = {"Exit",  "SoundOn", "SoundOff", "Help",     "Start",
+                                               "Pause", "Stop",    "About",    "Minimise", "Film"};
+const std::array<std::string, 5> kKinoNames = {"Play", "Stop", "Pause", "FullScreen", "Window"};
+
+}  // namespace
+
 void TestShell::Do(const std::string& script) {
   std::istringstream list(script);
   for (std::string command; std::getline(list >> std::ws, command, ',');) DoOne(command);
@@ -23,7 +32,7 @@ void TestShell::DoOne(const std::string& command) {
   if (verb == "start") return Launch(), Run(8000);
   if (verb == "run") return Run(std::stoi(what));
   if (verb == "choose") return Do("hover lblPos1" + what + ", click lblPos1" + what + ", run 2000");
-  if (verb == "press") return Do("click ButtonM" + what + ", aside, run 100");
+  if (verb == "press") return Do("click " + what + ", aside, run 100");
   if (verb == "drag") {
     Do("hover " + what);
     host.Press();
@@ -55,7 +64,10 @@ Form& TestShell::Front() {
 }
 
 Control& TestShell::Find(const std::string& name) {
-  if (name.starts_with("kino")) return shell.frmKino->ButtonM(std::stoi(name.substr(4)));
+  for (std::size_t i = 0; i < kBarNames.size(); ++i)
+    if (name == kBarNames[i]) return Main().ButtonM(static_cast<int>(i));
+  for (std::size_t i = 0; i < kKinoNames.size(); ++i)
+    if (name == "kino" + kKinoNames[i]) return shell.frmKino->ButtonM(static_cast<int>(i));
   for (const Form* form : {&Front(), static_cast<Form*>(&Main())}) {
     if (form == shell.frmKino.Loaded()) continue;
     for (Control* control : form->Controls()) {
@@ -76,9 +88,12 @@ Point TestShell::MiddleOf(const Control& control) const {
   return {place.left + box.left + box.width / 2, place.top + box.top + box.height / 2};
 }
 
-std::string TestShell::Looks(std::initializer_list<int> buttons) {
+std::string TestShell::Looks(std::initializer_list<BarButton> buttons) {
   std::string looks;
-  for (const int i : buttons) looks += LookOf(Button(i));
+  for (const BarButton button : buttons) {
+    const std::string look = NamedLook(button, Button(button));
+    looks += (looks.empty() || look.empty() ? "" : ", ") + look;
+  }
   return looks;
 }
 
@@ -97,7 +112,24 @@ std::string Shown(const Image& image) {
 
 std::string LookOf(const Image& button) {
   const std::string name = Shown(button);
-  return name.size() < 5 ? "-" : name.substr(name.size() - 5, 1);
+  return name.ends_with("1.gif") ? "over" : name.ends_with("2.gif") ? "pressed" : "";
+}
+
+std::string StateOf(const ActiveMovie& player) {
+  switch (player.CurrentState()) {
+    case ActiveMovie::kNoFile: return "no file";
+    case ActiveMovie::kStopped: return "stopped";
+    case ActiveMovie::kPaused: return "paused";
+    default: return "playing";
+  }
+}
+
+std::string NameOf(BarButton button) {
+  return button == BarButton::None ? "none" : kBarNames.at(static_cast<std::size_t>(button));
+}
+
+std::string NameOf(KinoButton button) {
+  return button == KinoButton::None ? "none" : kKinoNames.at(static_cast<std::size_t>(button));
 }
 
 }  // namespace orvanta::test

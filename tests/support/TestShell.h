@@ -16,7 +16,10 @@ class TestShell {
   bool ended = false;  ///< the program has ended by itself
 
   MainForm& Main() { return *shell.MainForm; }
-  Image& Button(int i) { return Main().ButtonM(i); }
+  template <class Index>
+  Image& Button(Index i) {
+    return Main().ButtonM(i);
+  }
 
   /// Calls `Main` and returns with the start screen.
   void Launch() {
@@ -30,8 +33,8 @@ class TestShell {
   ///   start                       launches the shell and lets everything load
   ///   run 500                     lets the time pass
   ///   choose 2                    clicks a label of the list and waits for the crosshair and what follows
-  ///   press 4                     clicks a button of the bar and moves the mouse aside
-  ///   click imgUp, hover kino0    a control of the main window or the viewer, or a button of the cinema
+  ///   press Start                 clicks a button of the bar and moves the mouse aside
+  ///   click imgUp, hover kinoStop a control of the window in front or a button, by its name in `BarButton`
   ///   aside                       moves the mouse to where the main window has no control
   ///   drag imgSuwak 30, drop      takes a control and moves the mouse down by so many pixels; lets go
   ///   leave, return               to another program, to this one
@@ -44,8 +47,8 @@ class TestShell {
   Point MiddleOf(const Control& control) const;
   /// The viewer or the cinema if one is open, else the main window.
   Form& Front();
-  /// How buttons of the bar look: 0 normal, 1 under the cursor, 2 pressed.
-  std::string Looks(std::initializer_list<int> buttons);
+  /// How buttons of the bar look: "Start over, Stop pressed", empty if all are normal.
+  std::string Looks(std::initializer_list<BarButton> buttons);
   /// What was asked of the player that holds `file`, from the `from`-th of all calls on: "open, run".
   std::string Calls(const std::string& file, std::size_t from = 0) const;
 
@@ -66,7 +69,17 @@ class TestShell {
 
 /// File name of the picture that a control shows now; empty if it has none.
 std::string Shown(const Image& image);
-/// The digit of a button's picture: 0 normal, 1 under the cursor, 2 pressed.
+/// How a button looks: "over" under the cursor, "pressed", else empty.
 std::string LookOf(const Image& button);
+/// "no file", "stopped", "paused" or "playing".
+std::string StateOf(const ActiveMovie& player);
+
+std::string NameOf(BarButton button);
+std::string NameOf(KinoButton button);
+/// The name of a button with its look, empty if that is the normal one: "Start pressed".
+template <class Button>
+std::string NamedLook(Button button, const Image& image) {
+  return LookOf(image).empty() ? "" : NameOf(button) + " " + LookOf(image);
+}
 
 }  // namespace orvanta::test

@@ -26,7 +26,7 @@ class GalleryWalk {
  private:
   void StartScreen();
   void Pages();
-  void Page(Image& page, std::int16_t button, const char* title);
+  void Page(Image& page, BarButton button, const char* title);
   void PointAt(const Image& button);
   void Tree();
   void Visit(std::size_t node);

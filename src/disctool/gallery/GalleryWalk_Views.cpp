@@ -7,8 +7,6 @@
 namespace orvanta {
 namespace {
 
-// Buttons of the main window and of the cinema.
-constexpr std::int16_t kHelpButton = 3, kAboutButton = 7, kFilmButton = 9, kCinemaStop = 1;
 constexpr int kLabelHeight = 26, kShotHeight = 82;
 /// How long a window may take to stand as it will; the cinema waits for a second and then places the film.
 constexpr Milliseconds kViewerTime = 100, kCinemaTime = 3000;
@@ -30,11 +28,11 @@ void GalleryWalk::StartScreen() {
 }
 
 void GalleryWalk::Pages() {
-  Page(shell_.MainForm->imgPomoc, kHelpButton, "Help page");
-  Page(shell_.MainForm->imgSeven, kAboutButton, "About page");
+  Page(shell_.MainForm->imgPomoc, BarButton::Help, "Help page");
+  Page(shell_.MainForm->imgSeven, BarButton::About, "About page");
 }
 
-void GalleryWalk::Page(Image& page, std::int16_t button, const char* title) {
+void GalleryWalk::Page(Image& page, BarButton button, const char* title) {
   MainForm& main = *shell_.MainForm;
   PointAt(main.ButtonM(button));
   main.ButtonM_Click(button);
@@ -119,8 +117,8 @@ void GalleryWalk::Viewer() {
 
 void GalleryWalk::Cinema() {
   SaveModal(
-      shell_.frmKino, kCinemaTime, [&] { shell_.MainForm->ButtonM_Click(kFilmButton); },
-      [](frmKino& cinema) { cinema.ButtonM_Click(kCinemaStop); });
+      shell_.frmKino, kCinemaTime, [&] { shell_.MainForm->ButtonM_Click(BarButton::Film); },
+      [](frmKino& cinema) { cinema.ButtonM_Click(KinoButton::Stop); });
 }
 
 }  // namespace orvanta

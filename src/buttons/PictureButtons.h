@@ -1,0 +1,81 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "config/Schema.h"
+
+namespace orvanta {
+
+class Image;
+class ImageList;
+class Shell;
+
+/// The buttons of the main window's bar, by their `Index`.
+enum class BarButton : std::int16_t {
+  None = -1,
+  Exit,
+  SoundOn,   ///< there while the sound is on; a click turns it off
+  SoundOff,  ///< there while the sound is off; a click turns it on
+  Help,
+  Start,
+  Pause,
+  Stop,
+  About,
+  Minimise,
+  Film
+};
+
+/// The buttons of the cinema, by their `Index`.
+enum class KinoButton : std::int16_t {
+  None = -1,
+  Play,
+  Stop,
+  Pause,
+  FullScreen,  ///< there while the film is in the window
+  Window       ///< there while the film has the whole screen
+};
+
+/// The keys of a button's art and place, and the name of its first picture in the form's `ImageList1`.
+struct ButtonKeys {
+  KeyRef<Kind::Base> base;
+  KeyRef<Kind::Whole> left, top;
+  const char* name;
+};
+
+inline constexpr std::array<ButtonKeys, 10> kBarButtons{{
+    {{"GLOBAL", "ExtB"}, {"GLOBAL", "ExtX"}, {"GLOBAL", "ExtY"}, "ext"},
+    {{"GLOBAL", "Snd1B"}, {"GLOBAL", "Snd1X"}, {"GLOBAL", "Snd1Y"}, "snd1"},
+    {{"GLOBAL", "Snd2B"}, {"GLOBAL", "Snd2X"}, {"GLOBAL", "Snd2Y"}, "snd2"},
+    {{"GLOBAL", "HlpB"}, {"GLOBAL", "HlpX"}, {"GLOBAL", "HlpY"}, "hlp"},
+    {{"GLOBAL", "StartB"}, {"GLOBAL", "StartX"}, {"GLOBAL", "StartY"}, "Start"},
+    {{"GLOBAL", "PauzaB"}, {"GLOBAL", "PauzaX"}, {"GLOBAL", "PauzaY"}, "Pauza"},
+    {{"GLOBAL", "StopB"}, {"GLOBAL", "StopX"}, {"GLOBAL", "StopY"}, "Stop"},
+    {{"GLOBAL", "InfoB"}, {"GLOBAL", "InfoX"}, {"GLOBAL", "InfoY"}, "Info"},
+    {{"GLOBAL", "MinB"}, {"GLOBAL", "MinX"}, {"GLOBAL", "MinY"}, "Min"},
+    {{"GLOBAL", "PokazB"}, {"GLOBAL", "PokazX"}, {"GLOBAL", "PokazY"}, "Pokaz"},
+}};
+
+inline constexpr std::array<ButtonKeys, 5> kKinoButtons{{
+    {{"CINEMA", "CPlayB"}, {"CINEMA", "CPlayX"}, {"CINEMA", "CPlayY"}, "cplay"},
+    {{"CINEMA", "CStopB"}, {"CINEMA", "CStopX"}, {"CINEMA", "CStopY"}, "cstop"},
+    {{"CINEMA", "CpauseB"}, {"CINEMA", "CPauseX"}, {"CINEMA", "CPauseY"}, "cpause"},
+    {{"CINEMA", "CScaleB"}, {"CINEMA", "CScaleX"}, {"CINEMA", "CScaleY"}, "cscale"},
+    {{"CINEMA", "CFScaleB"}, {"CINEMA", "CFScaleX"}, {"CINEMA", "CFScaleY"}, "cfscale"},
+}};
+
+/// The three pictures of a button.
+enum class ButtonPicture { Normal = 1, Over = 2, Pressed = 3 };
+
+/// The number of a button's picture in its form's `ImageList1`.
+constexpr int PictureEntry(int index, ButtonPicture picture) { return index * 3 + static_cast<int>(picture); }
+template <class Button>
+constexpr int PictureEntry(Button button, ButtonPicture picture) {
+  return PictureEntry(static_cast<int>(button), picture);
+}
+
+/// Appends the button's three pictures to the list and puts the button in its place. The buttons of a form
+/// are loaded in the order of their `Index`.
+void LoadButton(Shell& shell, Image& button, ImageList& pictures, const ButtonKeys& keys);
+
+}  // namespace orvanta
