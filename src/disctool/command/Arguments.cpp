@@ -24,6 +24,13 @@ bool NeedsNoArgument(const Request& request) {
   return request.Has("clear-cache") || request.Has("from") || request.Has("explain");
 }
 
+/// Whether an option takes a value.
+bool Fits(const OptionInfo& option, const std::string& value) {
+  if (option.name != "zoom") return true;
+  const bool isNumber = value.size() == 1 && value[0] >= '1' && value[0] <= '8';
+  return isNumber || (value == "auto" && option.value.ends_with("auto"));
+}
+
 class Parser {
  public:
   explicit Parser(std::span<const std::string> arguments) : arguments_(arguments) {}
@@ -91,7 +98,9 @@ class Parser {
       value = arguments_[++at_];
     } else {
       request_.problem = Translated("--%1 needs a value", option->name);
+      return;
     }
+    if (!Fits(*option, value)) request_.problem = Translated("--%1 cannot be '%2'", option->name, value);
   }
 
   void CheckWords() {
@@ -120,6 +129,11 @@ class Parser {
 std::string Request::Option(std::string_view option) const {
   const auto found = options.find(option);
   return found == options.end() ? std::string() : found->second;
+}
+
+std::optional<int> Request::Zoom() const {
+  const std::string value = Option("zoom");
+  return value.empty() || value == "auto" ? std::optional<int>() : value[0] - '0';
 }
 
 Request ParseArguments(std::span<const std::string> arguments) { return Parser(arguments).Parse(); }

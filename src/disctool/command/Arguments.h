@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -20,6 +21,8 @@ struct Request {
   bool Has(std::string_view option) const { return options.contains(option); }
   /// Empty if the option is not given.
   std::string Option(std::string_view option) const;
+  /// None for `auto` and without the option.
+  std::optional<int> Zoom() const;
 };
 
 /// Reads the arguments of the tool, without its own name, by the table of commands. Options and arguments may

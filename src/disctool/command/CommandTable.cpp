@@ -10,6 +10,8 @@ namespace {
 constexpr OptionInfo kJson{"json", "", Translatable("Write JSON for other programs.")};
 
 constexpr OptionInfo kOpenOptions[] = {
+    {"zoom", "N|auto",
+     Translatable("Show everything N times as large, from 1 to 8. The default, auto, suits the screen.")},
     {"clear-cache", "",
      Translatable("Remove the unpacked copies of images first. Without DISC, do nothing else.")}};
 constexpr ExampleInfo kOpenExamples[] = {{"orvanta-disc open disc.iso", Translatable("Opens an image.")}};

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QProgressDialog>
+#include <QScreen>
 #include <algorithm>
 #include <chrono>
 #include <csignal>
@@ -18,6 +19,7 @@
 #include "disctool/image/DiscCache.h"
 #include "platform/desktop/DesktopHost.h"
 #include "platform/desktop/window/ProgramIcon.h"
+#include "platform/desktop/window/QtScaling.h"
 #include "startup/Shell.h"
 
 namespace orvanta {
@@ -36,7 +38,7 @@ constexpr int kSteps = 1000;
 /// Comes when the work has taken half a second; most discs are open by then.
 class ProgressWindow {
  public:
-  ProgressWindow(int& argc, char** argv) : argc_(argc), argv_(argv) {}
+  ProgressWindow(std::optional<int> zoom, int& argc, char** argv) : zoom_(zoom), argc_(argc), argv_(argv) {}
 
   void Show(std::uintmax_t done, std::uintmax_t all) {
     if (!bar_ && (std::chrono::steady_clock::now() < due_ || !HasDisplay())) return;
@@ -48,6 +50,7 @@ class ProgressWindow {
 
  private:
   void Open() {
+    SwitchOffQtScaling();
     application_.emplace(argc_, argv_);
     QApplication::setWindowIcon(ProgramIcon());
     bar_.emplace(QString::fromStdString(Translated("Unpacking the disc...")),
@@ -55,10 +58,12 @@ class ProgressWindow {
     bar_->setWindowTitle("Orvanta Shell");
     bar_->setMinimumDuration(0);
     bar_->setAutoReset(false);
+    MakeReadable(*bar_, ZoomOfScreen(*bar_->screen(), zoom_));
     // As at a terminal: whoever unpacks tidies up, and the program ends.
     QObject::connect(&*bar_, &QProgressDialog::canceled, [] { std::raise(SIGTERM); });
   }
 
+  const std::optional<int> zoom_;
   int& argc_;
   char** argv_;
   const std::chrono::steady_clock::time_point due_ = std::chrono::steady_clock::now() + kPatience;
@@ -66,20 +71,20 @@ class ProgressWindow {
   std::optional<QProgressDialog> bar_;
 };
 
-std::string Open(const std::filesystem::path& named, int& argc, char** argv) {
-  std::optional<ProgressWindow> window(std::in_place, argc, argv);
+std::string Open(const std::filesystem::path& named, std::optional<int> zoom, int& argc, char** argv) {
+  std::optional<ProgressWindow> window(std::in_place, zoom, argc, argv);
   const OpenedDisc disc = DiscCache().Open(
       named, [&window](std::uintmax_t done, std::uintmax_t all) { window->Show(done, all); });
   window.reset();
-  return disc.problem.empty() ? RunShell(disc.folder, argc, argv) : disc.problem;
+  return disc.problem.empty() ? RunShell(disc.folder, zoom, argc, argv) : disc.problem;
 }
 
 }  // namespace
 
-std::string RunShell(const std::filesystem::path& disc, int& argc, char** argv) {
+std::string RunShell(const std::filesystem::path& disc, std::optional<int> zoom, int& argc, char** argv) {
   if (Catalogue(FolderTree(disc)).Empty()) return NoDiscIn(disc);
   if (!HasDisplay()) return Translated("there is no display to open a window on");
-  DesktopHost host(argc, argv, disc);
+  DesktopHost host(argc, argv, disc, zoom);
   if (host.PrevInstance()) return Translated("the shell is running already on this display");
   Shell shell(host);
   shell.Run();
@@ -91,13 +96,16 @@ bool ErrorsAreRead() {
   return isatty(STDERR_FILENO) != 0 || (fstat(STDERR_FILENO, &status) == 0 && S_ISFIFO(status.st_mode));
 }
 
-std::string OpenInWindows(const std::filesystem::path& disc, int& argc, char** argv) {
-  std::string problem = Open(disc, argc, argv);
+std::string OpenInWindows(const std::filesystem::path& disc, std::optional<int> zoom, int& argc,
+                          char** argv) {
+  std::string problem = Open(disc, zoom, argc, argv);
   if (problem.empty() || !HasDisplay()) return problem;
+  SwitchOffQtScaling();
   const QApplication application(argc, argv);
   QApplication::setWindowIcon(ProgramIcon());
   QMessageBox box(QMessageBox::Critical, "Orvanta Shell", QString::fromStdString(Printable(problem)));
   box.setTextFormat(Qt::PlainText);
+  MakeReadable(box, ZoomOfScreen(*box.screen(), zoom));
   box.exec();
   return problem;
 }

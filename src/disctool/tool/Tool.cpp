@@ -75,8 +75,10 @@ int Open(const Request& request, int& argc, char** argv) {
     const int status = Outcome(DiscCache().Clear());
     if (status != kGood || request.words.empty()) return status;
   }
-  if (!ErrorsAreRead()) return Outcome(OpenInWindows(request.words[0], argc, argv));
-  return WithDisc(request, [&](const fs::path& folder) { return Outcome(RunShell(folder, argc, argv)); });
+  if (!ErrorsAreRead()) return Outcome(OpenInWindows(request.words[0], request.Zoom(), argc, argv));
+  return WithDisc(request, [&](const fs::path& folder) {
+    return Outcome(RunShell(folder, request.Zoom(), argc, argv));
+  });
 }
 
 int Check(const Request& request, int& argc, char** argv) {

@@ -12,6 +12,7 @@
 #include "platform/desktop/window/DesktopWindow.h"
 #include "platform/desktop/window/ProgramIcon.h"
 #include "platform/desktop/window/QtPicture.h"
+#include "platform/desktop/window/QtScaling.h"
 #include "platform/desktop/window/XWindow.h"
 
 namespace orvanta {
@@ -20,13 +21,11 @@ namespace {
 
 constexpr int kCriticalIcon = 16;
 
-/// Before Qt starts: Qt scales nothing by itself, and windows can say where they stand, which
-/// Wayland alone does not let them.
+/// Before Qt starts: a pixel is one of the screen, and windows can say where they stand, which Wayland alone
+/// does not let them.
 int& PreparedForQt(int& argc) {
   argc = std::min(argc, 1);  // Qt would obey options of its own
-  qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
-  qunsetenv("QT_SCALE_FACTOR");
-  qunsetenv("QT_SCREEN_SCALE_FACTORS");
+  SwitchOffQtScaling();
   // Nothing here lives on GLib's main loop, and Qt's own takes half the time to find that nothing happened.
   qputenv("QT_NO_GLIB", "1");
   const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
@@ -35,20 +34,30 @@ int& PreparedForQt(int& argc) {
   return argc;
 }
 
-Rect PlaceOf(const QScreen& screen) {
-  const QRect place = screen.geometry();
-  return {place.x(), place.y(), place.width(), place.height()};
-}
-
 }  // namespace
 
-DesktopHost::DesktopHost(int& argc, char** argv, std::filesystem::path discFolder)
+DesktopHost::DesktopHost(int& argc, char** argv, std::filesystem::path discFolder, std::optional<int> zoom)
     : application_(PreparedForQt(argc), argv),
       discFolder_(std::move(discFolder)),
       instance_(InstanceLock::Acquire(InstancePlaceFromEnvironment())),
-      zoom_{.screen = PlaceOf(*QGuiApplication::primaryScreen())} {
+      chosenZoom_(zoom),
+      zoom_(LookAtScreen()) {
   application_.setQuitOnLastWindowClosed(false);
   clock_.start();
+}
+
+ScreenZoom DesktopHost::LookAtScreen() const {
+  const QScreen& screen = *(mainWindow_ ? mainWindow_->screen() : QGuiApplication::primaryScreen());
+  const QRect place = screen.geometry();
+  return {{place.x(), place.y(), place.width(), place.height()}, ZoomOfScreen(screen, chosenZoom_)};
+}
+
+void DesktopHost::FollowScreen() {
+  const ScreenZoom now = LookAtScreen();
+  if (now == zoom_) return;
+  zoom_ = now;
+  for (QWidget* widget : QApplication::topLevelWidgets())
+    if (auto* window = dynamic_cast<DesktopWindow*>(widget)) window->FollowScreen();
 }
 
 Point DesktopHost::CursorPos() const { return zoom_.ToProgram(cursor_.Place(clock_.elapsed())); }
@@ -74,6 +83,7 @@ void DesktopHost::Bequeath(Form& heir) {
 
 void DesktopHost::TakeInput() {
   QCoreApplication::processEvents();
+  FollowScreen();
   cursor_.Look(Now());
 }
 
@@ -84,6 +94,7 @@ void DesktopHost::WaitForQt(Milliseconds deadline) {
   }
   QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
   wake_.stop();
+  FollowScreen();
   cursor_.Look(Now());
 }
 
@@ -97,6 +108,7 @@ void DesktopHost::MsgBox(const std::string& text, int style, const std::string& 
   box.setWindowIcon(ProgramIcon());
   box.setTextFormat(Qt::PlainText);
   box.setWindowModality(Qt::ApplicationModal);
+  MakeReadable(box, zoom_.factor);
   box.show();
   const EventLoop::Modal modal(Loop(), nullptr);
   Loop().RunUntil([&box] { return !box.isVisible(); });

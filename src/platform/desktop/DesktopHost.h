@@ -24,12 +24,15 @@ namespace orvanta {
 class DesktopHost : public Host {
  public:
   /// `discFolder` is the root of the drive, absolute. Of the arguments none but the program's name is read.
-  DesktopHost(int& argc, char** argv, std::filesystem::path discFolder);
+  /// Without a `zoom` of 1 or more, the screen of the main window decides.
+  DesktopHost(int& argc, char** argv, std::filesystem::path discFolder, std::optional<int> zoom = {});
 
   /// The program's screen, from whose corner every place of the program counts, and its zoom.
   const ScreenZoom& Zoom() const { return zoom_; }
   /// The art of all windows, enlarged.
   EnlargedPictures& Pictures() { return pictures_; }
+  /// The window whose screen is the program's; null if there is none.
+  void SetMainWindow(const QWidget* window) { mainWindow_ = window; }
   /// Lets Qt wait for an event, to `deadline` at the longest, and handle it.
   void WaitForQt(Milliseconds deadline);
   /// The active window goes, and the window manager, who may be slow, has not yet named another one: until
@@ -60,10 +63,15 @@ class DesktopHost : public Host {
   int StartFile(const StartRequest& request) override;
 
  private:
+  ScreenZoom LookAtScreen() const;
+  void FollowScreen();
+
   const ProgramStart programs_;  // before Qt's variables are set: started programs get none of them
   QApplication application_;
   const std::filesystem::path discFolder_;
   const std::optional<InstanceLock> instance_;
+  const std::optional<int> chosenZoom_;
+  const QWidget* mainWindow_ = nullptr;
   ScreenZoom zoom_;
   EnlargedPictures pictures_;
   PrivateFonts fonts_;

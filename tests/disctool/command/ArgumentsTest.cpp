@@ -21,6 +21,9 @@ TEST(Arguments, MistakesGetTheNearestName) {
       {{"check", "--strcit", "a"}, "'check' has no option --strcit; did you mean --strict?"},
       {{"tree", "--strict", "a"}, "'tree' has no option --strict"},
       {{"check", "--json=1", "a"}, "--json takes no value"},
+      {{"open", "--zoom=auto", "a"}, ""},
+      {{"open", "--zoom", "0", "a"}, "--zoom cannot be '0'"},
+      {{"open", "--zoom=2.5", "a"}, "--zoom cannot be '2.5'"},
       {{"--man"}, "--man needs a value"},
       {{"get", "a", "GLOBAL"}, "the arguments of 'get' are: DISC SECTION KEY"},
   };

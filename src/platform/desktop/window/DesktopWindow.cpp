@@ -36,9 +36,13 @@ DesktopWindow::DesktopWindow(DesktopHost& host, Form& form, WindowKind kind)
   setMouseTracking(true);
   if (kind == WindowKind::Plain) setAttribute(Qt::WA_ShowWithoutActivating);
   if (kind == WindowKind::Modal || kind == WindowKind::FullScreen) setWindowModality(Qt::ApplicationModal);
+  if (kind == WindowKind::Main) host_.SetMainWindow(this);
 }
 
-DesktopWindow::~DesktopWindow() { host_.Disinherit(form_); }
+DesktopWindow::~DesktopWindow() {
+  host_.Disinherit(form_);
+  if (kind_ == WindowKind::Main) host_.SetMainWindow(nullptr);
+}
 
 void DesktopWindow::SetPlace(const Rect& place) {
   place_ = place;
@@ -58,7 +62,15 @@ WindowZoom DesktopWindow::Zoom() const {
   return {{place_.width, place_.height}, {shown.width, shown.height}};
 }
 
+void DesktopWindow::FollowScreen() {
+  SetPlace(place_);
+  SetShape(shape_);
+  SetPointer(pointer_);
+  update();
+}
+
 void DesktopWindow::SetShape(const Region& shape) {
+  shape_ = shape;
   const WindowZoom zoom = Zoom();
   QList<QRect> rects;
   for (const Rect& r : shape.Rects()) rects.append(ToQt(zoom.ToScreen(r)));
@@ -70,6 +82,7 @@ void DesktopWindow::SetShape(const Region& shape) {
 void DesktopWindow::SetCaption(const std::string& caption) { setWindowTitle(WindowTitle(caption)); }
 
 void DesktopWindow::SetPointer(Pointer pointer) {
+  pointer_ = pointer;
   setCursor(CursorOf(pointer, host_.Zoom().factor));
   FlushToScreen();
 }

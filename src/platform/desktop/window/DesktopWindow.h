@@ -26,6 +26,8 @@ class DesktopWindow : public QWidget, public FormWindow {
   Form& TheForm() const { return form_; }
   /// How often the widget was painted.
   int PaintCount() const { return paints_; }
+  /// The screen has another size, place or zoom.
+  void FollowScreen();
 
   void SetPlace(const Rect& place) override;
   void SetShape(const Region& shape) override;
@@ -64,6 +66,8 @@ class DesktopWindow : public QWidget, public FormWindow {
   Form& form_;
   const WindowKind kind_;
   Rect place_;
+  Region shape_;
+  Pointer pointer_ = Pointer::Default;
   QRegion dirty_;  // in screen pixels
   bool wasMinimised_ = false;
   bool showing_ = false;

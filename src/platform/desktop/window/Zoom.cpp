@@ -35,6 +35,10 @@ int ZoomFor(Size screen, double dotsPerInch) {
   return enough ? std::max(roomy, wanted) : roomy;
 }
 
+double TextZoom(int zoom, double dotsPerInch) {
+  return std::max(1.0, zoom * kPlainDesktop / std::max(kPlainDesktop, dotsPerInch));
+}
+
 double WindowZoom::ScaleX() const {
   return program.width > 0 ? static_cast<double>(shown.width) / program.width : 1;
 }

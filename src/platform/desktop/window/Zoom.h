@@ -9,6 +9,10 @@ namespace orvanta {
 /// `dotsPerInch` is the desktop's logical resolution, 96 for a factor of 1.
 int ZoomFor(Size screen, double dotsPerInch);
 
+/// How many times larger texts of Qt's own have to be at a zoom. The desktop's resolution enlarges them
+/// already.
+double TextZoom(int zoom, double dotsPerInch);
+
 /// How a window shows the program's pixels. Where `shown` is a multiple of `program`, each is a square of
 /// screen pixels; what is left over makes the last ones larger. Places count from the window's corner.
 struct WindowZoom {
@@ -29,6 +33,7 @@ struct WindowZoom {
 struct ScreenZoom {
   Rect screen;
   int factor = 1;
+  bool operator==(const ScreenZoom&) const = default;
 
   /// What the program takes for the screen's size: rounded down.
   Size ProgramSize() const { return {screen.width / factor, screen.height / factor}; }
