@@ -42,7 +42,10 @@ void Look::Frame(const Rect& area, Rgb colour) {
   for (const int x : {area.left, area.Right() - 1}) Fill({x, area.top, 1, area.height}, colour);
 }
 
-int Look::Count(Rgb colour) const { return static_cast<int>(std::ranges::count(pixels, colour)); }
+int Look::Count(Rgb colour) const {
+  return static_cast<int>(
+      std::ranges::count_if(pixels, [&](Rgb pixel) { return (pixel & ~kMixed) == colour; }));
+}
 
 std::string Difference(const Look& expected, const Look& seen) {
   for (std::size_t i = 0; i < seen.pixels.size(); ++i) {
@@ -55,7 +58,12 @@ std::string Difference(const Look& expected, const Look& seen) {
   return "";
 }
 
-Screen::Screen() : connection_(xcb_connect(nullptr, nullptr), xcb_disconnect) {
+Screen::Screen() : Screen(1) {
+  const Rect whole = Whole();
+  zoom_ = std::max(1, std::min(whole.width / 1024, whole.height / 768));
+}
+
+Screen::Screen(int zoom) : connection_(xcb_connect(nullptr, nullptr), xcb_disconnect), zoom_(zoom) {
   xcb_connection_t* connection = connection_.get();
   if (xcb_connection_has_error(connection)) throw std::runtime_error("no display");
   root_ = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
@@ -65,10 +73,23 @@ Screen::Screen() : connection_(xcb_connect(nullptr, nullptr), xcb_disconnect) {
   Owned(xcb_damage_query_version_reply(connection, xcb_damage_query_version(connection, 1, 1), nullptr));
 }
 
-// What Xvfb gives with 24 planes: four bytes a pixel, blue first.
 Look Screen::See(const Rect& area) const {
+  Look large = SeeScreen({area.left * zoom_, area.top * zoom_, area.width * zoom_, area.height * zoom_});
+  if (zoom_ == 1) return large;
   Look look({area.width, area.height});
-  const Rect part = Intersection(area, Whole());
+  for (int y = 0; y < large.size.height; ++y)
+    for (int x = 0; x < large.size.width; ++x) {
+      Rgb& pixel = look.At(x / zoom_, y / zoom_);
+      if (x % zoom_ == 0 && y % zoom_ == 0) pixel = large.At(x, y);
+      if (large.At(x, y) != (pixel & ~Look::kMixed)) pixel |= Look::kMixed;
+    }
+  return look;
+}
+
+// What Xvfb gives with 24 planes: four bytes a pixel, blue first.
+Look Screen::SeeScreen(const Rect& area) const {
+  Look look({area.width, area.height});
+  const Rect part = Intersection(area, ScreenPlaceOf(root_));
   const auto asked = xcb_get_image(connection_.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, root_, Short(part.left),
                                    Short(part.top), Wide(part.width), Wide(part.height), ~0U);
   const auto reply = Owned(xcb_get_image_reply(connection_.get(), asked, nullptr));
@@ -85,7 +106,7 @@ CursorLook Screen::Cursor() const {
   if (!reply) return {};
   const std::uint32_t* pixels = xcb_xfixes_get_cursor_image_cursor_image(reply.get());
   const int count = reply->width * reply->height;
-  return {{reply->xhot, reply->yhot}, {pixels, pixels + count}};
+  return {{reply->xhot / zoom_, reply->yhot / zoom_}, {pixels, pixels + count}};
 }
 
 std::uint32_t Screen::Atom(const std::string& name) const {
@@ -117,12 +138,20 @@ std::uint32_t Screen::Number(WindowId window, const std::string& property) const
   return numbers.empty() ? 0 : numbers.front();
 }
 
-Rect Screen::PlaceOf(WindowId window) const {
+Rect Screen::ScreenPlaceOf(WindowId window) const {
   xcb_connection_t* connection = connection_.get();
   const auto size = Owned(xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
   const auto asked = xcb_translate_coordinates(connection, window, root_, 0, 0);
   const auto place = Owned(xcb_translate_coordinates_reply(connection, asked, nullptr));
   return size && place ? Rect{place->dst_x, place->dst_y, size->width, size->height} : Rect{};
+}
+
+Rect Screen::PlaceOf(WindowId window) const {
+  const Rect found = ScreenPlaceOf(window);
+  // One beside the program's pixels is seen to be wrong.
+  for (const int edge : {found.left, found.top, found.width, found.height})
+    if (edge % zoom_ != 0) return found;
+  return {found.left / zoom_, found.top / zoom_, found.width / zoom_, found.height / zoom_};
 }
 
 bool Screen::HasState(WindowId window, const std::string& state) const {
@@ -135,7 +164,9 @@ void Screen::Fake(int type, int detail, Point place) const {
   xcb_flush(connection_.get());
 }
 
-void Screen::MoveMouse(Point place) const { Fake(XCB_MOTION_NOTIFY, 0, place); }
+void Screen::MoveMouse(Point place) const {
+  Fake(XCB_MOTION_NOTIFY, 0, {place.x * zoom_ + zoom_ - 1, place.y * zoom_ + zoom_ - 1});
+}
 void Screen::Press() const { Fake(XCB_BUTTON_PRESS, 1); }
 void Screen::Release() const { Fake(XCB_BUTTON_RELEASE, 1); }
 
@@ -181,10 +212,11 @@ bool Screen::AwaitAppearance() const {
 
 OtherWindow::OtherWindow(const Rect& place, Rgb colour) {
   xcb_connection_t* connection = screen_.connection_.get();
+  const int zoom = screen_.zoom_;
   window_ = xcb_generate_id(connection);
-  xcb_create_window(connection, XCB_COPY_FROM_PARENT, window_, screen_.root_, Short(place.left),
-                    Short(place.top), Wide(place.width), Wide(place.height), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
-                    XCB_COPY_FROM_PARENT, XCB_CW_BACK_PIXEL, &colour);
+  xcb_create_window(connection, XCB_COPY_FROM_PARENT, window_, screen_.root_, Short(place.left * zoom),
+                    Short(place.top * zoom), Wide(place.width * zoom), Wide(place.height * zoom), 0,
+                    XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_BACK_PIXEL, &colour);
   // No frame (Motif's window manager hints, which every window manager reads) and a place of its own choice
   // (ICCCM, WM_NORMAL_HINTS, USPosition).
   const std::uint32_t bare[5]{2}, chosen[18]{1};

@@ -19,6 +19,9 @@ using WindowId = std::uint32_t;
 struct Look {
   /// Of an expected pixel: any colour will do.
   static constexpr Rgb kAnything = 0xFF000000;
+  /// Of a seen one: it is not a square of one colour. Its upper left screen pixel's colour is in the other
+  /// bits.
+  static constexpr Rgb kMixed = 0x01000000;
 
   explicit Look(const Size& itsSize, Rgb colour = 0);
   Rgb& At(int x, int y) {
@@ -28,7 +31,7 @@ struct Look {
   void Fill(const Rect& area, Rgb colour);
   /// The edge of an area, one pixel thick.
   void Frame(const Rect& area, Rgb colour);
-  /// How many pixels have a colour.
+  /// How many pixels have a colour, or have it in their upper left corner.
   int Count(Rgb colour) const;
 
   Size size;
@@ -45,13 +48,19 @@ struct CursorLook {
   bool operator==(const CursorLook&) const = default;
 };
 
-/// The display that the test runs on: what a user sees there, and his hand on the mouse.
+/// The display that the test runs on: what a user sees there, and his hand on the mouse. All places are in
+/// program pixels, so that one story is told on screens of every zoom.
 class Screen {
  public:
+  /// The zoom that is due on a desktop of 96 dots per inch.
   Screen();
+  explicit Screen(int zoom);
+
+  int Zoom() const { return zoom_; }
 
   Look See(const Rect& area) const;
   Rgb Pixel(Point place) const { return See({place.x, place.y, 1, 1}).At(0, 0); }
+  /// Its hot spot is in program pixels, its pixels are the screen's.
   CursorLook Cursor() const;
 
   /// The windows that the window manager knows, from the bottom to the top.
@@ -64,6 +73,7 @@ class Screen {
   /// A property that is a number; 0 if the window has none of this name.
   std::uint32_t Number(WindowId window, const std::string& property) const;
 
+  /// To the last screen pixel of a program pixel.
   void MoveMouse(Point place) const;
   void Press() const;
   void Release() const;
@@ -85,10 +95,13 @@ class Screen {
   std::uint32_t Atom(const std::string& name) const;
   template <class T>
   std::vector<T> Property(WindowId window, const std::string& name) const;
+  Rect ScreenPlaceOf(WindowId window) const;
+  Look SeeScreen(const Rect& area) const;
   void Fake(int type, int detail, Point place = {}) const;
 
   std::shared_ptr<xcb_connection_t> connection_;
   WindowId root_ = 0;
+  int zoom_ = 1;
 };
 
 /// A window of another program, in one colour and without a frame.
