@@ -76,9 +76,8 @@ int Open(const Request& request, int& argc, char** argv) {
     if (status != kGood || request.words.empty()) return status;
   }
   if (!ErrorsAreRead()) return Outcome(OpenInWindows(request.words[0], request.Zoom(), argc, argv));
-  return WithDisc(request, [&](const fs::path& folder) {
-    return Outcome(RunShell(folder, request.Zoom(), argc, argv));
-  });
+  return WithDisc(
+      request, [&](const fs::path& folder) { return Outcome(RunShell(folder, request.Zoom(), argc, argv)); });
 }
 
 int Check(const Request& request, int& argc, char** argv) {

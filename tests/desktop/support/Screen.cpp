@@ -186,6 +186,12 @@ void Screen::Hand(const std::string& command) {
   if (std::system(("xdotool " + command).c_str()) != 0) throw std::runtime_error(command);
 }
 
+void Screen::SetResources(const std::string& lines) const {
+  xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, root_, XCB_ATOM_RESOURCE_MANAGER,
+                      XCB_ATOM_STRING, 8, static_cast<std::uint32_t>(lines.size()), lines.data());
+  xcb_flush(connection_.get());
+}
+
 void Screen::WatchDrawing(WindowId window) {
   xcb_damage_create(connection_.get(), xcb_generate_id(connection_.get()), window,
                     XCB_DAMAGE_REPORT_LEVEL_RAW_RECTANGLES);

@@ -84,6 +84,9 @@ class Screen {
   /// What a task bar does when its entry is clicked.
   static void Activate(WindowId window) { Hand("windowactivate " + std::to_string(window)); }
 
+  /// Sets the resources of the display, as a desktop does when it starts.
+  void SetResources(const std::string& lines) const;
+
   /// Counts from now on how often anything is drawn into a window.
   void WatchDrawing(WindowId window);
   int DrawingSeen();

@@ -1,9 +1,12 @@
 #include "platform/desktop/window/QtScaling.h"
 
 #include <QFont>
+#include <QLabel>
+#include <QMessageBox>
 #include <QProxyStyle>
 #include <QScreen>
 #include <QWidget>
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -47,6 +50,16 @@ void MakeReadable(QWidget& window, int zoom) {
   auto style = std::make_unique<LargeStyle>(times);
   style->setParent(&window);
   window.setStyle(style.release());
+  auto* box = qobject_cast<QMessageBox*>(&window);
+  if (!box) return;
+  // The icon comes in a size of its own, whatever the style says.
+  if (const QPixmap icon = box->iconPixmap(); !icon.isNull())
+    box->setIconPixmap(
+        icon.scaled((QSizeF(icon.size()) * times).toSize(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
+  // Qt breaks the lines of a message at a width of 500 pixels, however large the letters are.
+  constexpr int kLine = 400;
+  if (auto* text = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label")))
+    text->setMinimumWidth(std::min(text->sizeHint().width(), static_cast<int>(kLine * times)));
 }
 
 }  // namespace orvanta
