@@ -9,7 +9,7 @@
 
 #include "platform/Host.h"
 #include "platform/desktop/InstanceLock.h"
-#include "platform/desktop/start/ProgramStart.h"
+#include "platform/desktop/start/FileStarter.h"
 #include "platform/desktop/window/CursorWatch.h"
 #include "platform/desktop/window/EnlargedPictures.h"
 #include "platform/desktop/window/Fonts.h"
@@ -66,7 +66,7 @@ class DesktopHost : public Host {
   ScreenZoom LookAtScreen() const;
   void FollowScreen();
 
-  const ProgramStart programs_;  // before Qt's variables are set: started programs get none of them
+  const FileStarter programs_;  // before Qt's variables are set: started programs get none of them
   QApplication application_;
   const std::filesystem::path discFolder_;
   const std::optional<InstanceLock> instance_;

@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <system_error>
 
-#include "platform/desktop/start/ExecutableSearch.h"
+#include "platform/ExecutableSearch.h"
 
 namespace orvanta {
 namespace {

@@ -14,8 +14,8 @@
 #include <memory>
 #include <optional>
 
-#include "platform/desktop/start/DesktopExec.h"
-#include "platform/desktop/start/ExecutableSearch.h"
+#include "platform/ExecutableSearch.h"
+#include "platform/desktop/start/ExecLine.h"
 
 namespace orvanta {
 namespace {

@@ -1,18 +1,19 @@
-#include "platform/desktop/start/ProgramStart.h"
+#include "platform/desktop/start/FileStarter.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <system_error>
 
+#include "platform/CommandLine.h"
+#include "platform/FileKind.h"
+#include "platform/Runner.h"
 #include "platform/desktop/Descriptor.h"
-#include "platform/desktop/start/CommandLine.h"
 #include "platform/desktop/start/DefaultApplication.h"
-#include "platform/desktop/start/ExecutableSearch.h"
-#include "platform/desktop/start/ProgramKind.h"
 
 namespace orvanta {
 namespace {
@@ -46,25 +47,11 @@ Arguments DosBoxArguments(const std::filesystem::path& file, std::string_view pa
           "-c", file.filename().string() + " " + std::string(parameters), "-c", "exit"};
 }
 
-bool IsScript(const std::filesystem::path& file) {
-  const Descriptor opened(open(file.c_str(), O_RDONLY | O_CLOEXEC));
-  std::array<char, 2> mark{};
-  return pread(opened.get(), mark.data(), mark.size(), 0) == 2 && mark[0] == '#' && mark[1] == '!';
-}
-
-/// The system says "no such file" also of a file that is there and wants one that is not: a script its
-/// interpreter, an executable its loader.
-StartCode CodeOfNativeError(int error, const std::filesystem::path& file) {
-  std::error_code ignored;
-  if (error != ENOENT || !std::filesystem::exists(file, ignored)) return CodeOfError(error);
-  return IsScript(file) ? StartCode::IncompleteAssociation : StartCode::LibraryNotFound;
-}
-
 }  // namespace
 
-ProgramStart::ProgramStart(std::vector<std::string> forPrograms) : environment(std::move(forPrograms)) {}
+FileStarter::FileStarter(std::vector<std::string> forPrograms) : environment(std::move(forPrograms)) {}
 
-std::int32_t ProgramStart::Start(const StartRequest& request) const {
+std::int32_t FileStarter::Start(const StartRequest& request) const {
   const auto code = [&] {
     const std::string_view scheme = SchemeOf(request.name);
     if (!scheme.empty()) return OpenWithApplication(AddressTarget(scheme, request.name));
@@ -77,7 +64,7 @@ std::int32_t ProgramStart::Start(const StartRequest& request) const {
   return static_cast<std::int32_t>(code);
 }
 
-StartCode ProgramStart::StartFound(const std::filesystem::path& file, std::string_view parameters) const {
+StartCode FileStarter::StartFound(const std::filesystem::path& file, std::string_view parameters) const {
   struct stat status {};
   if (stat(file.c_str(), &status) != 0) return CodeOfError(errno);
   if (S_ISDIR(status.st_mode)) return OpenFolder(file);
@@ -86,39 +73,44 @@ StartCode ProgramStart::StartFound(const std::filesystem::path& file, std::strin
   const Descriptor opened(open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   if (!opened) return CodeOfError(errno);
   const bool executable = (status.st_mode & (S_IXUSR | S_IXGRP | S_IXOTH)) != 0;
-  switch (KindOfProgram(opened, file, executable)) {
-    case ProgramKind::Native: return StartNative(file, parameters);
-    case ProgramKind::Windows: return StartForeign("wine", Joined({file}, SplitArguments(parameters)));
-    case ProgramKind::WindowsFile:
-      return StartForeign("wine", Joined({"start", "/unix", file}, SplitArguments(parameters)));
-    case ProgramKind::Dos: return StartForeign("dosbox", DosBoxArguments(file, parameters));
-    case ProgramKind::Broken: return StartCode::BadProgram;
-    case ProgramKind::Document: break;
+  const FileFacts facts = FactsOf(BytesOfFile(file), file, executable);
+  const Runner runner = FindRunner(facts, SearchPath());
+  switch (facts.kind) {
+    case FileKind::Native:
+      return runner.missing.empty() ? StartNative(file, parameters) : StartCode::LibraryNotFound;
+    case FileKind::Script:
+      return runner.missing.empty() ? StartNative(file, parameters) : StartCode::IncompleteAssociation;
+    case FileKind::Windows16:
+    case FileKind::Windows32:
+    case FileKind::Windows64: return StartForeign(runner, Joined({file}, SplitArguments(parameters)));
+    case FileKind::WindowsFile:
+      return StartForeign(runner, Joined({"start", "/unix", file}, SplitArguments(parameters)));
+    case FileKind::Dos: return StartForeign(runner, DosBoxArguments(file, parameters));
+    case FileKind::Broken: return StartCode::BadProgram;
+    case FileKind::Document: break;
   }
   return OpenWithApplication(FileTarget(file));
 }
 
-StartCode ProgramStart::StartNative(const std::filesystem::path& file, std::string_view parameters) const {
-  return CodeOfNativeError(StartProcess(Joined({file}, SplitArguments(parameters)), environment), file);
+StartCode FileStarter::StartNative(const std::filesystem::path& file, std::string_view parameters) const {
+  return CodeOfError(StartProcess(Joined({file}, SplitArguments(parameters)), environment));
 }
 
-StartCode ProgramStart::StartForeign(std::string_view runner,
-                                     const std::vector<std::string>& arguments) const {
-  const auto program = FindExecutable(runner, SearchPath());
-  if (!program) return StartCode::NoAssociation;
-  const StartCode code = CodeOfError(StartProcess(Joined({*program}, arguments), environment));
+StartCode FileStarter::StartForeign(const Runner& runner, const std::vector<std::string>& arguments) const {
+  if (runner.path.empty()) return StartCode::NoAssociation;
+  const StartCode code = CodeOfError(StartProcess(Joined({runner.path}, arguments), environment));
   // The file is there; what was not found is the runner.
   return code == StartCode::FileNotFound ? StartCode::NoAssociation : code;
 }
 
-StartCode ProgramStart::OpenFolder(const std::filesystem::path& folder) const {
+StartCode FileStarter::OpenFolder(const std::filesystem::path& folder) const {
   if (access(folder.c_str(), R_OK | X_OK) != 0) return StartCode::AccessDenied;
   const StartCode code = OpenWithApplication(FolderTarget(folder));
   const bool nothingOpensIt = code == StartCode::NoAssociation || code == StartCode::IncompleteAssociation;
   return nothingOpensIt ? StartCode::AccessDenied : code;
 }
 
-StartCode ProgramStart::OpenWithApplication(const OpenTarget& target) const {
+StartCode FileStarter::OpenWithApplication(const OpenTarget& target) const {
   const ApplicationCommand command = FindApplication(target, SearchPath());
   switch (command.state) {
     case ApplicationCommand::State::NotRegistered: return StartCode::NoAssociation;
@@ -130,7 +122,7 @@ StartCode ProgramStart::OpenWithApplication(const OpenTarget& target) const {
   return code == StartCode::FileNotFound ? StartCode::IncompleteAssociation : code;
 }
 
-std::string_view ProgramStart::SearchPath() const {
+std::string_view FileStarter::SearchPath() const {
   constexpr std::string_view Name = "PATH=";
   constexpr std::string_view Usual = "/usr/local/bin:/usr/bin:/bin";
   const auto path =

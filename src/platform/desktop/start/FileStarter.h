@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/Host.h"
+#include "platform/Runner.h"
 #include "platform/desktop/start/ProcessStart.h"
 #include "platform/desktop/start/StartCode.h"
 
@@ -20,10 +21,10 @@ struct OpenTarget;
 ///
 /// Nothing waits for what was started, which lives on when this program ends. A failure is told only as far
 /// as it shows before the program is loaded.
-class ProgramStart {
+class FileStarter {
  public:
   /// The programs get this environment. Make this before the program changes its own.
-  explicit ProgramStart(std::vector<std::string> forPrograms = CurrentEnvironment());
+  explicit FileStarter(std::vector<std::string> forPrograms = CurrentEnvironment());
 
   /// Gives a number above 32 if the start was handed over, else a failure of `StartCode`. Documents, folders
   /// and addresses take no parameters; those of programs are split by `SplitArguments`.
@@ -32,7 +33,7 @@ class ProgramStart {
  private:
   StartCode StartFound(const std::filesystem::path& file, std::string_view parameters) const;
   StartCode StartNative(const std::filesystem::path& file, std::string_view parameters) const;
-  StartCode StartForeign(std::string_view runner, const std::vector<std::string>& arguments) const;
+  StartCode StartForeign(const Runner& runner, const std::vector<std::string>& arguments) const;
   StartCode OpenFolder(const std::filesystem::path& folder) const;
   StartCode OpenWithApplication(const OpenTarget& target) const;
   std::string_view SearchPath() const;

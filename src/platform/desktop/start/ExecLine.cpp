@@ -1,4 +1,4 @@
-#include "platform/desktop/start/DesktopExec.h"
+#include "platform/desktop/start/ExecLine.h"
 
 #include <string_view>
 

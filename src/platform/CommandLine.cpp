@@ -1,4 +1,4 @@
-#include "platform/desktop/start/CommandLine.h"
+#include "platform/CommandLine.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "platform/desktop/start/ExecutableSearch.h"
+#include "platform/ExecutableSearch.h"
 
 #include <unistd.h>
 

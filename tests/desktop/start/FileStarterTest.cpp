@@ -6,7 +6,7 @@
 
 #include "config/DiscDrive.h"
 #include "desktop/support/Processes.h"
-#include "platform/desktop/start/ProgramStart.h"
+#include "platform/desktop/start/FileStarter.h"
 
 namespace orvanta::test {
 
@@ -35,7 +35,7 @@ struct Desktop : testing::Test {
       setenv("XDG_CONFIG_HOME", (root / "config").c_str(), 1);
       for (const char* none : {"XDG_DATA_DIRS", "XDG_CONFIG_DIRS"}) setenv(none, (root / "none").c_str(), 1);
       unsetenv("XDG_CURRENT_DESKTOP");
-      const ProgramStart starter;
+      const FileStarter starter;
       setenv("OF_THE_SHELL", "set", 1);
       before();
       return starter.Start(request);

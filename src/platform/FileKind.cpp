@@ -1,0 +1,160 @@
+#include "platform/FileKind.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <memory>
+#include <optional>
+
+namespace orvanta {
+namespace {
+
+constexpr std::size_t DosHeaderSize = 28;
+/// A header that announces another one is this long and ends with that one's place.
+constexpr std::size_t LongDosHeaderSize = 64;
+constexpr std::size_t NewHeaderPlace = 0x3C;
+constexpr std::size_t PeHeaderSize = 24;
+constexpr std::string_view ElfMark = "\x7f\x45LF";
+
+std::uint64_t Little(std::string_view bytes, std::size_t at, std::size_t size) {
+  std::uint64_t value = 0;
+  for (std::size_t i = size; i-- > 0;) value = value << 8 | static_cast<unsigned char>(bytes[at + i]);
+  return value;
+}
+
+/// The DOS image that the MZ header describes lies wholly in the file.
+bool IsDosImage(std::string_view header, std::uint64_t fileSize) {
+  constexpr std::uint64_t PageSize = 512;
+  constexpr std::uint64_t ParagraphSize = 16;
+  const std::uint64_t bytesOnLastPage = Little(header, 2, 2);
+  const std::uint64_t pages = Little(header, 4, 2);
+  const std::uint64_t headerSize = Little(header, 8, 2) * ParagraphSize;
+  if (pages == 0 || bytesOnLastPage > PageSize) return false;
+  const std::uint64_t unused = bytesOnLastPage == 0 ? 0 : PageSize - bytesOnLastPage;
+  const std::uint64_t imageSize = pages * PageSize - unused;
+  return headerSize >= DosHeaderSize && headerSize <= imageSize && imageSize <= fileSize;
+}
+
+/// A file that was cut short misses the sections that its header places at its end.
+bool HasAllSections(const FileBytes& file, std::uint64_t place, std::string_view header) {
+  constexpr std::size_t SectionSize = 40;
+  const std::uint64_t count = Little(header, 6, 2), table = place + PeHeaderSize + Little(header, 20, 2);
+  for (std::uint64_t i = 0; i < count; ++i) {
+    const std::string section = file.read(table + i * SectionSize, SectionSize);
+    if (section.size() < SectionSize) return false;
+    if (Little(section, 16, 4) != 0 && Little(section, 20, 4) >= file.size) return false;
+  }
+  return true;
+}
+
+FileKind KindOfPe(const FileBytes& file, std::uint64_t place, std::string_view header) {
+  constexpr std::uint64_t X86_64 = 0x8664;
+  if (header.size() < PeHeaderSize || !HasAllSections(file, place, header)) return FileKind::Broken;
+  return Little(header, 4, 2) == X86_64 ? FileKind::Windows64 : FileKind::Windows32;
+}
+
+/// What the header after the DOS one says; nothing if there is no such header.
+std::optional<FileKind> KindOfNewHeader(const FileBytes& file, std::uint64_t place) {
+  const std::string header = file.read(place, PeHeaderSize);
+  if (header.starts_with(std::string_view("PE\0\0", 4))) return KindOfPe(file, place, header);
+  if (header.starts_with("NE")) return FileKind::Windows16;
+  // Linear executables are DOS programs with a DOS extender, as far as discs go.
+  if (header.starts_with("LE") || header.starts_with("LX")) return FileKind::Dos;
+  return std::nullopt;
+}
+
+FileKind KindOfMz(const FileBytes& file, const std::string& header) {
+  if (header.size() < DosHeaderSize) return FileKind::Broken;
+  if (header.size() == LongDosHeaderSize) {
+    const std::uint64_t place = Little(header, NewHeaderPlace, 4);
+    if (const auto kind = KindOfNewHeader(file, place)) return *kind;
+    // Relocations after the long header announce a new header. Packers of DOS programs put text where its
+    // place would stand, and that points far beyond the file.
+    const bool announced = Little(header, 0x18, 2) >= LongDosHeaderSize;
+    if (announced && place >= LongDosHeaderSize && place < file.size) return FileKind::Broken;
+  }
+  return IsDosImage(header, file.size) ? FileKind::Dos : FileKind::Broken;
+}
+
+/// A native program with its loader. One of another processor or byte order is left to the system to refuse.
+FileFacts FactsOfElf(const FileBytes& file, std::string_view header) {
+  constexpr char Bits64 = 2, LittleEndian = 1;
+  constexpr std::size_t LongHeaderSize = 64, ShortHeaderSize = 52, LongestPath = 4096;
+  constexpr std::uint64_t LoaderSegment = 3;
+  const bool wide = header.size() > 4 && header[4] == Bits64;
+  if (header.size() < (wide ? LongHeaderSize : ShortHeaderSize)) return {FileKind::Broken};
+  if (header[5] != LittleEndian) return {FileKind::Native};
+  const std::uint64_t table = wide ? Little(header, 0x20, 8) : Little(header, 0x1C, 4);
+  const std::uint64_t size = Little(header, wide ? 0x36 : 0x2A, 2),
+                      count = Little(header, wide ? 0x38 : 0x2C, 2);
+  for (std::uint64_t i = 0; i < count; ++i) {
+    const std::string segment = file.read(table + i * size, wide ? 56 : 32);
+    if (segment.size() < (wide ? 56U : 32U)) return {FileKind::Broken};
+    const std::uint64_t place = wide ? Little(segment, 8, 8) : Little(segment, 4, 4);
+    const std::uint64_t length = wide ? Little(segment, 0x20, 8) : Little(segment, 0x10, 4);
+    if (place > file.size || length > file.size - place) return {FileKind::Broken};
+    if (Little(segment, 0, 4) != LoaderSegment) continue;
+    const std::string loader = file.read(place, std::min<std::uint64_t>(length, LongestPath));
+    return {FileKind::Native, loader.substr(0, loader.find('\0'))};
+  }
+  return {FileKind::Native};
+}
+
+std::string NextWord(std::string_view& line) {
+  constexpr std::string_view Blanks = " \t";
+  line.remove_prefix(std::min(line.find_first_not_of(Blanks), line.size()));
+  const std::string_view word = line.substr(0, line.find_first_of(Blanks));
+  line.remove_prefix(word.size());
+  return std::string(word);
+}
+
+/// `beginning` starts with `#!`.
+FileFacts FactsOfScript(std::string_view beginning) {
+  std::string_view line = beginning.substr(2, beginning.find('\n') - 2);
+  std::string interpreter = NextWord(line);
+  const std::string first = NextWord(line);
+  const bool namesAnother = !first.empty() && !first.starts_with('-');
+  if (std::filesystem::path(interpreter).filename() == "env" && namesAnother) interpreter = first;
+  return {FileKind::Script, interpreter};
+}
+
+std::string LowerExtension(const std::filesystem::path& name) {
+  std::string extension = name.extension().string();
+  std::ranges::transform(extension, extension.begin(), [](char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+  });
+  return extension;
+}
+
+}  // namespace
+
+FileBytes BytesOfFile(const std::filesystem::path& file) {
+  std::error_code error;
+  const std::uintmax_t size = std::filesystem::file_size(file, error);
+  const auto stream = std::make_shared<std::ifstream>(file, std::ios::binary);
+  return {error ? 0 : size, [stream](std::uint64_t offset, std::size_t count) {
+            std::string bytes(count, '\0');
+            stream->clear();
+            stream->seekg(static_cast<std::streamoff>(offset));
+            stream->read(bytes.data(), static_cast<std::streamsize>(count));
+            bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(stream->gcount(), 0)));
+            return bytes;
+          }};
+}
+
+FileFacts FactsOf(const FileBytes& file, const std::filesystem::path& name, bool executable) {
+  constexpr std::size_t LongestFirstLine = 256;
+  constexpr std::array WindowsFiles = {".bat", ".cmd", ".msi", ".reg", ".hlp", ".chm", ".lnk"};
+  const std::string beginning = file.read(0, LongestFirstLine);
+  const std::string header = beginning.substr(0, LongDosHeaderSize);
+  if (executable && beginning.starts_with(ElfMark)) return FactsOfElf(file, header);
+  if (executable && beginning.starts_with("#!")) return FactsOfScript(beginning);
+  if (beginning.starts_with("MZ")) return {KindOfMz(file, header)};
+  const std::string extension = LowerExtension(name);
+  if (std::ranges::find(WindowsFiles, extension) != WindowsFiles.end()) return {FileKind::WindowsFile};
+  if (extension == ".com") return {beginning.empty() ? FileKind::Broken : FileKind::Dos};
+  if (extension == ".exe") return {FileKind::Broken};
+  return {FileKind::Document};
+}
+
+}  // namespace orvanta
