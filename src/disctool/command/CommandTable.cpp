@@ -30,6 +30,10 @@ constexpr ExampleInfo kGalleryExamples[] = {
     {"orvanta-disc gallery disc.iso pictures",
      Translatable("Makes a gallery; open pictures/index.html in a browser.")}};
 
+constexpr ExampleInfo kLibraryExamples[] = {
+    {"orvanta-disc library site *.iso", Translatable("Makes a library; open site/index.html in a browser.")},
+    {"orvanta-disc library site new.iso", Translatable("Adds a disc to it.")}};
+
 constexpr ExampleInfo kGetExamples[] = {
     {"orvanta-disc get my-disc HEADLINE Caption", Translatable("Writes the title of a disc.")}};
 
@@ -53,10 +57,22 @@ constexpr CommandInfo kCommands[] = {
     {"gallery",
      "DISC OUT",
      Translatable("Make a page with screenshots of every view"),
-     Translatable("Writes screenshots of every view of a disc and a page, index.html, into OUT, a new or "
-                  "empty folder. It needs no display."),
+     Translatable(
+         "Writes screenshots of every view of a disc and a page, index.html, into OUT: a new or "
+         "empty folder, or an earlier gallery, which is renewed. The page shows the disc's texts and "
+         "findings beside the screenshots and can be searched. An interrupted gallery is continued "
+         "when it is made again. It needs no display."),
      {},
      kGalleryExamples},
+    {"library",
+     "OUT DISC...",
+     Translatable("Make one site over the galleries of many discs"),
+     Translatable(
+         "Makes a gallery of each disc in OUT and a page, index.html, with their covers and a search "
+         "over all of them. Discs that OUT already holds stay; a disc named again is renewed if it "
+         "has changed."),
+     {},
+     kLibraryExamples},
     {"get",
      "DISC SECTION KEY",
      Translatable("Look up a setting"),

@@ -1,41 +1,79 @@
 #include "disctool/gallery/Gallery.h"
 
-#include <cerrno>
-#include <cstring>
-#include <fstream>
-#include <system_error>
+#include <algorithm>
+#include <map>
+#include <utility>
 
-#include "disctool/Translation.h"
 #include "disctool/gallery/GalleryWalk.h"
+#include "disctool/gallery/SiteFile.h"
 
 namespace orvanta {
 namespace {
 
 namespace fs = std::filesystem;
 
-/// What is in the way of a gallery; empty if nothing is.
-std::string Obstacle(const fs::path& disc, const fs::path& folder) {
-  if (Catalogue(FolderTree(disc)).Empty()) return NoDiscIn(disc);
-  std::error_code error;
-  fs::create_directories(folder, error);
-  if (error) return folder.string() + ": " + error.message();
-  if (!fs::is_empty(folder, error) || error)
-    return folder.string() + ": " + Translated("the folder is not empty");
-  return {};
+/// Renewed with whatever changes the pictures of an unchanged disc.
+constexpr const char* kVersion = "1";
+
+/// Where the sections of the tree's nodes begin in the disc's files.
+class SectionPlaces {
+ public:
+  SectionPlaces(const Catalogue& catalogue, const MenuTree& tree) {
+    for (const Catalogue::File& file : catalogue.Files())
+      for (const IniSection& section : file.ini.sections) begins_[file.path][section.line] = nullptr;
+    for (const MenuNode& node : tree.nodes) {
+      const DiscPlace place = catalogue.PlaceOf(node.name);
+      if (catalogue.HasSection(node.name)) begins_[place.file][place.line] = &node;
+    }
+  }
+
+  /// The node in whose section a place lies; null if it is another section.
+  const MenuNode* NodeAt(const DiscPlace& place) const {
+    const auto file = begins_.find(place.file);
+    if (file == begins_.end()) return nullptr;
+    const auto after = file->second.upper_bound(place.line);
+    return after == file->second.begin() ? nullptr : std::prev(after)->second;
+  }
+
+ private:
+  std::map<fs::path, std::map<int, const MenuNode*>> begins_;
+};
+
+void AddFindings(GalleryContents& contents, const Catalogue& catalogue, const MenuTree& tree,
+                 const Findings& findings) {
+  const SectionPlaces places(catalogue, tree);
+  for (const Finding& finding : findings.List()) {
+    const MenuNode* node = places.NodeAt(finding.place);
+    const std::size_t entry = node ? contents.root + static_cast<std::size_t>(node - tree.nodes.data()) : 0;
+    auto& list =
+        node && entry < contents.entries.size() ? contents.entries[entry].findings : contents.findings;
+    list.push_back(finding.text);
+  }
 }
 
 }  // namespace
 
-std::string MakeGallery(const fs::path& disc, const fs::path& folder, const Progress& progress) {
-  if (std::string obstacle = Obstacle(disc, folder); !obstacle.empty()) return obstacle;
-  GalleryWalk walk(disc, folder, progress);
-  walk.Go();
-  if (!walk.fault.empty()) return walk.fault;
-  const Setting caption = Catalogue(FolderTree(disc)).Find("HEADLINE", "Caption");
-  std::ofstream page(folder / "index.html", std::ios::binary);
-  page << GalleryPage(caption ? caption.value : disc.filename().string(), walk.entries, walk.root);
-  page.close();
-  return page ? std::string() : (folder / "index.html").string() + ": " + std::strerror(errno);
+MadeGallery MakeGallery(const fs::path& disc, const fs::path& folder, const Findings& findings,
+                        const Progress& progress) {
+  const Catalogue catalogue{FolderTree(disc)};
+  if (catalogue.Empty()) return {{}, NoDiscIn(disc)};
+  GalleryFolder out(folder);
+  if (std::string obstacle = out.Open(GalleryFolder::Fingerprint(disc, kVersion)); !obstacle.empty())
+    return {{}, std::move(obstacle)};
+  const MenuTree tree = ReadMenuTree(catalogue);
+  GalleryWalk walk(disc, catalogue, tree, out, progress);
+  std::string problem = walk.Go();
+  MadeGallery made{std::move(walk.contents), {}};
+  const Setting caption = catalogue.Find("HEADLINE", "Caption");
+  made.contents.title = caption ? caption.value : fs::absolute(disc).lexically_normal().filename().string();
+  AddFindings(made.contents, catalogue, tree, findings);
+  const std::pair<const char*, std::string> texts[] = {{"gallery.css", SiteFile("gallery.css")},
+                                                       {"gallery.js", SiteFile("gallery.js")},
+                                                       {"index.html", GalleryPage(made.contents)}};
+  for (const auto& [name, text] : texts)
+    if (problem.empty()) problem = out.WriteText(name, text);
+  made.problem = problem.empty() ? out.Finish() : std::move(problem);
+  return made;
 }
 
 }  // namespace orvanta

@@ -45,6 +45,11 @@ std::unique_ptr<MoviePlayer> GalleryHost::MakePlayer(MovieKind kind) {
 
 PicturePtr GalleryHost::LoadPicture(const std::filesystem::path& file) { return LoadQtPicture(file); }
 
+QImage GalleryHost::ImageOf(const Picture& picture) {
+  const auto& art = dynamic_cast<const QtPicture&>(picture);
+  return art.At({art.PixelSize().width, art.PixelSize().height}).toImage();
+}
+
 QImage GalleryHost::PictureOf(const Form& form) const {
   const Rect area = form.ClientArea();
   QImage picture(area.width, area.height, QImage::Format_ARGB32_Premultiplied);

@@ -19,6 +19,8 @@ class GalleryHost : public HeadlessHost {
   /// Plays nothing; a film stands still, with one of its pictures.
   std::unique_ptr<MoviePlayer> MakePlayer(MovieKind kind) override;
 
+  /// The pixels of a picture of this host.
+  static QImage ImageOf(const Picture& picture);
   /// The form as it would be painted now; what its outline cuts off is transparent.
   QImage PictureOf(const Form& form) const;
 

@@ -2,50 +2,99 @@
 
 #include <algorithm>
 
+#include "disctool/Translation.h"
+
 namespace orvanta {
 
-GalleryWalk::GalleryWalk(const std::filesystem::path& disc, std::filesystem::path folder,
-                         const Progress& progress)
+GalleryWalk::GalleryWalk(const std::filesystem::path& disc, const Catalogue& catalogue, const MenuTree& tree,
+                         GalleryFolder& folder, const Progress& progress)
     : host_(disc),
       shell_(host_),
-      folder_(std::move(folder)),
+      folder_(folder),
       progress_(progress),
-      catalogue_(FolderTree(disc)),
-      tree_(ReadMenuTree(catalogue_)),
-      visited_(tree_.nodes.size()) {
+      catalogue_(catalogue),
+      tree_(tree),
+      writer_([this](const std::filesystem::path& file) {
+        folder_.Written(file.lexically_relative(folder_.Path()).string());
+      }),
+      visited_(tree.nodes.size()) {
   // A disc of thousands of entries takes hours of the virtual clock.
   host_.deadline = kNever;
 }
 
-void GalleryWalk::Go() {
+std::string GalleryWalk::Go() {
+  bool ended = false;
   try {
     StartScreen();
     Pages();
-    root = entries.size();
-    for (const MenuNode& node : tree_.nodes)
-      entries.push_back({node.name, std::string(NameOf(node.kind)), {}, {}});
+    contents.root = contents.entries.size();
+    for (const MenuNode& node : tree_.nodes) AddEntry(node.name).kind = KindInWords(node.kind);
+    contents.entries[contents.root].title = "Menu główne";
     for (std::size_t i = 0; i < tree_.nodes.size(); ++i)
       for (const MenuItem& item : tree_.nodes[i].items)
-        entries[EntryOf(i)].items.push_back(EntryOf(item.node));
+        contents.entries[contents.root + i].items.push_back(contents.root + item.node);
     Tree();
   } catch (const ProgramEnd&) {
-    if (fault.empty()) fault = "the shell ended by itself";
+    ended = true;
   }
+  std::string problem = writer_.Finish();
+  return problem.empty() && ended ? Translated("the shell ended by itself") : problem;
 }
 
-void GalleryWalk::Save(const Form& form) {
-  GalleryEntry& entry = entries[current_];
-  std::string name = std::to_string(current_);
-  name = std::string(5 - std::min<std::size_t>(5, name.size()), '0') + name + "-" +
-         std::to_string(entry.files.size() + 1) + ".png";
-  const QImage picture = host_.PictureOf(form);
-  // A window without an area shows nothing.
-  if (picture.isNull()) return;
-  if (!picture.save(QString::fromStdString((folder_ / name).string()), "PNG")) {
-    fault = (folder_ / name).string() + " cannot be written";
-    throw ProgramEnd{};
+GalleryEntry& GalleryWalk::AddEntry(std::string title) {
+  current_ = contents.entries.size();
+  pictures_ = 0;
+  contents.entries.emplace_back().title = std::move(title);
+  return contents.entries.back();
+}
+
+std::string GalleryWalk::NextName() {
+  const std::string number = std::to_string(current_);
+  return "pictures/" + std::string(5 - std::min<std::size_t>(5, number.size()), '0') + number + "-" +
+         std::to_string(++pictures_) + ".png";
+}
+
+/// Whether an earlier run has written this picture already.
+bool GalleryWalk::TakeEarlier(GalleryPicture& picture) {
+  const GalleryPicture* earlier = folder_.Earlier(picture.file);
+  if (!earlier) return false;
+  picture.size = earlier->size;
+  picture.ground = earlier->ground;
+  folder_.Expect(picture);
+  folder_.Written(picture.file);
+  return true;
+}
+
+void GalleryWalk::Write(const GalleryPicture& picture, QImage image) {
+  folder_.Expect(picture);
+  if (!writer_.Write(folder_.Path() / picture.file, std::move(image))) throw ProgramEnd{};
+}
+
+void GalleryWalk::Save(const Form& form, std::string text) {
+  GalleryPicture picture{NextName(), {}, {}, std::move(text)};
+  if (TakeEarlier(picture)) {
+    if (picture.ground.empty() && layers_.WantsGrounds())
+      layers_.AddGround(picture.file,
+                        QImage(QString::fromStdString((folder_.Path() / picture.file).string())));
+  } else {
+    QImage view = host_.PictureOf(form);
+    // A window without an area shows nothing.
+    if (view.isNull()) return;
+    picture.size = {view.width(), view.height()};
+    auto [image, ground] = layers_.Split(picture.file, std::move(view), !Current().views.empty());
+    picture.ground = std::move(ground);
+    Write(picture, std::move(image));
   }
-  entry.files.push_back(std::move(name));
+  Current().views.push_back(std::move(picture));
+}
+
+/// A view of the main window; further ones of an entry are what scrolling brings to sight.
+void GalleryWalk::SaveView() {
+  const GalleryEntry& entry = Current();
+  std::string text = entry.title;
+  if (!entry.kind.empty()) text = "Okno główne, " + entry.kind + ": " + text;
+  if (!entry.views.empty()) text += ", ciąg dalszy " + std::to_string(entry.views.size());
+  Save(*shell_.MainForm, std::move(text));
 }
 
 /// Depth first, with a stack of its own: a disc decides how deep it goes. Nothing is entered twice.
@@ -66,15 +115,12 @@ void GalleryWalk::Tree() {
     }
     const std::size_t number = step.next++;
     const std::size_t node = items[number].node;
-    if (visited_[node]) continue;
-    if (tree_.nodes[node].kind == NodeKind::Inert) {
-      visited_[node] = true;
-      continue;
+    if (visited_[node] || !Enter(node, number)) continue;
+    if (visits_ == kMostNodes) {
+      contents.remark = "Pokazano pierwsze " + std::to_string(kMostNodes) + " pozycji z " +
+                        std::to_string(tree_.nodes.size()) + ".";
+      return;
     }
-    const std::int16_t level = main.MenuLevel;
-    main.lblPos1_Click(static_cast<std::int16_t>(number));
-    // The path is full.
-    if (main.MenuLevel == level) continue;
     Visit(node);
     if (tree_.nodes[node].kind == NodeKind::Menu) {
       way.push_back({node, 0});
@@ -84,19 +130,35 @@ void GalleryWalk::Tree() {
   }
 }
 
+/// Clicks the label of a node. False if that leads nowhere: the node is inert, or the path is full.
+bool GalleryWalk::Enter(std::size_t node, std::size_t number) {
+  if (tree_.nodes[node].kind == NodeKind::Inert) {
+    visited_[node] = true;
+    return false;
+  }
+  MainForm& main = *shell_.MainForm;
+  const std::int16_t level = main.MenuLevel;
+  main.lblPos1_Click(static_cast<std::int16_t>(number));
+  return main.MenuLevel != level;
+}
+
 void GalleryWalk::Visit(std::size_t node) {
   visited_[node] = true;
-  current_ = EntryOf(node);
+  ++visits_;
+  current_ = contents.root + node;
+  pictures_ = 0;
   host_.RunFor(100);
-  Save(*shell_.MainForm);
-  if (tree_.nodes[node].kind == NodeKind::Menu) {
+  SaveView();
+  const MenuNode& visited = tree_.nodes[node];
+  if (visited.kind == NodeKind::Menu) {
     Menu();
   } else {
-    Shots();
-    Viewer();
+    Texts(visited);
+    Shots(visited);
   }
-  if (tree_.nodes[node].kind == NodeKind::Film) Cinema();
-  progress_(static_cast<std::uintmax_t>(std::ranges::count(visited_, true)), visited_.size());
+  if (visited.kind == NodeKind::Music) Sound(visited);
+  if (visited.kind == NodeKind::Film) Cinema();
+  progress_(visits_, std::min(visited_.size(), kMostNodes));
 }
 
 }  // namespace orvanta

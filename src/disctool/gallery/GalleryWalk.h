@@ -2,12 +2,16 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "disctool/Progress.h"
+#include "disctool/gallery/GalleryFolder.h"
 #include "disctool/gallery/GalleryHost.h"
-#include "disctool/gallery/GalleryPage.h"
+#include "disctool/gallery/PictureLayers.h"
+#include "disctool/gallery/PictureWriter.h"
 #include "startup/Shell.h"
 
 namespace orvanta {
@@ -15,13 +19,16 @@ namespace orvanta {
 /// Goes through a disc as a user would, and pictures what it sees.
 class GalleryWalk {
  public:
-  GalleryWalk(const std::filesystem::path& disc, std::filesystem::path folder, const Progress& progress);
+  /// Of a larger tree only so many nodes are visited.
+  static constexpr std::size_t kMostNodes = 10'000;
 
-  void Go();
+  GalleryWalk(const std::filesystem::path& disc, const Catalogue& catalogue, const MenuTree& tree,
+              GalleryFolder& folder, const Progress& progress);
 
-  std::vector<GalleryEntry> entries;
-  std::size_t root = 0;  ///< the entry of the first menu
-  std::string fault;     ///< what went wrong, empty if nothing did
+  /// Gives what went wrong, empty if nothing did.
+  std::string Go();
+
+  GalleryContents contents;  ///< all but the title and the findings
 
  private:
   void StartScreen();
@@ -29,26 +36,35 @@ class GalleryWalk {
   void Page(Image& page, BarButton button, const char* title);
   void PointAt(const Image& button);
   void Tree();
+  bool Enter(std::size_t node, std::size_t number);
   void Visit(std::size_t node);
   void Menu();
-  void Shots();
-  void Viewer();
+  void Texts(const MenuNode& node);
+  void Sound(const MenuNode& node);
+  void Shots(const MenuNode& node);
   void Cinema();
-  template <class Window, class Close>
-  void SaveModal(FormSlot<Window, Shell>& window, Milliseconds delay, const std::function<void()>& open,
-                 Close close);
   void Scroll(bool shots, int view);
-  void Save(const Form& form);
-  std::size_t EntryOf(std::size_t node) const { return root + node; }
+  GalleryEntry& AddEntry(std::string title);
+  GalleryEntry& Current() { return contents.entries[current_]; }
+  std::string NextName();
+  bool TakeEarlier(GalleryPicture& picture);
+  void Write(const GalleryPicture& picture, QImage image);
+  void Save(const Form& form, std::string text);
+  void SaveView();
 
   GalleryHost host_;
   Shell shell_;
-  const std::filesystem::path folder_;
+  GalleryFolder& folder_;
   const Progress& progress_;
-  const Catalogue catalogue_;
-  const MenuTree tree_;
+  const Catalogue& catalogue_;
+  const MenuTree& tree_;
+  PictureLayers layers_;
+  PictureWriter writer_;
+  std::map<std::filesystem::path, GalleryPicture> shots_;  // by the file of the disc
   std::vector<bool> visited_;
-  std::size_t current_ = 0;  // the entry that the next picture belongs to
+  std::size_t visits_ = 0;
+  std::size_t current_ = 0;   // the entry that the next picture belongs to
+  std::size_t pictures_ = 0;  // of the current entry
 };
 
 }  // namespace orvanta

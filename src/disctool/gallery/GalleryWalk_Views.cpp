@@ -2,14 +2,16 @@
 
 #include <algorithm>
 
+#include "config/NumberedKey.h"
+#include "config/Windows1250.h"
 #include "disctool/gallery/GalleryWalk.h"
 
 namespace orvanta {
 namespace {
 
 constexpr int kLabelHeight = 26, kShotHeight = 82;
-/// How long a window may take to stand as it will; the cinema waits for a second and then places the film.
-constexpr Milliseconds kViewerTime = 100, kCinemaTime = 3000;
+/// The cinema waits for a second and then places the film.
+constexpr Milliseconds kCinemaTime = 3000;
 /// Two looks of the shell at where the mouse is.
 constexpr Milliseconds kGlance = 100;
 
@@ -19,17 +21,16 @@ void GalleryWalk::StartScreen() {
   // As on a machine with sound, but without waiting for the voice.
   shell_.modMain.Main();
   if (const Form* screen = shell_.frmReklama.Loaded(); screen && screen->Visible) {
-    entries.push_back({"Start screen", "", {}, {}});
-    current_ = entries.size() - 1;
-    Save(*screen);
+    const std::string title = AddEntry("Ekran startowy").title;
+    Save(*screen, title);
   }
   while (!shell_.MainForm.Loaded() || !shell_.MainForm->Visible) host_.RunFor(500);
   host_.RunFor(kGlance);
 }
 
 void GalleryWalk::Pages() {
-  Page(shell_.MainForm->imgPomoc, BarButton::Help, "Help page");
-  Page(shell_.MainForm->imgSeven, BarButton::About, "About page");
+  Page(shell_.MainForm->imgPomoc, BarButton::Help, "Strona pomocy");
+  Page(shell_.MainForm->imgSeven, BarButton::About, "Strona o płycie");
 }
 
 void GalleryWalk::Page(Image& page, BarButton button, const char* title) {
@@ -37,9 +38,8 @@ void GalleryWalk::Page(Image& page, BarButton button, const char* title) {
   PointAt(main.ButtonM(button));
   main.ButtonM_Click(button);
   if (!page.Visible) return;
-  entries.push_back({title, "", {}, {}});
-  current_ = entries.size() - 1;
-  Save(main);
+  AddEntry(title);
+  SaveView();
   Scroll(false, static_cast<int>(main.picTlo.Height()));
   page.Click();
   // A button goes out when the mouse leaves it.
@@ -60,10 +60,6 @@ void GalleryWalk::Menu() {
   Scroll(false, static_cast<int>(main.picTlo.Height - strip) - kLabelHeight);
 }
 
-void GalleryWalk::Shots() {
-  Scroll(true, static_cast<int>(shell_.MainForm->picShotTlo.Height()) - kShotHeight);
-}
-
 /// Drags the knob down, each time by as much as brings `view` further pixels of the content to sight.
 void GalleryWalk::Scroll(bool shots, int view) {
   MainForm& main = *shell_.MainForm;
@@ -82,43 +78,70 @@ void GalleryWalk::Scroll(bool shots, int view) {
     // A hand is never as sudden: a list that jumps to where the last one stood would not be moved.
     drag(kUp, 1);
     drag(kDown, 1);
-    Save(main);
+    SaveView();
+  }
+}
+
+void GalleryWalk::Texts(const MenuNode& node) {
+  const MainForm& main = *shell_.MainForm;
+  GalleryEntry& entry = Current();
+  entry.description = main.lblNote.Caption();
+  entry.requirements = main.lblSystem.Caption();
+  entry.starts = catalogue_.Find(node.name, "Execute").value;
+  if (const Setting parameters = catalogue_.Find(node.name, "Parameters");
+      !entry.starts.empty() && parameters)
+    entry.starts += " " + parameters.value;
+}
+
+/// The strip as it scrolls, then each screenshot at its real size.
+void GalleryWalk::Shots(const MenuNode& node) {
+  Scroll(true, static_cast<int>(shell_.MainForm->picShotTlo.Height()) - kShotHeight);
+  for (int number = 1; number <= node.shots; ++number) {
+    const std::string value = catalogue_.Find(node.name, NumberedKey("Shot", number)).value;
+    const std::filesystem::path file = shell_.HostFile(shell_.ini.PicturePath(value));
+    const auto [at, isNew] = shots_.try_emplace(file);
+    GalleryPicture& shot = at->second;
+    if (isNew) shot.file = NextName();
+    if (isNew && !TakeEarlier(shot)) {
+      const PicturePtr picture = shell_.MainForm->picShot(number - 1).Picture();
+      if (!picture) {
+        shots_.erase(at);
+        continue;
+      }
+      shot.size = picture->PixelSize();
+      Write(shot, GalleryHost::ImageOf(*picture));
+    }
+    Current().shots.push_back(shot);
+    Current().shots.back().text =
+        Current().title + ", zrzut ekranu " + std::to_string(number) + " z " + std::to_string(node.shots);
+  }
+}
+
+/// Copied where every browser plays it.
+void GalleryWalk::Sound(const MenuNode& node) {
+  const std::filesystem::path file = shell_.HostFile(catalogue_.Find(node.name, "Parameters").value);
+  const std::string ending = file.extension().string();
+  for (const char* played : {".mp3", ".wav", ".ogg"}) {
+    const std::string name = "pictures/" + std::to_string(current_) + played;
+    if (EqualNoCase(ending, played) && folder_.Copy(file, name)) Current().sound = name;
   }
 }
 
 /// The window comes to sight inside the click that opens it.
-template <class Window, class Close>
-void GalleryWalk::SaveModal(FormSlot<Window, Shell>& window, Milliseconds delay,
-                            const std::function<void()>& open, Close close) {
+void GalleryWalk::Cinema() {
   bool failed = false;
-  host_.After(delay, [&] {
-    if (!window.Loaded()) return;
+  host_.After(kCinemaTime, [&] {
+    frmKino* cinema = shell_.frmKino.Loaded();
+    if (!cinema) return;
     try {
-      Save(*window);
+      Save(*cinema, "Okno kina z filmem: " + Current().title);
     } catch (const ProgramEnd&) {
       failed = true;
     }
-    close(*window);
+    cinema->ButtonM_Click(KinoButton::Stop);
   });
-  open();
+  shell_.MainForm->ButtonM_Click(BarButton::Film);
   if (failed) throw ProgramEnd{};
-}
-
-/// Each at its real size; above, all are as small as the strip.
-void GalleryWalk::Viewer() {
-  MainForm& main = *shell_.MainForm;
-  for (int i = 0; i <= main.picShot.UBound(); ++i) {
-    if (!main.picShot(i).Picture()) continue;
-    SaveModal(
-        shell_.frmShowPic, kViewerTime, [&] { main.picShot.Click(static_cast<std::int16_t>(i)); },
-        [](frmShowPic& viewer) { viewer.Unload(); });
-  }
-}
-
-void GalleryWalk::Cinema() {
-  SaveModal(
-      shell_.frmKino, kCinemaTime, [&] { shell_.MainForm->ButtonM_Click(BarButton::Film); },
-      [](frmKino& cinema) { cinema.ButtonM_Click(KinoButton::Stop); });
 }
 
 }  // namespace orvanta

@@ -10,11 +10,12 @@
 #include "disctool/OutputText.h"
 #include "disctool/Progress.h"
 #include "disctool/Translation.h"
+#include "disctool/check/Check.h"
 #include "disctool/command/Arguments.h"
 #include "disctool/command/CommandHelp.h"
 #include "disctool/command/DiscCommands.h"
 #include "disctool/disc/Catalogue.h"
-#include "disctool/gallery/Gallery.h"
+#include "disctool/gallery/Library.h"
 #include "disctool/image/DiscCache.h"
 #include "disctool/making/NewDisc.h"
 #include "disctool/tool/DesktopProbe.h"
@@ -97,10 +98,30 @@ int Tree(const Request& request, int&, char**) {
 int Gallery(const Request& request, int& argc, char** argv) {
   return WithDisc(request, [&](const fs::path& folder) {
     const QGuiApplication application(PreparedForNoDisplay(argc), argv);
+    DesktopProbe probe;
+    const Findings findings = CheckDisc(FolderTree(folder), probe);
     return Outcome(WithProgress(Translated("Taking screenshots"), [&](const Progress& progress) {
-      return MakeGallery(folder, request.words[1], progress);
+      return MakeGallery(folder, request.words[1], findings, progress).problem;
     }));
   });
+}
+
+int Library(const Request& request, int& argc, char** argv) {
+  const QGuiApplication application(PreparedForNoDisplay(argc), argv);
+  DesktopProbe probe;
+  const auto make = [&probe](const fs::path& named, const fs::path& folder) -> MadeGallery {
+    const auto unheard = [](std::uintmax_t, std::uintmax_t) {};
+    const OpenedDisc disc = DiscCache().Open(named, unheard);
+    if (!disc.problem.empty()) return {{}, disc.problem};
+    return MakeGallery(disc.folder, folder, CheckDisc(FolderTree(disc.folder), probe), unheard);
+  };
+  const std::vector<fs::path> discs(request.words.begin() + 1, request.words.end());
+  const auto problems = WithProgress(Translated("Taking screenshots"), [&](const Progress& progress) {
+    return MakeLibrary(request.words[0], discs, make, progress);
+  });
+  int status = kGood;
+  for (const std::string& problem : problems) status = Outcome(problem);
+  return status;
 }
 
 int Get(const Request& request, int&, char**) {
@@ -120,8 +141,8 @@ struct Runner {
   int (*run)(const Request& request, int& argc, char** argv);
 };
 /// One for each command of the table.
-constexpr Runner kRunners[] = {{"open", Open},       {"check", Check}, {"tree", Tree},
-                               {"gallery", Gallery}, {"get", Get},     {"new", New}};
+constexpr Runner kRunners[] = {{"open", Open},       {"check", Check}, {"tree", Tree}, {"gallery", Gallery},
+                               {"library", Library}, {"get", Get},     {"new", New}};
 
 /// Writes a page or a script that is named by the value of an option.
 int Written(Request& request, const std::string& text) {

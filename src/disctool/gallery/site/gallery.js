@@ -1,0 +1,33 @@
+// Searches the page. Without it everything is there and nothing is hidden.
+"use strict";
+(() => {
+  // Letters without their marks, so that "zolw" finds "żółw".
+  const plain = (text) => text.toLowerCase().replace(/ł/g, "l").normalize("NFD").replace(/[\u0300-\u036f]/g, "");
+  const sections = [...document.querySelectorAll("main > section")];
+  const texts = sections.map((section) => plain(section.textContent));
+  const form = document.getElementById("search");
+  const words = document.getElementById("words");
+  const found = document.getElementById("found");
+
+  const search = () => {
+    const wanted = plain(words.value).split(/\s+/).filter(Boolean);
+    let count = 0;
+    sections.forEach((section, i) => {
+      section.hidden = !wanted.every((word) => texts[i].includes(word));
+      if (!section.hidden) ++count;
+    });
+    found.value = wanted.length === 0 ? "" : `znaleziono: ${count}`;
+  };
+
+  form.hidden = false;
+  form.addEventListener("submit", (event) => event.preventDefault());
+  words.addEventListener("input", search);
+  // A link must land even where the search has hidden its goal.
+  window.addEventListener("hashchange", () => {
+    const goal = document.getElementById(location.hash.slice(1));
+    if (!goal || !goal.hidden) return;
+    words.value = "";
+    search();
+    goal.scrollIntoView();
+  });
+})();
