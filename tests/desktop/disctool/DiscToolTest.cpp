@@ -3,7 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
-#include <set>
+#include <QPainter>
+#include <sstream>
 
 #include "desktop/media/MediaFiles.h"
 #include "desktop/support/Processes.h"
@@ -25,12 +26,22 @@ struct DiscTool : testing::Test {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   }
   bool Told(const std::string& text) const { return output.find(text) != output.npos; }
-  /// The pictures whose files begin so.
+  /// The pictures whose files begin so, as the page shows them: laid on their ground where they have one.
   std::vector<QImage> Pictures(const std::string& begin) const {
+    const auto load = [this](const std::string& file) { return QImage(QString::fromStdString(out / file)); };
     std::vector<QImage> pictures;
-    for (const fs::path& file : std::set<fs::path>(fs::directory_iterator(out), {}))
-      if (file.filename().string().starts_with(begin) && file.extension() == ".png")
-        pictures.emplace_back(QString::fromStdString(file));
+    std::istringstream list(ContentOf(out / "gallery.list"));
+    std::string line, file, width, height, ground;
+    std::getline(list, line);
+    while (std::getline(list, line)) {
+      std::istringstream words(line);
+      words >> file >> width >> height;
+      if (!file.starts_with("pictures/" + begin)) continue;
+      QImage picture =
+          load(words >> ground ? ground : file).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+      QPainter(&picture).drawImage(0, 0, load(file));
+      pictures.push_back(picture);
+    }
     return pictures;
   }
   TestDisc disc;
@@ -50,7 +61,7 @@ TEST_F(DiscTool, TellsMisuseFromFaults) {
   EXPECT_EQ(Run("get " + folder + " HEADLINE Caption"), 0);
   EXPECT_EQ(output, "Płyta próbna\n");
   EXPECT_EQ(Run("--help"), 0);
-  for (const char* command : {"open", "check", "tree", "gallery", "get", "new"})
+  for (const char* command : {"open", "check", "tree", "gallery", "library", "get", "new"})
     EXPECT_TRUE(Told(std::string("\n  ") + command + " "));
   EXPECT_EQ(Run("open " + folder, "-u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM"), 1);
   EXPECT_TRUE(Told("no display"));
@@ -69,12 +80,12 @@ TEST_F(DiscTool, TheGalleryShowsEveryViewOfADisc) {
   for (const char* shot : {"Shot2", "Shot3", "Shot4", "Shot5"}) disc.Set("Gra & spółka", shot, "shot.gif");
   disc.Entry("Film", {{"PlayAs", "MOVIE"}, {"Parameters", "%:\\film.avi"}});
   ASSERT_EQ(Run("gallery " + folder + " " + there, "-u DISPLAY -u WAYLAND_DISPLAY"), 0) << output;
-  // The start screen, help in two parts, the other page, the first menu, a list of thirty, the film with its
-  // screenshot and its cinema, what leads nowhere, an entry and its five screenshots.
-  const std::size_t expected[] = {1, 2, 1, 1, 4, 3, 0, 7};
+  // The start screen, help in two parts, the other page, the first menu, a list of thirty, the film and its
+  // cinema, what leads nowhere, an entry in two parts and the one file of all its screenshots.
+  const std::size_t expected[] = {1, 2, 1, 1, 4, 2, 0, 3};
   for (std::size_t i = 0; i < 8; ++i)
     EXPECT_EQ(Pictures("0000" + std::to_string(i)).size(), expected[i]) << i;
-  const QImage cinema = Pictures("00005-3").at(0);
+  const QImage cinema = Pictures("00005-2").at(0);
   int number = 0;
   for (int bar = 0; bar < 8; ++bar) number |= qGray(cinema.pixel(230 + 20 * bar, 200)) > 128 ? 1 << bar : 0;
   EXPECT_NEAR(number, 50, 1) << "a picture of the film on the screen";
@@ -85,7 +96,59 @@ TEST_F(DiscTool, TheGalleryShowsEveryViewOfADisc) {
   for (std::size_t i = 1; i < list.size(); ++i) EXPECT_NE(list[i - 1], list[i]) << "not scrolled";
   output = ContentOf(out / "index.html");
   EXPECT_TRUE(Told("<title>Płyta próbna</title>") && Told("Gra &amp; spółka") && !Told("<lista>")) << output;
-  EXPECT_EQ(Run("gallery " + folder + " " + there), 1) << "it touches no folder that holds something";
+}
+
+// Whoever is interrupted, or changes a disc, does not begin anew; whoever mistypes a folder loses nothing.
+TEST_F(DiscTool, AGalleryGoesOnWhereItStoodAndTouchesNoOtherFolder) {
+  ASSERT_EQ(Run("gallery " + folder + " " + there), 0) << output;
+  const std::string list = ContentOf(out / "gallery.list"), page = ContentOf(out / "index.html");
+  const fs::path kept = out / "pictures/00000-1.png", lost = out / "pictures/00003-1.png";
+  const auto written = fs::last_write_time(kept);
+  fs::remove(lost);
+  std::ofstream(out / "pictures/half.png.part") << "x";
+  ASSERT_EQ(Run("gallery " + folder + " " + there), 0) << output;
+  EXPECT_EQ(ContentOf(out / "gallery.list"), list);
+  EXPECT_EQ(ContentOf(out / "index.html"), page);
+  EXPECT_TRUE(fs::exists(lost));
+  EXPECT_FALSE(fs::exists(out / "pictures/half.png.part"));
+  EXPECT_EQ(fs::last_write_time(kept), written);
+  disc.Entry("Nowa", {{"Execute", "%:\\setup.exe"}, {"Note", "Opis nowej pozycji"}});
+  disc.Menu("MAINMENU", {"Nowa"});
+  ASSERT_EQ(Run("gallery " + folder + " " + there), 0) << output;
+  EXPECT_NE(ContentOf(out / "index.html").find("Opis nowej pozycji"), std::string::npos);
+  EXPECT_NE(fs::last_write_time(kept), written) << "another disc, other pictures";
+
+  std::ofstream(scratch.Path() / "list") << "x";
+  EXPECT_EQ(Run("gallery " + folder + " '" + scratch.Path().string() + "'"), 1);
+  EXPECT_TRUE(Told("not empty")) << output;
+  EXPECT_EQ(ContentOf(scratch.Path() / "list"), "x");
+}
+
+// A bad disc does not stop the others, and what has not changed is not made again.
+TEST_F(DiscTool, ALibraryHoldsManyDiscsAndRenewsWhatHasChanged) {
+  TestDisc second;
+  second.Entry("Żółw", {{"Execute", "%:\\setup.exe"}});
+  second.Menu("MAINMENU", {"Żółw"});
+  const std::string other = second.Folder();
+  EXPECT_EQ(Run("library " + there + " " + folder + " /nowhere " + other), 1);
+  EXPECT_TRUE(Told("/nowhere")) << output;
+  const std::string index = ContentOf(out / "search-index.js"), page = ContentOf(out / "index.html");
+  EXPECT_NE(index.find("Żółw"), std::string::npos);
+  EXPECT_NE(page.find("płyty: 2"), std::string::npos) << page;
+  const auto galleries = [this] {
+    std::vector<fs::file_time_type> times;
+    for (const auto& gallery : fs::directory_iterator(out / "discs"))
+      if (fs::exists(gallery.path() / "index.html"))
+        times.push_back(fs::last_write_time(gallery.path() / "gallery.list"));
+    return times;
+  };
+  const auto before = galleries();
+  ASSERT_EQ(Run("library " + there + " " + other), 0) << output;
+  EXPECT_EQ(ContentOf(out / "index.html"), page) << "a disc that is not named again stays";
+  EXPECT_EQ(galleries(), before);
+  second.Entry("Żółw", {{"Execute", "%:\\setup.exe"}, {"Note", "Powoli"}});
+  ASSERT_EQ(Run("library " + there + " " + other), 0) << output;
+  EXPECT_NE(ContentOf(out / "search-index.js").find("Powoli"), std::string::npos);
 }
 
 // Wide open numbers, missing art, a page of 40,000 pixels, a chain of menus deeper than the disc allows.
