@@ -76,6 +76,34 @@ TEST_F(ZoomStory, TheDesktopAndTheUserDecideOn2560x1440) {
   EXPECT_EQ(width(), 667 * 3);
 }
 
+// Faults: a zoom that stays when the screen changes, strips that a window manager scatters meanwhile.
+TEST_F(ZoomStory, FollowsTheScreenDownFrom3840x2160) {
+  Start();
+  const auto places = [&](int zoom) {
+    int right = 0;
+    for (const Rect& place : {Rect{626, 292, 667, 496},
+                              {0, 429, 626, 80},
+                              {834, 0, 204, 292},
+                              {1293, 606, 627, 10},
+                              {1293, 661, 627, 10},
+                              {1293, 716, 627, 10}})
+      for (const WindowId window : Windows())
+        right += pixels_.PlaceOf(window) ==
+                 Rect{place.left * zoom, place.top * zoom, place.width * zoom, place.height * zoom};
+    return right;
+  };
+  EXPECT_TRUE(Soon([&] { return places(2) == 6; }));
+  ASSERT_EQ(std::system("xrandr --newmode half 150 1920 2000 2100 2200 1080 1084 1089 1120 &&"
+                        "xrandr --addmode screen half && xrandr --output screen --mode half"),
+            0);
+  EXPECT_TRUE(Soon([&] { return places(1) == 6; })) << places(1);
+  EXPECT_TRUE(Soon([&] { return pixels_.Pixel({626 + 300, 292 + 455}) == kMain; }));
+  ASSERT_EQ(std::system("xrandr --output screen --mode 3840x2160"), 0);
+  EXPECT_TRUE(Soon([&] { return places(2) == 6; })) << places(2);
+  EXPECT_TRUE(Becomes({300, 455}, kMain));
+  Leave();
+}
+
 // Fault: a message that nobody can read.
 TEST_F(ZoomStory, MessagesGrowTooOn2560x1440) {
   std::vector<Rect> boxes;

@@ -45,7 +45,7 @@ DesktopWindow::~DesktopWindow() {
 }
 
 void DesktopWindow::SetPlace(const Rect& place) {
-  place_ = place;
+  place_ = asked_ = place;
   if (place.Empty()) return;
   const Rect shown = Shown();
   setFixedSize(shown.width, shown.height);
@@ -63,7 +63,10 @@ WindowZoom DesktopWindow::Zoom() const {
 }
 
 void DesktopWindow::FollowScreen() {
-  SetPlace(place_);
+  const Rect before = place_;
+  // Window managers push windows about, each by itself, when the screen changes.
+  SetPlace(asked_);
+  if (place_ != before) Post(FormEvent::Kind::Moved, {place_.left, place_.top});
   SetShape(shape_);
   SetPointer(pointer_);
   update();

@@ -66,6 +66,7 @@ class DesktopWindow : public QWidget, public FormWindow {
   Form& form_;
   const WindowKind kind_;
   Rect place_;
+  Rect asked_;  // by the form; the window manager may have moved the window since
   Region shape_;
   Pointer pointer_ = Pointer::Default;
   QRegion dirty_;  // in screen pixels
