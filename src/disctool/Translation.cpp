@@ -28,4 +28,7 @@ void UseLanguageOfUser(const std::filesystem::path& folder) {
   bind_textdomain_codeset(kTextDomain, "UTF-8");
 }
 
+// Qt sets the locale of the environment once more as its application begins, so that would not last.
+void UseEnglish() { bindtextdomain(kTextDomain, "/dev/null"); }
+
 }  // namespace orvanta

@@ -42,5 +42,7 @@ std::string TranslatedCount(const char* one, const char* many, std::size_t numbe
 /// Makes `Translated` speak the language of the user's locale (LANGUAGE, LC_ALL, LC_MESSAGES, LANG) from the
 /// translations in `folder`. Without a call it speaks English.
 void UseLanguageOfUser(const std::filesystem::path& folder);
+/// Takes it back to English.
+void UseEnglish();
 
 }  // namespace orvanta

@@ -4,7 +4,7 @@
 
 #include "config/Values.h"
 #include "config/Windows1250.h"
-#include "disctool/check/CheckParts.h"
+#include "disctool/check/CheckJob.h"
 
 namespace orvanta {
 
@@ -30,7 +30,7 @@ std::string_view FixedSection(std::string_view name) {
 }
 
 std::string Naming(std::string_view section, std::string_view key) {
-  return std::string(key) + " of [" + std::string(section) + "]";
+  return Translated("%1 of [%2]", key, section);
 }
 
 std::string PicturePath(std::string_view value) {
@@ -42,7 +42,7 @@ Findings CheckDisc(const DiscTree& disc, DiscProbe& probe) {
   const Catalogue catalogue(disc);
   if (catalogue.Empty()) {
     findings.Error({disc.Name(), 0}, "no-disc",
-                   "there is no disc here: neither Data/Menu.ini nor Data/Param.ini");
+                   Translated("there is no disc here: neither %1 nor %2", "Data/Menu.ini", "Data/Param.ini"));
     return findings;
   }
   const MenuTree tree = ReadMenuTree(catalogue);

@@ -5,7 +5,7 @@
 
 #include "config/NumberedKey.h"
 #include "config/Windows1250.h"
-#include "disctool/check/CheckParts.h"
+#include "disctool/check/CheckJob.h"
 
 namespace orvanta {
 namespace {
@@ -19,38 +19,47 @@ struct NamedFile {
   std::string path;
 };
 
-/// The file on the disc; empty, and reported, if it is not there.
-std::string Locate(CheckJob& job, const NamedFile& file) {
+/// The file on the disc; empty, and reported, if it is not there. A program may be a folder, which is opened.
+std::string Locate(CheckJob& job, const NamedFile& file, bool folderToo = false) {
   const FoundPath& found = job.files.Find(file.path);
   if (!found) {
-    job.findings.Error(file.place, "no-file", file.naming + " names a file that is not there: " + file.path);
+    job.findings.Error(file.place, "no-file",
+                       Translated("%1 names a file that is not there: %2", file.naming, file.path));
     return {};
   }
   if (found.otherCase)
     job.findings.Warning(file.place, "other-case",
-                         file.naming + " is found only by ignoring small and capital letters: " + file.path +
-                             " is called " + found.path.filename().string());
+                         Translated("%1 is found only by ignoring small and capital letters: %2 is called %3",
+                                    file.naming, file.path, found.path.filename().string()));
+  const DiscTree::Kind kind = job.files.KindOf(found.path.native());
+  if (kind == DiscTree::Kind::Other || (kind == DiscTree::Kind::Folder && !folderToo)) {
+    job.findings.Error(file.place, "special-file",
+                       Translated("%1 names something that is not a file: %2", file.naming, file.path));
+    return {};
+  }
   return found.path.native();
 }
 
 void Picture(CheckJob& job, const NamedFile& file) {
   const std::string path = Locate(job, file);
   if (!path.empty() && !job.files.PictureSize(path))
-    job.findings.Error(file.place, "no-picture", file.naming + " cannot be read as a picture: " + file.path);
+    job.findings.Error(file.place, "no-picture",
+                       Translated("%1 cannot be read as a picture: %2", file.naming, file.path));
 }
 
 void Font(CheckJob& job, const NamedFile& file) {
   const std::string path = Locate(job, file);
   if (!path.empty() && !job.files.IsFont(path))
-    job.findings.Error(file.place, "no-font", file.naming + " cannot be read as a font: " + file.path);
+    job.findings.Error(file.place, "no-font",
+                       Translated("%1 cannot be read as a font: %2", file.naming, file.path));
 }
 
 void Media(CheckJob& job, const NamedFile& file, bool film) {
   const std::string path = Locate(job, file);
   if (!path.empty() && !job.files.CanPlay(path, film))
-    job.findings.Error(
-        file.place, "not-playable",
-        file.naming + (film ? " cannot be played as a film: " : " cannot be played: ") + file.path);
+    job.findings.Error(file.place, "not-playable",
+                       film ? Translated("%1 cannot be played as a film: %2", file.naming, file.path)
+                            : Translated("%1 cannot be played: %2", file.naming, file.path));
 }
 
 /// Reports a path that leads off the disc, or that depends on where the shell was started.
@@ -59,14 +68,17 @@ bool LiesOnDisc(CheckJob& job, const NamedFile& file) {
   const bool hasDrive = path.size() >= 2 && path[1] == ':';
   const bool network = path.starts_with("\\\\") || path.starts_with("//");
   if (network || (hasDrive && !EqualNoCase(path.substr(0, 1), std::string(1, kDrive)))) {
-    job.findings.Warning(file.place, "off-the-disc",
-                         file.naming + " leads off the disc: " + path + "; begin it with %:\\ to stay on it");
+    job.findings.Warning(
+        file.place, "off-the-disc",
+        Translated("%1 leads off the disc: %2; begin it with %:\\ to stay on it", file.naming, path));
     return false;
   }
   if (!hasDrive && !path.starts_with('\\') && !path.starts_with('/')) {
-    job.findings.Warning(file.place, "no-drive",
-                         file.naming + " depends on the folder in which the shell is started: " + path +
-                             "; begin it with %:\\ to name a file of the disc");
+    job.findings.Warning(
+        file.place, "no-drive",
+        Translated("%1 depends on the folder in which the shell is started: %2; begin it with "
+                   "%:\\ to name a file of the disc",
+                   file.naming, path));
     return false;
   }
   return true;
@@ -92,14 +104,37 @@ void Sound(CheckJob& job, const std::string& naming, const Setting& found) {
   if (LiesOnDisc(job, file)) Media(job, file, false);
 }
 
+void MainSize(CheckJob& job, const std::string& naming, const Setting& found) {
+  const auto size = job.PictureOf("GLOBAL", "MainGfx");
+  if (size && *size != kMainWindow)
+    job.findings.Warning(found.place, "main-size",
+                         Translated("%1 is %2 by %3 pixels large, the window %4 by %5", naming, size->width,
+                                    size->height, kMainWindow.width, kMainWindow.height));
+}
+
+/// The three pictures of a button.
+void Looks(CheckJob& job, const SchemaKey& key, const std::string& naming, const Setting& found) {
+  constexpr const char* kEndings[] = {"0.gif", "1.gif", "2.gif"};
+  bool differ = false;
+  for (const char* ending : kEndings) {
+    Picture(job, {found.place, naming, PicturePath(found.value + ending)});
+    const auto first = job.PictureOf(key.section, key.name, kEndings[0]);
+    const auto size = job.PictureOf(key.section, key.name, ending);
+    differ = differ || (first && size && *first != *size);
+  }
+  if (differ)
+    job.findings.Warning(found.place, "looks-differ",
+                         Translated("the three looks of %1 differ in size", naming));
+}
+
 void Fixed(CheckJob& job, const SchemaKey& key, const std::string& name, const Setting& found) {
   const std::string naming = Naming(key.section, name);
   switch (key.kind) {
-    case Kind::Picture: return Picture(job, {found.place, naming, PicturePath(found.value)});
-    case Kind::Base:
-      for (const char* ending : {"0.gif", "1.gif", "2.gif"})
-        Picture(job, {found.place, naming, PicturePath(found.value + ending)});
+    case Kind::Picture:
+      Picture(job, {found.place, naming, PicturePath(found.value)});
+      if (name == "MainGfx") MainSize(job, naming, found);
       return;
+    case Kind::Base: return Looks(job, key, naming, found);
     case Kind::Font: return Font(job, {found.place, naming, PicturePath(found.value)});
     case Kind::Sound: return Sound(job, naming, found);
     default: return;
@@ -115,7 +150,7 @@ void Target(CheckJob& job, const MenuNode& node) {
   if (!LiesOnDisc(job, file)) return;
   file.path = OnDrive(found.value);
   if (!program) return Media(job, file, node.kind == NodeKind::Film);
-  Locate(job, file);
+  Locate(job, file, true);
 }
 
 void Entry(CheckJob& job, const MenuNode& node) {

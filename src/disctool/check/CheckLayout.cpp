@@ -7,7 +7,7 @@
 #include <string>
 
 #include "config/Values.h"
-#include "disctool/check/CheckParts.h"
+#include "disctool/check/CheckJob.h"
 #include "platform/Region.h"
 #include "startup/modFormShape.h"
 
@@ -15,7 +15,7 @@ namespace orvanta {
 namespace {
 
 // As the shell's windows are designed, in pixels.
-constexpr Size kMainWindow{667, 496}, kMenuArea{472, 309}, kStrip{472, 33}, kCinema{640, 480};
+constexpr Size kMenuArea{472, 309}, kStrip{472, 33}, kCinema{640, 480};
 constexpr Size kButtonWithoutArt{32, 32}, kShotFrame{161, 259};
 constexpr int kLabelHeight = 26, kShotTop = 6, kShotHeight = 82, kShotGap = 3;
 
@@ -52,8 +52,8 @@ int PixelsInOutline(const Region& outline, const Rect& area) {
 }
 
 void Outside(CheckJob& job, const Setting& at, const std::string& what, bool wholly) {
-  if (wholly) return job.findings.Error(at.place, "outside", what + " lies outside the window");
-  job.findings.Warning(at.place, "partly-outside", what + " lies partly outside the window");
+  if (wholly) return job.findings.Error(at.place, "outside", Translated("%1 lies outside the window", what));
+  job.findings.Warning(at.place, "partly-outside", Translated("%1 lies partly outside the window", what));
 }
 
 void BarButtons(CheckJob& job) {
@@ -67,7 +67,7 @@ void BarButtons(CheckJob& job) {
     const bool inside = Intersection(area, {0, 0, kMainWindow.width, kMainWindow.height}) == area;
     const int seen = PixelsInOutline(outline, area);
     // Art may well run into the corners that the outline cuts off.
-    if (!inside || seen == 0) Outside(job, at, "the button of " + std::string(keys.base), seen == 0);
+    if (!inside || seen == 0) Outside(job, at, Translated("the button of %1", keys.base), seen == 0);
   }
 }
 
@@ -80,7 +80,7 @@ void CinemaButtons(CheckJob& job) {
     const Rect area{Pixels(job, "CINEMA", keys.left), Pixels(job, "CINEMA", keys.top), size.width,
                     size.height};
     const Rect seen = Intersection(area, {0, 0, window.width, window.height});
-    if (seen != area) Outside(job, at, "the button of " + std::string(keys.base), seen.Empty());
+    if (seen != area) Outside(job, at, Translated("the button of %1", keys.base), seen.Empty());
   }
 }
 
@@ -92,7 +92,8 @@ void Zones(CheckJob& job) {
                     Pixels(job, "GLOBAL", zone + "W"), Pixels(job, "GLOBAL", zone + "H")};
     const Setting at = job.catalogue.Find("GLOBAL", zone + "X");
     const Rect seen = Intersection(area, {0, 0, box.width, box.height});
-    if (at && !area.Empty() && seen != area) Outside(job, at, "the click zone " + zone, seen.Empty());
+    if (at && !area.Empty() && seen != area)
+      Outside(job, at, Translated("the click zone %1", zone), seen.Empty());
   }
 }
 
@@ -110,19 +111,20 @@ void CheckSlider(CheckJob& job, const Slider& slider) {
   const double yMin = CLng(DoubleOf(begin.value)), yMax = CLng(DoubleOf(end.value));
   if (yMax <= yMin) {
     const std::string text =
-        "the slider cannot scroll: YMax of [" + std::string(slider.section) + "] is not above YMin";
+        Translated("the slider cannot scroll: YMax of [%1] is not above YMin", slider.section);
     if (slider.needed) return job.findings.Error(end.place, "no-travel", text);
-    return job.findings.Warning(end.place, "no-travel", text + "; nothing on this disc needs it yet");
+    return job.findings.Warning(end.place, "no-travel",
+                                text + Translated("; nothing on this disc needs it yet"));
   }
   const Size knob = job.PictureOf(slider.section, slider.knob).value_or(Size{});
   const double left = job.Number(slider.section, "PosX");
   if (left + knob.width <= 0 || left >= slider.box.width || yMin + knob.height <= 0 ||
       yMin >= slider.box.height)
     return job.findings.Error(end.place, "knob-outside",
-                              "the slider cannot be grabbed: its knob lies outside the area that it scrolls");
+                              Translated("the slider cannot be grabbed: its knob lies outside its area"));
   if (yMin < 0 || yMax + knob.height > slider.box.height || left < 0 || left + knob.width > slider.box.width)
     job.findings.Warning(end.place, "knob-partly-outside",
-                         "the slider's knob runs out of the area that it scrolls");
+                         Translated("the knob of the slider leaves its area"));
 }
 
 /// Whether a list of so many labels is higher than the menu area.

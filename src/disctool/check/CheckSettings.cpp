@@ -7,7 +7,7 @@
 
 #include "config/Values.h"
 #include "config/Windows1250.h"
-#include "disctool/check/CheckParts.h"
+#include "disctool/check/CheckJob.h"
 
 namespace orvanta {
 namespace {
@@ -31,15 +31,16 @@ Asked IsAsked(const CheckJob& job, const SchemaKey& key) {
 void Missing(CheckJob& job, const SchemaKey& key) {
   const Asked asked = IsAsked(job, key);
   const DiscPlace place = job.catalogue.PlaceOf(key.section);
-  const std::string text = Naming(key.section, key.name) + " is missing";
+  const std::string text = Translated("%1 is missing", Naming(key.section, key.name));
   if (asked == Asked::Yes) job.findings.Error(place, "missing-key", text);
   if (asked == Asked::NotYet)
-    job.findings.Warning(place, "missing-key", text + "; no entry of this disc needs it yet");
+    job.findings.Warning(place, "missing-key", text + Translated("; no entry of this disc needs it yet"));
 }
 
 void NoNumber(CheckJob& job, const SchemaKey& key, const Setting& found) {
-  job.findings.Error(found.place, "no-number",
-                     Naming(key.section, key.name) + " is no number: '" + found.value + "' counts as 0");
+  job.findings.Error(
+      found.place, "no-number",
+      Translated("%1 is not a number: '%2' counts as 0", Naming(key.section, key.name), found.value));
 }
 
 void WholeNumber(CheckJob& job, const SchemaKey& key, const Setting& found) {
@@ -47,12 +48,12 @@ void WholeNumber(CheckJob& job, const SchemaKey& key, const Setting& found) {
   const std::int16_t taken = WholeOf(found.value);
   if (std::abs(value - taken) >= 1) {
     job.findings.Error(found.place, "out-of-range",
-                       Naming(key.section, key.name) + " lies beyond -32768 to 32767: '" + found.value +
-                           "' counts as " + std::to_string(taken));
+                       Translated("%1 is outside -32768 to 32767: '%2' counts as %3",
+                                  Naming(key.section, key.name), found.value, taken));
   } else if (value != taken) {
     job.findings.Warning(found.place, "rounded",
-                         Naming(key.section, key.name) + " is no whole number: '" + found.value +
-                             "' counts as " + std::to_string(taken));
+                         Translated("%1 is not a whole number: '%2' counts as %3",
+                                    Naming(key.section, key.name), found.value, taken));
   }
 }
 
@@ -68,15 +69,15 @@ void Malformed(CheckJob& job, const SchemaKey& key, const Setting& found) {
       if (!number) return NoNumber(job, key, found);
       if (const double value = DoubleOf(found.value);
           value < 0 || value > 0xFFFFFF || value != std::floor(value))
-        job.findings.Error(
-            found.place, "no-colour",
-            Naming(key.section, key.name) + " is no colour from 0 to 16777215: '" + found.value + "'");
+        job.findings.Error(found.place, "no-colour",
+                           Translated("%1 is not a colour from 0 to 16777215: '%2'",
+                                      Naming(key.section, key.name), found.value));
       return;
     case Kind::Boolean:
       if (!number && !EqualNoCase(found.value, "True") && !EqualNoCase(found.value, "False"))
         job.findings.Error(found.place, "no-boolean",
-                           Naming(key.section, key.name) + " is neither True nor False nor a number: '" +
-                               found.value + "' counts as False");
+                           Translated("%1 is neither True nor False nor a number: '%2' counts as False",
+                                      Naming(key.section, key.name), found.value));
       return;
     default: return;
   }
@@ -92,25 +93,27 @@ void MissingSection(CheckJob& job, std::string_view section) {
   const auto keys = std::ranges::count_if(kSchema, mandatory);
   const bool asked = std::ranges::any_of(
       kSchema, [&](const SchemaKey& key) { return mandatory(key) && IsAsked(job, key) == Asked::Yes; });
-  const std::string text = "there is no section [" + std::string(section) + "], which has " +
-                           std::to_string(keys) + " mandatory keys";
+  const std::string text = TranslatedCount("there is no section [%2], which has one mandatory key",
+                                           "there is no section [%2], which has %1 mandatory keys",
+                                           static_cast<std::size_t>(keys), section);
   const DiscPlace place = job.catalogue.PlaceOf(section);
   if (asked) return job.findings.Error(place, "missing-section", text);
-  job.findings.Warning(place, "missing-section", text + "; no entry of this disc needs it yet");
+  job.findings.Warning(place, "missing-section", text + Translated("; no entry of this disc needs it yet"));
 }
 
 /// Sizes that make something that cannot be seen or used.
 void Senseless(CheckJob& job) {
-  const auto positive = [&](std::string_view section, std::string_view key, std::string_view what) {
+  const auto positive = [&](std::string_view section, std::string_view key, const char* what) {
     const Setting found = job.catalogue.Find(section, key);
     if (found && IsNumber(found.value) && DoubleOf(found.value) < 1)
       job.findings.Warning(found.place, "senseless",
-                           Naming(section, key) + " is " + found.value + ": " + std::string(what));
+                           Translated("%1 is %2: %3", Naming(section, key), found.value, Translated(what)));
   };
   for (const char* zone : {"BackW", "BackH", "UpW", "UpH", "Back2W", "Back2H", "Up2W", "Up2H"})
-    positive("GLOBAL", zone, "nobody can click there");
-  for (const char* section : {"HEADLINE", "MENUITEM"}) positive(section, "FontSize", "nobody can read that");
-  positive("GLOBAL", "MenuLevels", "there is no way down from the first menu");
+    positive("GLOBAL", zone, Translatable("nobody can click there"));
+  for (const char* section : {"HEADLINE", "MENUITEM"})
+    positive(section, "FontSize", Translatable("nobody can read that"));
+  positive("GLOBAL", "MenuLevels", Translatable("there is no way down from the first menu"));
 }
 
 }  // namespace

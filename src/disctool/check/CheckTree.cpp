@@ -8,7 +8,7 @@
 #include "config/NumberedKey.h"
 #include "config/Values.h"
 #include "config/Windows1250.h"
-#include "disctool/check/CheckParts.h"
+#include "disctool/check/CheckJob.h"
 #include "disctool/disc/NearestName.h"
 
 namespace orvanta {
@@ -73,9 +73,8 @@ void TooDeep(CheckJob& job) {
   depths.Find();
   for (const MenuItem* item : depths.backwards)
     job.findings.Warning(item->place, "circle",
-                         "'" + job.tree.nodes[item->node].name +
-                             "' leads back to a menu that it lies in, so the way "
-                             "down never ends");
+                         Translated("'%1' leads back to a menu that it lies in, so the way down never ends",
+                                    job.tree.nodes[item->node].name));
   if (!levels) return;
   for (std::size_t i = 0; i < job.tree.nodes.size(); ++i) {
     if (depths.depth[i] > most) continue;
@@ -83,9 +82,9 @@ void TooDeep(CheckJob& job) {
       const MenuNode& node = job.tree.nodes[item.node];
       // An inert item is not entered and takes no level.
       if (depths.depth[item.node] == most + 1 && depths.depth[i] == most && node.kind != NodeKind::Inert)
-        job.findings.Error(item.place, "too-deep",
-                           "'" + node.name + "' lies " + std::to_string(most + 1) +
-                               " levels deep, but MenuLevels is " + std::to_string(most));
+        job.findings.Error(
+            item.place, "too-deep",
+            Translated("'%1' lies %2 levels deep, but MenuLevels is %3", node.name, most + 1, most));
     }
   }
 }
@@ -114,11 +113,16 @@ void Inert(CheckJob& job) {
     for (const MenuItem& item : menu.items) {
       const MenuNode& node = job.tree.nodes[item.node];
       if (node.kind != NodeKind::Inert) continue;
-      std::string text = "'" + node.name + "' leads nowhere: ";
-      text += job.catalogue.HasSection(node.name) ? "its section has neither Menu1 nor Execute nor PlayAs"
-                                                  : "there is no section of that name";
+      std::string text =
+          job.catalogue.HasSection(node.name)
+              ? Translated("'%1' leads nowhere: its section has neither Menu1 nor Execute nor PlayAs",
+                           node.name)
+              : Translated("'%1' leads nowhere: there is no section of that name", node.name);
       const auto nearest = hints < kMostHints ? NearestName(node.name, candidates) : std::string_view();
-      if (!nearest.empty() && ++hints) text += "; did you mean [" + std::string(nearest) + "]?";
+      if (!nearest.empty()) {
+        ++hints;
+        text += Translated("; did you mean %1?", "[" + std::string(nearest) + "]");
+      }
       job.findings.Warning(item.place, "inert", text);
     }
   }
@@ -128,31 +132,34 @@ void Entry(CheckJob& job, const MenuNode& node) {
   const DiscPlace place = job.catalogue.PlaceOf(node.name);
   if (node.shots == 0)
     job.findings.Warning(place, "no-screenshot",
-                         "the entry '" + node.name + "' has no screenshot: Shot1 is missing");
+                         Translated("the entry '%1' has no screenshot: Shot1 is missing", node.name));
   for (const char* key : {"Note", "System"})
     if (!job.catalogue.Find(node.name, key))
       job.findings.Warning(place, "no-text",
-                           "the entry '" + node.name + "' has an empty field: " + key + " is missing");
+                           Translated("the entry '%1' has an empty field: %2 is missing", node.name, key));
   const Setting playAs = job.catalogue.Find(node.name, "PlayAs");
   if (node.kind == NodeKind::Program) {
     if (playAs)
-      job.findings.Warning(playAs.place, "not-played",
-                           "PlayAs has no effect here: '" + node.name + "' has Execute and so is a program");
+      job.findings.Warning(
+          playAs.place, "not-played",
+          Translated("PlayAs has no effect: '%1' has Execute and so is a program", node.name));
   } else if (!job.catalogue.Find(node.name, "Parameters")) {
     job.findings.Error(playAs.place, "nothing-to-play",
-                       "the entry '" + node.name + "' has nothing to play: Parameters is missing");
+                       Translated("the entry '%1' has nothing to play: Parameters is missing", node.name));
   }
 }
 
 void Menu(CheckJob& job, const MenuNode& node) {
   if (!FixedSection(node.name).empty())
     job.findings.Warning(job.catalogue.PlaceOf(node.name), "fixed-section-as-menu",
-                         "[" + node.name + "] is a section of settings and a menu at once");
+                         Translated("[%1] is a section of settings and a menu at once", node.name));
   for (const char* key : {"Execute", "PlayAs"})
     if (const Setting found = job.catalogue.Find(node.name, key))
-      job.findings.Warning(found.place, "menu-and-entry",
-                           "'" + node.name + "' is a menu, for it has items; " + key +
-                               " makes it an entry only after a page has been closed");
+      job.findings.Warning(
+          found.place, "menu-and-entry",
+          Translated("'%1' is a menu, since it has items; %2 makes it an entry only after a page "
+                     "has been closed",
+                     node.name, key));
 }
 
 }  // namespace
@@ -161,7 +168,7 @@ void CheckTree(CheckJob& job) {
   const MenuNode& root = job.tree.nodes.front();
   if (root.kind != NodeKind::Menu)
     job.findings.Error(job.catalogue.PlaceOf(root.name), "empty-menu",
-                       "the first menu is empty: Menu1 of [MAINMENU] is missing");
+                       Translated("the first menu is empty: Menu1 of [MAINMENU] is missing"));
   TooDeep(job);
   Inert(job);
   for (const MenuNode& node : job.tree.nodes) {

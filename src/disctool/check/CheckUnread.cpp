@@ -8,14 +8,14 @@
 
 #include "config/NumberedKey.h"
 #include "config/Windows1250.h"
-#include "disctool/check/CheckParts.h"
+#include "disctool/check/CheckJob.h"
 #include "disctool/disc/NearestName.h"
 
 namespace orvanta {
 namespace {
 
-/// The number behind `prefix` in a key; nothing if the key is not of that run. 0 if it is no number that the
-/// run can have.
+/// The number after `prefix` in a key; nothing if the key is not of that run, 0 if the run cannot have that
+/// number.
 std::optional<int> NumberInRun(std::string_view key, std::string_view prefix) {
   if (key.size() <= prefix.size() || !EqualNoCase(key.substr(0, prefix.size()), prefix)) return std::nullopt;
   const std::string_view digits = key.substr(prefix.size());
@@ -29,10 +29,7 @@ class Section {
  public:
   /// `schema` is the section's name in the table of keys.
   Section(CheckJob& job, std::string name, std::string_view schema)
-      : job_(job), name_(std::move(name)), schema_(schema) {
-    for (const SchemaKey& key : kSchema)
-      if (key.section == schema_) names_.push_back(key.name);
-  }
+      : job_(job), name_(std::move(name)), schema_(schema) {}
 
   void Check(const Catalogue::File& file, const IniSection& section, bool isNode, bool isMenu) {
     for (const IniEntry& entry : section.entries) {
@@ -74,21 +71,39 @@ class Section {
   void BehindTheEnd(const DiscPlace& place, const std::string& key, std::string_view prefix, int number) {
     const int length = RunLength(prefix);
     if (number >= 1 && number <= length + 1) return;
-    std::string why = "numbers run from 1 to " + std::to_string(kLongestRun) + ", without leading zeros";
-    if (number > length && length < kLongestRun)
-      why = NumberedKey(prefix, length + 1) + " is missing, which ends the run";
-    job_.findings.Warning(place, "behind-the-end", Naming(name_, key) + " is never read: " + why);
+    const bool gap = number > length && length < kLongestRun;
+    job_.findings.Warning(
+        place, "behind-the-end",
+        gap ? Translated("%1 is never read: %2 is missing, which ends the run", Naming(name_, key),
+                         NumberedKey(prefix, length + 1))
+            : Translated("%1 is never read: numbers run from 1 to %2, without leading zeros",
+                         Naming(name_, key), kLongestRun));
+  }
+
+  /// The key that was most likely meant. One of a run has the digits of the key, wherever they stand.
+  std::string NearestKey(const std::string& key) const {
+    std::string digits;
+    for (const char c : key)
+      if (c >= '0' && c <= '9') digits += c;
+    std::vector<std::string> keys;
+    for (const SchemaKey& known : kSchema) {
+      if (known.section != schema_) continue;
+      const bool run = known.presence == Presence::Run;
+      keys.push_back(std::string(known.name) + (!run ? "" : digits.empty() ? "1" : digits));
+    }
+    const std::vector<std::string_view> names(keys.begin(), keys.end());
+    return std::string(NearestName(key, names));
   }
 
   void Unknown(const DiscPlace& place, const std::string& key) {
-    std::string text = Naming(name_, key) + " is never read";
+    std::string text = Translated("%1 is never read", Naming(name_, key));
     const auto elsewhere = std::ranges::find_if(kSchema, [&](const SchemaKey& known) {
       return known.section != kNodeSection && EqualNoCase(known.name, key);
     });
-    if (const auto nearest = NearestName(key, names_); !nearest.empty()) {
-      text += "; did you mean " + std::string(nearest) + "?";
+    if (const std::string nearest = NearestKey(key); !nearest.empty()) {
+      text += Translated("; did you mean %1?", nearest);
     } else if (elsewhere != kSchema.end()) {
-      text += "; it is a key of [" + std::string(elsewhere->section) + "]";
+      text += Translated("; it is a key of [%1]", elsewhere->section);
     }
     job_.findings.Warning(place, "unknown-key", text);
   }
@@ -97,10 +112,10 @@ class Section {
     for (const char* shown : {"Note", "System", "Parameters"})
       if (EqualNoCase(key, shown))
         job_.findings.Warning(place, "menu-and-entry",
-                              Naming(name_, key) + " is never read: '" + name_ + "' is a menu");
+                              Translated("%1 is never read: '%2' is a menu", Naming(name_, key), name_));
     if (NumberInRun(key, "Shot"))
       job_.findings.Warning(place, "menu-and-entry",
-                            Naming(name_, key) + " is never read: '" + name_ + "' is a menu");
+                            Translated("%1 is never read: '%2' is a menu", Naming(name_, key), name_));
   }
 
   /// A value of the second file that the first file has too.
@@ -110,14 +125,13 @@ class Section {
     const Catalogue::File& second = job_.catalogue.Files()[1];
     if (place.file != second.path) return;
     job_.findings.Warning(place, "hidden-key",
-                          Naming(name_, key) + " is never read: line " + std::to_string(found.place.line) +
-                              " of " + found.place.file.filename().string() + " has it too");
+                          Translated("%1 is never read: line %2 of %3 has it too", Naming(name_, key),
+                                     found.place.line, found.place.file.filename().string()));
   }
 
   CheckJob& job_;
   const std::string name_;
   const std::string_view schema_;
-  std::vector<std::string_view> names_;
   std::vector<std::pair<std::string_view, int>> lengths_;
 };
 
@@ -131,7 +145,8 @@ void CheckUnread(CheckJob& job) {
       const std::string_view fixed = FixedSection(name);
       const MenuNode* node = job.tree.Find(name);
       if (fixed.empty() && !node) {
-        job.findings.Warning({file.path, section.line}, "unreached", "nothing leads to [" + name + "]");
+        job.findings.Warning({file.path, section.line}, "unreached",
+                             Translated("nothing leads to [%1]", name));
         continue;
       }
       Section(job, name, fixed.empty() ? kNodeSection : fixed)

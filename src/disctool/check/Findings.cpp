@@ -8,8 +8,8 @@
 namespace orvanta {
 namespace {
 
-std::string_view NameOf(Finding::Severity severity) {
-  return severity == Finding::Severity::Error ? "error" : "warning";
+const char* NameOf(Finding::Severity severity) {
+  return severity == Finding::Severity::Error ? Translatable("error") : Translatable("warning");
 }
 
 }  // namespace
@@ -29,7 +29,8 @@ std::string FindingsText(const Findings& findings) {
   for (const Finding& finding : findings.List()) {
     text += Printable(finding.place.file.native());
     if (finding.place.line > 0) text += ":" + std::to_string(finding.place.line);
-    text.append(": ").append(NameOf(finding.severity)).append(": ") += Printable(finding.text) + "\n";
+    text.append(": ").append(Translated(NameOf(finding.severity))).append(": ") +=
+        Printable(finding.text) + "\n";
   }
   return text;
 }

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "disctool/check/FindingTable.h"
 #include "disctool/disc/Catalogue.h"
 
 namespace orvanta {
@@ -15,19 +16,18 @@ struct Finding {
   enum class Severity { Error, Warning };
   DiscPlace place;
   Severity severity = Severity::Error;
-  std::string_view id;  ///< names the kind of fault for machines: "missing-key"
-  std::string text;
+  std::string_view id;  ///< of the table: "missing-key"
+  std::string text;     ///< in the user's language
 };
 
 /// What is wrong with a disc.
 class Findings {
  public:
-  /// `id` must be a literal.
-  void Error(const DiscPlace& place, std::string_view id, std::string text) {
-    list_.push_back({place, Finding::Severity::Error, id, std::move(text)});
+  void Error(const DiscPlace& place, FindingId id, std::string text) {
+    list_.push_back({place, Finding::Severity::Error, id.text, std::move(text)});
   }
-  void Warning(const DiscPlace& place, std::string_view id, std::string text) {
-    list_.push_back({place, Finding::Severity::Warning, id, std::move(text)});
+  void Warning(const DiscPlace& place, FindingId id, std::string text) {
+    list_.push_back({place, Finding::Severity::Warning, id.text, std::move(text)});
   }
 
   /// By file and line; those of one line in the order of their finding.

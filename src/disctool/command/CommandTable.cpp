@@ -17,7 +17,9 @@ constexpr OptionInfo kOpenOptions[] = {
 constexpr ExampleInfo kOpenExamples[] = {{"orvanta-disc open disc.iso", Translatable("Opens an image.")}};
 
 constexpr OptionInfo kCheckOptions[] = {
-    kJson, {"strict", "", Translatable("Count warnings as errors in the exit status.")}};
+    kJson,
+    {"strict", "", Translatable("Count warnings as errors in the exit status.")},
+    {"explain", "ID", Translatable("Explain a kind of finding by its id, as --json writes it.")}};
 constexpr ExampleInfo kCheckExamples[] = {
     {"orvanta-disc check my-disc", Translatable("Lists what is wrong with a disc.")},
     {"orvanta-disc check --strict my-disc && make-image my-disc",

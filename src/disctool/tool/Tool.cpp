@@ -11,6 +11,7 @@
 #include "disctool/Progress.h"
 #include "disctool/Translation.h"
 #include "disctool/check/Check.h"
+#include "disctool/check/FindingTable.h"
 #include "disctool/command/Arguments.h"
 #include "disctool/command/CommandHelp.h"
 #include "disctool/command/DiscCommands.h"
@@ -81,7 +82,16 @@ int Open(const Request& request, int& argc, char** argv) {
       request, [&](const fs::path& folder) { return Outcome(RunShell(folder, request.Zoom(), argc, argv)); });
 }
 
+/// Writes a page or a script that is named by the value of an option.
+int Written(Request request, const std::string& text) {
+  std::cout << text;
+  if (!text.empty()) return kGood;
+  request.problem = Translated("there is none of that name");
+  return Misuse(request);
+}
+
 int Check(const Request& request, int& argc, char** argv) {
+  if (request.Has("explain")) return Written(request, Explanation(request.Option("explain")));
   return WithDisc(request, [&](const fs::path& folder) -> int {
     const QGuiApplication application(PreparedForNoDisplay(argc), argv);
     DesktopProbe probe;
@@ -144,15 +154,7 @@ struct Runner {
 constexpr Runner kRunners[] = {{"open", Open},       {"check", Check}, {"tree", Tree}, {"gallery", Gallery},
                                {"library", Library}, {"get", Get},     {"new", New}};
 
-/// Writes a page or a script that is named by the value of an option.
-int Written(Request& request, const std::string& text) {
-  std::cout << text;
-  if (!text.empty()) return kGood;
-  request.problem = Translated("there is none of that name");
-  return Misuse(request);
-}
-
-int Dispatch(Request& request, int& argc, char** argv) {
+int Dispatch(const Request& request, int& argc, char** argv) {
   if (!request.problem.empty()) return Misuse(request);
   if (request.Has("version")) return Written(request, "orvanta-disc " ORVANTA_VERSION "\n");
   if (request.Has("completion")) return Written(request, Completion(request.Option("completion")));
@@ -176,7 +178,9 @@ fs::path TranslationFolder() {
 int RunTool(int argc, char** argv) {
   UseLanguageOfUser(TranslationFolder());
   const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
-  Request request = ParseArguments(arguments);
+  const Request request = ParseArguments(arguments);
+  // What other programs read is the same in every language.
+  if (request.Has("json")) UseEnglish();
   // Qt would take some of the command's words for its own.
   argc = std::min(argc, 1);
   const int status = Dispatch(request, argc, argv);

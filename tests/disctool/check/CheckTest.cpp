@@ -53,6 +53,8 @@ constexpr const char* kFaults[][2] = {
     {"HEADLINE/FontBold=yes", "no-boolean! FontBold=yes"},
     {"GLOBAL/UpH=0", "senseless UpH=0"},
     {"@help.gif=GIF", "no-picture! HelpB=help.gif"},
+    {"GLOBAL/HelpB=Sound", "special-file! HelpB=Sound"},
+    {"GLOBAL/MainGfx=help.gif", "main-size MainGfx=help.gif"},
     {"GLOBAL/HelpB=HELP.gif", "other-case HelpB=HELP.gif"},
     {"-@ext2.gif", "no-file! ExtB=ext"},
     {"@menu.ttf=text", "no-font! FontFile=menu.ttf"},
@@ -85,6 +87,9 @@ TEST(Check, EachFaultOfAMakerIsFoundAtItsLineAndNoOther) {
     Change(disc, changes);
     EXPECT_EQ(Found(disc), found) << changes << "\n" << FindingsText(disc.Check());
   }
+  GoodDisc button;
+  button.Picture("ext1.gif", 40, 24);
+  EXPECT_EQ(Found(button), "looks-differ ExtB=ext");
   GoodDisc disc;
   disc.Set("Gra", "Note", std::string(254, 'x'));
   EXPECT_EQ(Found(disc), "");

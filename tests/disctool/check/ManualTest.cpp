@@ -36,6 +36,16 @@ TEST(Manual, TellsEveryKeyOfTheTableAndNoOther) {
   EXPECT_EQ(manual, table);
 }
 
+TEST(Manual, ExplainsEveryFindingAsTheToolDoes) {
+  const std::string text = Document("discs.md");
+  for (const FindingInfo& info : kFindings) {
+    const std::string row = "| `" + std::string(info.id) + "` | " + info.meaning + " | " + info.example +
+                            " | " + info.remedy + " |\n";
+    EXPECT_NE(text.find(row), std::string::npos) << row;
+  }
+  EXPECT_EQ(Explanation("no-such-id"), "");
+}
+
 TEST(Manual, HasTheOutlineThatTheWindowHas) { EXPECT_EQ(Document("outline.svg"), OutlineSvg()); }
 
 }  // namespace

@@ -104,7 +104,7 @@ TEST(Commands, TellOfFilesThatCannotBeReadAndReadNoEndlessOne) {
   }
   const Findings findings = disc.Check();
   ASSERT_EQ(findings.List().size(), 1U) << FindingsText(findings);
-  EXPECT_EQ(findings.List()[0].id, "no-picture");
+  EXPECT_EQ(findings.List()[0].id, "special-file");
 }
 
 }  // namespace

@@ -26,11 +26,14 @@ struct CheckJob {
   std::optional<Size> PictureOf(std::string_view section, std::string_view key, std::string_view ending = {});
 };
 
+/// The main window as it is designed, in pixels.
+inline constexpr Size kMainWindow{667, 496};
+
 /// The fixed section that a name means in any mix of capitals; empty if it is none.
 std::string_view FixedSection(std::string_view name);
 /// "BackX of [GLOBAL]"
 std::string Naming(std::string_view section, std::string_view key);
-/// "Data\logo.gif" for a value of a picture key, as a path of the disc.
+/// The Windows path of a picture or font that a key names.
 std::string PicturePath(std::string_view value);
 
 /// Lines that the lookup passes over, values that it cuts, names that stand twice.
