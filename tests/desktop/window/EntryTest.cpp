@@ -173,6 +173,9 @@ TEST_F(EntryStory, TheHourglassStandsUntilAnotherWindowIsActive) {
   screen_.Rest();
   const CursorLook arrow = screen_.Cursor();
   const auto isArrow = [&] { return screen_.Cursor() == arrow; };
+  // A press before the first tick over the button would have its look taken back by that tick.
+  PointAt(MiddleOf(ButtonBox(kPlay)));
+  EXPECT_TRUE(Shows(kPlay, kOver));
   ClickButton(kPlay);
   EXPECT_TRUE(Shows(kPlay, kPressed));
   const auto arguments = [&] { return ContentOf(disc_.Folder() / "argumenty"); };
