@@ -8,6 +8,11 @@
 
 namespace orvanta {
 
+EventLoop::Modal::Modal(EventLoop& loop, Form* form) : loop_(loop) {
+  loop_.modal_.push_back(form);
+  for (Form* other : loop_.forms_) other->EndPress();
+}
+
 EventLoop::Delivery::~Delivery() {
   if (--loop_.depth_ > 0) return;
   // A form's end may bury another (the whole-screen window of a film), so the list is taken first.
@@ -21,7 +26,7 @@ EventLoop::~EventLoop() = default;
 void EventLoop::Post(const FormEvent& event) {
   if (event.kind == FormEvent::Kind::MouseMove && !queue_.empty()) {
     FormEvent& last = queue_.back().event;
-    if (last.kind == event.kind && last.form == event.form && last.button == event.button) {
+    if (last.kind == event.kind && last.form == event.form && last.held == event.held) {
       last.place = event.place;
       return;
     }
@@ -51,11 +56,7 @@ void EventLoop::DeliverInput(std::uint64_t last) {
     const FormEvent event = queue_.front().event;
     queue_.pop_front();
     Delivery delivery(*this);
-    if (Blocked(event)) {
-      event.form->Miss(event);
-    } else {
-      event.form->Deliver(event);
-    }
+    if (!Blocked(event)) event.form->Deliver(event);
   }
 }
 
@@ -79,6 +80,7 @@ bool EventLoop::Blocked(const FormEvent& event) const {
 
 void EventLoop::Forget(const Form& form) {
   std::erase_if(queue_, [&](const Queued& queued) { return queued.event.form == &form; });
+  std::erase(forms_, &form);
   std::erase_if(timers_, [&](const Timer* timer) { return &timer->OwnerForm() == &form; });
 }
 

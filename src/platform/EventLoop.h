@@ -48,10 +48,11 @@ class EventLoop {
   void PumpOrWait(Milliseconds deadline);
   void RunUntil(const std::function<bool()>& done);
 
-  /// While it lives only `form` and the forms that it owns get input; with null, none does. Ticks go on.
+  /// While it lives only `form` and the forms that it owns get input; with null, none does. Ticks go on. What
+  /// is pressed as it begins is let go of.
   class Modal {
    public:
-    Modal(EventLoop& loop, Form* form) : loop_(loop) { loop_.modal_.push_back(form); }
+    Modal(EventLoop& loop, Form* form);
     ~Modal() { loop_.modal_.pop_back(); }
     Modal(const Modal&) = delete;
     Modal& operator=(const Modal&) = delete;
@@ -76,6 +77,7 @@ class EventLoop {
   /// How many deliveries are running, one inside the other.
   int Depth() const { return depth_; }
 
+  void Add(Form& form) { forms_.push_back(&form); }
   void Add(Timer& timer) { timers_.push_back(&timer); }
   void Remove(Timer& timer) { std::erase(timers_, &timer); }
   /// Drops what is queued for a form that is going.
@@ -96,6 +98,7 @@ class EventLoop {
   std::deque<Queued> queue_;
   std::uint64_t lastNumber_ = 0;
   std::vector<Timer*> timers_;  // in the order of their creation
+  std::vector<Form*> forms_;
   std::vector<Form*> modal_;
   std::vector<std::unique_ptr<Form>> graveyard_;
   int depth_ = 0;

@@ -20,6 +20,7 @@ Form::Form(Host& host, const FormDesign& design)
       host_(host),
       design_(design),
       window_(host.MakeWindow(*this, design.window)) {
+  host_.Loop().Add(*this);
   if (design_.centred) Centre();
 }
 

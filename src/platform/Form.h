@@ -64,8 +64,8 @@ class Form : public PropertyOwner, public Container {
   /// The window's place on the screen, in pixels.
   Rect Place() const;
   void Deliver(const FormEvent& event);
-  /// An event that a modal window keeps from the form: a release ends its press, without a click.
-  void Miss(const FormEvent& event);
+  /// Lets go of what is pressed, without a click: the release goes to another window.
+  void EndPress();
   virtual void Paint(Canvas& canvas, const Rect& area) const;
   void PaintNow();
   /// Brings the pointer up to date with what lies under the cursor.
@@ -92,9 +92,9 @@ class Form : public PropertyOwner, public Container {
   void Centre();
   void VisibleChanged();
   void MouseMoved(Point place, int held);
-  void MousePressed(Point place, int button);
-  void MouseReleased(Point place, int button, bool mayClick);
-  void EndPress();
+  void MousePressed(Point place, int button, int held);
+  void MouseReleased(Point place, int button, int held);
+  void StillHeld(int held);
   void SetWindowState(int state);
   Control* ControlAt(Point place) { return ChildAt(place); }
 

@@ -9,7 +9,7 @@ class Form;
 /// What a host tells of one form's window.
 struct FormEvent {
   enum class Kind {
-    MouseMove,     ///< `place` is the cursor in the form, `button` the bits of the held buttons
+    MouseMove,     ///< `place` is the cursor in the form
     MousePress,    ///< `button` is the one that was pressed; a double click is a second press
     MouseRelease,  ///< the same for a release
     MouseLeave,
@@ -23,6 +23,7 @@ struct FormEvent {
   Form* form;
   Point place{};
   int button = 0;
+  int held = 0;  ///< bits of the buttons that are down after it, whichever window was told of their presses
 
   bool IsInput() const { return kind <= Kind::MouseLeave || kind == Kind::Close; }
 };

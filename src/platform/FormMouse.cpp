@@ -27,9 +27,9 @@ void Call(const Handler& handler, const Arguments&... arguments) {
 void Form::Deliver(const FormEvent& event) {
   using Kind = FormEvent::Kind;
   switch (event.kind) {
-    case Kind::MouseMove: MouseMoved(event.place, event.button); break;
-    case Kind::MousePress: MousePressed(event.place, event.button); break;
-    case Kind::MouseRelease: MouseReleased(event.place, event.button, true); break;
+    case Kind::MouseMove: MouseMoved(event.place, event.held); break;
+    case Kind::MousePress: MousePressed(event.place, event.button, event.held); break;
+    case Kind::MouseRelease: MouseReleased(event.place, event.button, event.held); break;
     case Kind::MouseLeave: cursorInside_ = false; break;
     case Kind::Activate:
       if (!std::exchange(returning_, false)) Form_Activate();
@@ -45,27 +45,31 @@ void Form::Deliver(const FormEvent& event) {
   Settle();
 }
 
-void Form::Miss(const FormEvent& event) {
-  if (event.kind == FormEvent::Kind::MouseRelease) MouseReleased(event.place, event.button, false);
-}
-
 void Form::EndPress() {
   held_ = 0;
   if (Control* const control = std::exchange(captured_, nullptr)) Call(control->MouseUp, MouseEvent{});
+}
+
+void Form::StillHeld(int held) {
+  // Of a button that is not named any more another window got the release.
+  held_ &= held;
+  if (held_ == 0) EndPress();
 }
 
 void Form::MouseMoved(Point place, int held) {
   cursor_ = place;
   cursorInside_ = true;
   pointerStale_ = true;
+  StillHeld(held);
   Control* target = captured_ ? captured_ : ControlAt(place);
   if (!target) return;
   const Point inside = place - OriginOf(*target);
   Call(target->MouseMove, MouseEvent{held, 0, static_cast<double>(inside.x), static_cast<double>(inside.y)});
 }
 
-void Form::MousePressed(Point place, int button) {
+void Form::MousePressed(Point place, int button, int held) {
   cursor_ = place;
+  StillHeld(held & ~button);
   if (held_ == 0) captured_ = ControlAt(place);
   held_ |= button;
   if (!captured_) return;
@@ -74,10 +78,10 @@ void Form::MousePressed(Point place, int button) {
        MouseEvent{button, 0, static_cast<double>(inside.x), static_cast<double>(inside.y)});
 }
 
-void Form::MouseReleased(Point place, int button, bool mayClick) {
+void Form::MouseReleased(Point place, int button, int held) {
   cursor_ = place;
-  const bool wasHeld = mayClick && (held_ & button) != 0;
-  held_ &= ~button;
+  const bool wasHeld = (held_ & button) != 0;
+  held_ &= held & ~button;
   Control* target = captured_;
   if (held_ == 0) captured_ = nullptr;
   pointerStale_ = true;

@@ -54,6 +54,14 @@ TEST_F(Detail, AFourthShotBringsTheSliderWhoseVariablesThePagesShare) {
   EXPECT_FALSE(Main().imgSSuwak.Visible()) << "three fill the frame";
 }
 
+TEST_F(Detail, TheViewerKeepsAReleaseThatTheMainWindowDoesNotMiss) {
+  user.Do("start, choose 0, hover picShot0");
+  user.host.Press(kRightButton);
+  After(500, [&] { user.host.ReleaseUntold(kRightButton); });
+  user.Do("after 1000 click picPic, click picShot0, run 100, click imgUp");
+  EXPECT_EQ(Main().MenuLevel, 0);
+}
+
 TEST_F(Detail, TheViewerShowsThePictureThatIsThereAndTheTickGoesOn) {
   user.Do("start, choose 0");
   disc.Picture("shot.gif", 10, 10);

@@ -66,6 +66,29 @@ TEST_F(OnTheBoard, TheTopmostControlThatTakesTheMouseIsClicked) {
   EXPECT_EQ(Clicked({115, 155}), "") << "its holder clips it";
 }
 
+TEST_F(OnTheBoard, AReleaseThatWentToAnotherWindowDeafensNoControl) {
+  std::string seen;
+  board.low.MouseUp = [&](const MouseEvent&) { seen += "up "; };
+  host.MoveMouse({5, 5});
+  host.Press(kRightButton);
+  host.Press(kLeftButton);
+  host.Loop().Pump();
+  host.ReleaseUntold(kRightButton);
+  host.Release(kLeftButton);
+  host.Loop().Pump();
+  EXPECT_EQ(Clicked({45, 45}), "high");
+  host.Press(kRightButton);
+  host.Loop().Pump();
+  host.ReleaseUntold(kRightButton);
+  EXPECT_EQ(Clicked({15, 15}), "boxes0") << "pressed without a move";
+  host.MoveMouse({5, 5});
+  host.Press();
+  host.Loop().Pump();
+  EXPECT_EQ(seen, "up ");
+  const EventLoop::Modal modal(host.Loop(), nullptr);
+  EXPECT_EQ(seen, "up up ") << "a modal window ends the press as it begins";
+}
+
 // Else a drag would fall behind the mouse on a slow machine.
 TEST_F(OnTheBoard, MovesOfTheMouseMergeBetweenPresses) {
   std::vector<double> seen;

@@ -68,6 +68,8 @@ class HeadlessHost : public Host {
   void MoveMouse(Point to);
   void Press(int button = kLeftButton);
   void Release(int button = kLeftButton);
+  /// A release of which no form is told, as desktops withhold that of a window that a modal one blocks.
+  void ReleaseUntold(int button = kLeftButton);
   void Click(Point at);
   void ActivateOther() { SetActive(nullptr); }
   void Activate(Form& form);
@@ -113,7 +115,7 @@ class HeadlessHost : public Host {
   void SetActive(Form* form);
   HeadlessWindow* UnderMouse() const;
   void Advance(Milliseconds to);
-  void PostMouse(FormEvent::Kind kind, int button);
+  void PostMouse(FormEvent::Kind kind, int button = 0);
 
   Milliseconds now_ = 0;
   std::multimap<Milliseconds, std::function<void()>> script_;

@@ -27,12 +27,12 @@ void HeadlessHost::PostMouse(FormEvent::Kind kind, int button) {
   }
   if (!form) return;
   const Rect place = WindowOf(*form).place;
-  Loop().Post({kind, form, mouse_ - Point{place.left, place.top}, button});
+  Loop().Post({kind, form, mouse_ - Point{place.left, place.top}, button, held_});
 }
 
 void HeadlessHost::MoveMouse(Point to) {
   mouse_ = {std::clamp(to.x, 0, screen.width - 1), std::clamp(to.y, 0, screen.height - 1)};
-  PostMouse(FormEvent::Kind::MouseMove, held_);
+  PostMouse(FormEvent::Kind::MouseMove);
 }
 
 void HeadlessHost::Press(int button) {
@@ -47,6 +47,11 @@ void HeadlessHost::Press(int button) {
 void HeadlessHost::Release(int button) {
   held_ &= ~button;
   PostMouse(FormEvent::Kind::MouseRelease, button);
+  if (held_ == 0) capture_ = nullptr;
+}
+
+void HeadlessHost::ReleaseUntold(int button) {
+  held_ &= ~button;
   if (held_ == 0) capture_ = nullptr;
 }
 

@@ -18,13 +18,15 @@ int BitsOf(Qt::MouseButtons buttons) {
 
 }  // namespace
 
-void DesktopWindow::Post(FormEvent::Kind kind, Point place, int button) {
-  host_.Loop().Post({kind, &form_, place, button});
+void DesktopWindow::Post(FormEvent::Kind kind, Point place, int button, int held) {
+  host_.Loop().Post({kind, &form_, place, button, held});
 }
 
-void DesktopWindow::PostMouse(FormEvent::Kind kind, const QMouseEvent& event, int button) {
+void DesktopWindow::PostMouse(FormEvent::Kind kind, const QMouseEvent& event) {
   SeeCursor(event);
-  Post(kind, Zoom().ToProgram({event.pos().x(), event.pos().y()}), button);
+  const int button = BitsOf(event.button());
+  if (kind != FormEvent::Kind::MouseMove && button == 0) return;
+  Post(kind, Zoom().ToProgram({event.pos().x(), event.pos().y()}), button, BitsOf(event.buttons()));
 }
 
 void DesktopWindow::SeeCursor(const QSinglePointEvent& event) {
@@ -35,16 +37,12 @@ void DesktopWindow::SeeCursor(const QSinglePointEvent& event) {
 
 void DesktopWindow::enterEvent(QEnterEvent* event) { SeeCursor(*event); }
 
-void DesktopWindow::mouseMoveEvent(QMouseEvent* event) {
-  PostMouse(FormEvent::Kind::MouseMove, *event, BitsOf(event->buttons()));
-}
+void DesktopWindow::mouseMoveEvent(QMouseEvent* event) { PostMouse(FormEvent::Kind::MouseMove, *event); }
 
-void DesktopWindow::mousePressEvent(QMouseEvent* event) {
-  if (const int button = BitsOf(event->button())) PostMouse(FormEvent::Kind::MousePress, *event, button);
-}
+void DesktopWindow::mousePressEvent(QMouseEvent* event) { PostMouse(FormEvent::Kind::MousePress, *event); }
 
 void DesktopWindow::mouseReleaseEvent(QMouseEvent* event) {
-  if (const int button = BitsOf(event->button())) PostMouse(FormEvent::Kind::MouseRelease, *event, button);
+  PostMouse(FormEvent::Kind::MouseRelease, *event);
 }
 
 void DesktopWindow::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }

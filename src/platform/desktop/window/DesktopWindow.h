@@ -53,8 +53,8 @@ class DesktopWindow : public QWidget, public FormWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void Post(FormEvent::Kind kind, Point place = {}, int button = 0);
-  void PostMouse(FormEvent::Kind kind, const QMouseEvent& event, int button);
+  void Post(FormEvent::Kind kind, Point place = {}, int button = 0, int held = 0);
+  void PostMouse(FormEvent::Kind kind, const QMouseEvent& event);
   void SeeCursor(const QSinglePointEvent& event);
   void NoteMove(const QPoint& corner);
   void ShowNow();
