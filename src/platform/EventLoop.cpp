@@ -8,8 +8,8 @@
 
 namespace orvanta {
 
-EventLoop::Modal::Modal(EventLoop& loop, Form* form) : loop_(loop) {
-  loop_.modal_.push_back(form);
+EventLoop::Modal::Modal(EventLoop& loop, Form* form) : loop_(loop), form_(form) {
+  loop_.modal_.push_back(this);
   for (Form* other : loop_.forms_) other->EndPress();
 }
 
@@ -75,7 +75,8 @@ void EventLoop::DeliverTicks(Milliseconds now) {
 
 bool EventLoop::Blocked(const FormEvent& event) const {
   if (modal_.empty() || !event.IsInput()) return false;
-  return modal_.back() == nullptr || (event.form != modal_.back() && event.form->Owner() != modal_.back());
+  const Form* const modal = modal_.back()->form_;
+  return !modal || (event.form != modal && event.form->Owner() != modal);
 }
 
 void EventLoop::Forget(const Form& form) {

@@ -53,12 +53,16 @@ class EventLoop {
   class Modal {
    public:
     Modal(EventLoop& loop, Form* form);
-    ~Modal() { loop_.modal_.pop_back(); }
+    ~Modal() { End(); }
+    /// Its window is gone, though the call that showed it may not have returned yet.
+    void End() { std::erase(loop_.modal_, this); }
     Modal(const Modal&) = delete;
     Modal& operator=(const Modal&) = delete;
 
    private:
+    friend EventLoop;
     EventLoop& loop_;
+    Form* const form_;
   };
 
   /// One delivery to a form: while any lives, unloaded forms are kept. The last one to end, also by an
@@ -99,7 +103,7 @@ class EventLoop {
   std::uint64_t lastNumber_ = 0;
   std::vector<Timer*> timers_;  // in the order of their creation
   std::vector<Form*> forms_;
-  std::vector<Form*> modal_;
+  std::vector<const Modal*> modal_;
   std::vector<std::unique_ptr<Form>> graveyard_;
   int depth_ = 0;
 };

@@ -60,7 +60,7 @@ void Form::Show() {
 void Form::ShowModal(Form& owner) {
   SetOwner(owner);
   EventLoop::Delivery delivery(host_.Loop());
-  EventLoop::Modal modal(host_.Loop(), this);
+  modal_.emplace(host_.Loop(), this);
   Visible = true;
   host_.Loop().RunUntil([this] { return unloading_ && !Visible; });
 }
@@ -82,6 +82,7 @@ void Form::Unload() {
   unloading_ = true;
   Form_Unload();
   Visible = false;
+  modal_.reset();
   host_.Loop().Forget(*this);
   if (Released) Released();
 }

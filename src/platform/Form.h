@@ -2,10 +2,12 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/Canvas.h"
+#include "platform/EventLoop.h"
 #include "platform/FormEvent.h"
 #include "platform/FormWindow.h"
 #include "platform/Property.h"
@@ -92,7 +94,7 @@ class Form : public PropertyOwner, public Container {
   void Centre();
   void VisibleChanged();
   void MouseMoved(Point place, int held);
-  void MousePressed(Point place, int button, int held);
+  void MousePressed(const FormEvent& event);
   void MouseReleased(Point place, int button, int held);
   void StillHeld(int held);
   void SetWindowState(int state);
@@ -103,8 +105,10 @@ class Form : public PropertyOwner, public Container {
   std::vector<Control*> controls_;
   std::unique_ptr<FormWindow> window_;
   Form* owner_ = nullptr;
+  std::optional<EventLoop::Modal> modal_;  // while it is shown modal
   Control* captured_ = nullptr;  // gets the mouse until every button is released
   int held_ = 0;
+  int clickable_ = 0;  // those of the held buttons whose release makes a click
   Point cursor_;
   bool cursorInside_ = false;
   bool shownBefore_ = false;

@@ -72,5 +72,12 @@ TEST(ExecErrorText, NamesEachFailureByItsNumberAndSaysNothingOfSuccess) {
   for (const int code : {-1, 33}) EXPECT_FALSE(ExecErrorText(code).has_value()) << code;
 }
 
+TEST_F(Launch, TheNextClickAfterAMessageBoxCounts) {
+  user.host.startResult = 2;
+  user.host.messageHold = 400;
+  user.Do("start, choose 0, after 700 click imgUp, click ButtonM4, run 100");
+  EXPECT_EQ(Main().MenuLevel, 0) << "though the music has been falling silent under the box";
+}
+
 }  // namespace
 }  // namespace orvanta::test

@@ -109,8 +109,9 @@ void DesktopHost::MsgBox(const std::string& text, int style, const std::string& 
   box.setTextFormat(Qt::PlainText);
   box.setWindowModality(Qt::ApplicationModal);
   MakeReadable(box, zoom_.factor);
+  EventLoop::Modal modal(Loop(), nullptr);
+  QObject::connect(&box, &QDialog::finished, [&modal] { modal.End(); });
   box.show();
-  const EventLoop::Modal modal(Loop(), nullptr);
   Loop().RunUntil([&box] { return !box.isVisible(); });
 }
 

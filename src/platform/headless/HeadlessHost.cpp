@@ -51,9 +51,18 @@ std::unique_ptr<MoviePlayer> HeadlessHost::MakePlayer(MovieKind kind) {
 
 void HeadlessHost::MsgBox(const std::string& text, int style, const std::string& title) {
   messages.push_back({text, style, title});
-  const EventLoop::Modal modal(Loop(), nullptr);
-  const Milliseconds closed = now_ + messageHold;
-  while (now_ < closed) Loop().PumpOrWait(closed);
+  const auto modal = std::make_shared<EventLoop::Modal>(Loop(), nullptr);
+  Form* const before = active;
+  bool open = true;
+  ActivateOther();
+  After(messageHold, [&, box = std::weak_ptr(modal)] {
+    // The program may have ended under it.
+    if (box.expired()) return;
+    open = false;
+    box.lock()->End();
+    if (before && !active) Activate(*before);
+  });
+  Loop().RunUntil([&] { return !open; });
 }
 
 PicturePtr HeadlessHost::LoadPicture(const std::filesystem::path& file) {
