@@ -10,8 +10,9 @@ class Form;
 struct FormEvent {
   enum class Kind {
     MouseMove,     ///< `place` is the cursor in the form
-    MousePress,    ///< `button` is the one that was pressed; a double click is a second press
-    MouseRelease,  ///< the same for a release
+    MousePress,        ///< `button` is the one that was pressed
+    MouseSecondPress,  ///< the same where the desktop takes it for the second press of a double click
+    MouseRelease,      ///< `button` is the one that was released
     MouseLeave,
     Activate,
     Minimise,

@@ -26,9 +26,14 @@ void Call(const Handler& handler, const Arguments&... arguments) {
 
 void Form::Deliver(const FormEvent& event) {
   using Kind = FormEvent::Kind;
+  // What was clicked before the window went is no click on what the user sees now.
+  const bool shown = Visible && WindowState != kMinimised;
+  if (!shown) clickable_ = 0;
+  if (!shown && event.kind < Kind::MouseRelease) return;
   switch (event.kind) {
     case Kind::MouseMove: MouseMoved(event.place, event.held); break;
-    case Kind::MousePress: MousePressed(event.place, event.button, event.held); break;
+    case Kind::MousePress:
+    case Kind::MouseSecondPress: MousePressed(event); break;
     case Kind::MouseRelease: MouseReleased(event.place, event.button, event.held); break;
     case Kind::MouseLeave: cursorInside_ = false; break;
     case Kind::Activate:
@@ -67,20 +72,23 @@ void Form::MouseMoved(Point place, int held) {
   Call(target->MouseMove, MouseEvent{held, 0, static_cast<double>(inside.x), static_cast<double>(inside.y)});
 }
 
-void Form::MousePressed(Point place, int button, int held) {
-  cursor_ = place;
-  StillHeld(held & ~button);
-  if (held_ == 0) captured_ = ControlAt(place);
-  held_ |= button;
+void Form::MousePressed(const FormEvent& event) {
+  cursor_ = event.place;
+  StillHeld(event.held & ~event.button);
+  if (held_ == 0) captured_ = ControlAt(cursor_);
+  held_ |= event.button;
+  // Who double-clicks wants what one click gives, whatever that click has put under the cursor.
+  const bool first = event.kind == FormEvent::Kind::MousePress;
+  clickable_ = first ? clickable_ | event.button : clickable_ & ~event.button;
   if (!captured_) return;
-  const Point inside = place - OriginOf(*captured_);
+  const Point inside = cursor_ - OriginOf(*captured_);
   Call(captured_->MouseDown,
-       MouseEvent{button, 0, static_cast<double>(inside.x), static_cast<double>(inside.y)});
+       MouseEvent{event.button, 0, static_cast<double>(inside.x), static_cast<double>(inside.y)});
 }
 
 void Form::MouseReleased(Point place, int button, int held) {
   cursor_ = place;
-  const bool wasHeld = (held_ & button) != 0;
+  const bool wasHeld = (held_ & clickable_ & button) != 0;
   held_ &= held & ~button;
   Control* target = captured_;
   if (held_ == 0) captured_ = nullptr;

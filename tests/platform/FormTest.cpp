@@ -89,6 +89,26 @@ TEST_F(OnTheBoard, AReleaseThatWentToAnotherWindowDeafensNoControl) {
   EXPECT_EQ(seen, "up up ") << "a modal window ends the press as it begins";
 }
 
+TEST_F(OnTheBoard, ASecondPressOfADoubleClickAndAPressOnAHiddenFormGiveNoClick) {
+  int clicks = 0;
+  board.low.Click = [&] { ++clicks; };
+  host.DoubleClick({5, 5});
+  host.Loop().Pump();
+  EXPECT_EQ(clicks, 1);
+  host.Click({5, 5});
+  board.Visible = false;
+  host.Loop().Pump();
+  board.Visible = true;
+  host.Press();
+  host.Loop().Pump();
+  host.Release();
+  board.WindowState = Form::kMinimised;
+  board.WindowState = Form::kNormal;
+  host.Loop().Pump();
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(Clicked({45, 45}), "high") << "the release has ended its press";
+}
+
 // Else a drag would fall behind the mouse on a slow machine.
 TEST_F(OnTheBoard, MovesOfTheMouseMergeBetweenPresses) {
   std::vector<double> seen;

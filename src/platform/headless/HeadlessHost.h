@@ -71,6 +71,7 @@ class HeadlessHost : public Host {
   /// A release of which no form is told, as desktops withhold that of a window that a modal one blocks.
   void ReleaseUntold(int button = kLeftButton);
   void Click(Point at);
+  void DoubleClick(Point at);
   void ActivateOther() { SetActive(nullptr); }
   void Activate(Form& form);
   void Minimise(Form& form);
@@ -115,6 +116,7 @@ class HeadlessHost : public Host {
   void SetActive(Form* form);
   HeadlessWindow* UnderMouse() const;
   void Advance(Milliseconds to);
+  void Press(int button, FormEvent::Kind kind);
   void PostMouse(FormEvent::Kind kind, int button = 0);
 
   Milliseconds now_ = 0;

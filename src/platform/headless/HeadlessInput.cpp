@@ -35,13 +35,15 @@ void HeadlessHost::MoveMouse(Point to) {
   PostMouse(FormEvent::Kind::MouseMove);
 }
 
-void HeadlessHost::Press(int button) {
+void HeadlessHost::Press(int button) { Press(button, FormEvent::Kind::MousePress); }
+
+void HeadlessHost::Press(int button, FormEvent::Kind kind) {
   held_ |= button;
   HeadlessWindow* window = UnderMouse();
   if (!capture_) capture_ = window ? &window->form : nullptr;
   if (window) PutOnTop(*window, true);
   if (!window && !capture_) SetActive(nullptr);
-  PostMouse(FormEvent::Kind::MousePress, button);
+  PostMouse(kind, button);
 }
 
 void HeadlessHost::Release(int button) {
@@ -58,6 +60,12 @@ void HeadlessHost::ReleaseUntold(int button) {
 void HeadlessHost::Click(Point at) {
   MoveMouse(at);
   Press();
+  Release();
+}
+
+void HeadlessHost::DoubleClick(Point at) {
+  Click(at);
+  Press(kLeftButton, FormEvent::Kind::MouseSecondPress);
   Release();
 }
 

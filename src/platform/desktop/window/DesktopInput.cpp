@@ -45,7 +45,9 @@ void DesktopWindow::mouseReleaseEvent(QMouseEvent* event) {
   PostMouse(FormEvent::Kind::MouseRelease, *event);
 }
 
-void DesktopWindow::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+void DesktopWindow::mouseDoubleClickEvent(QMouseEvent* event) {
+  PostMouse(FormEvent::Kind::MouseSecondPress, *event);
+}
 
 void DesktopWindow::leaveEvent(QEvent*) {
   host_.Cursor().Lose();
