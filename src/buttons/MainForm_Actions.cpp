@@ -113,7 +113,12 @@ void MainForm::StartEntry() {
   if (IsExec(entry)) {
     Press(BarButton::Start);
     PlayRandomSoundFile("Exec", true);
-    return shell_.modExec.ExecItem(entry);
+    const bool started = shell_.modExec.ExecItem(entry);
+    // The cursor has left it for the button of the message box, where no tick has seen it.
+    Image& start = ButtonM(BarButton::Start);
+    const bool left = !start.Bounds().Contains(shell_.modMouse.CursorPos());
+    if (!started && left) start.Picture = ImageList1(PictureEntry(BarButton::Start, ButtonPicture::Normal));
+    return;
   }
   if (!shell_.basCommon.SoundCardOK) {
     shell_.host.MsgBox(

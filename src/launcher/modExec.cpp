@@ -20,7 +20,7 @@ StartRequest::Status StatusOf(FoundPath::Outcome outcome) {
 
 }  // namespace
 
-void modExec::ExecItem(const std::string& entry) {
+bool modExec::ExecItem(const std::string& entry) {
   const std::string file = shell_.ini.IniRead(entry, "Execute", kMenuFile);
   const std::string parameters = shell_.ini.IniRead(entry, "Parameters", kMenuFile);
   shell_.MainForm->MousePointer = Form::kHourglassPointer;
@@ -29,6 +29,7 @@ void modExec::ExecItem(const std::string& entry) {
   if (result > 32) WaitForProgram();
   shell_.MainForm->MousePointer = Form::kDefaultPointer;
   ExecError(result);
+  return result > 32;
 }
 
 void modExec::WaitForProgram() {

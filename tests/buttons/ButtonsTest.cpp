@@ -88,11 +88,14 @@ TEST_F(Buttons, KeepALookUntilTheCursorLeavesAndStandStillBehindAnotherProgram) 
   disc.Set("Piosenka", "Execute", "%:\\gra.exe");  // an entry with both keys is a program
   user.Do("start, choose 1, hover Start, click Start, run 1000");
   EXPECT_EQ(user.host.started.size(), 1U);
-  EXPECT_EQ(user.Looks({BarButton::Start}), "Start pressed");
+  EXPECT_EQ(user.Looks({BarButton::Start}), "Start over") << "under the cursor when the box is gone";
   user.Do("hover Exit, leave, run 1500, aside, return");
   EXPECT_EQ(user.Looks({BarButton::Start, BarButton::Exit}), "Exit over")
       << "kept until the cursor has entered and left it once more";
   EXPECT_EQ(Hovered(), BarButton::None);
+  user.host.messageHold = 1000;
+  user.Do("hover Start, after 500 aside, click Start");
+  EXPECT_EQ(user.Looks({BarButton::Start}), "") << "left for the button of the message box";
 }
 
 TEST_F(Buttons, ShowThemselvesPressedWhileTheyAct) {

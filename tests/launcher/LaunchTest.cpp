@@ -75,7 +75,7 @@ TEST(ExecErrorText, NamesEachFailureByItsNumberAndSaysNothingOfSuccess) {
 TEST_F(Launch, TheNextClickAfterAMessageBoxCounts) {
   user.host.startResult = 2;
   user.host.messageHold = 400;
-  user.Do("start, choose 0, after 700 click imgUp, click ButtonM4, run 100");
+  user.Do("start, choose 0, after 700 click imgUp, click Start, run 100");
   EXPECT_EQ(Main().MenuLevel, 0) << "though the music has been falling silent under the box";
 }
 
