@@ -106,7 +106,7 @@ class Form : public PropertyOwner, public Container {
   std::unique_ptr<FormWindow> window_;
   Form* owner_ = nullptr;
   std::optional<EventLoop::Modal> modal_;  // while it is shown modal
-  Control* captured_ = nullptr;  // gets the mouse until every button is released
+  Control* captured_ = nullptr;            // gets the mouse until every button is released
   int held_ = 0;
   int clickable_ = 0;  // those of the held buttons whose release makes a click
   Point cursor_;

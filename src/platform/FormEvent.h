@@ -9,7 +9,7 @@ class Form;
 /// What a host tells of one form's window.
 struct FormEvent {
   enum class Kind {
-    MouseMove,     ///< `place` is the cursor in the form
+    MouseMove,         ///< `place` is the cursor in the form
     MousePress,        ///< `button` is the one that was pressed
     MouseSecondPress,  ///< the same where the desktop takes it for the second press of a double click
     MouseRelease,      ///< `button` is the one that was released
