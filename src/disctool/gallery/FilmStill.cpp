@@ -1,6 +1,7 @@
 #include "disctool/gallery/FilmStill.h"
 
 #include <algorithm>
+#include <system_error>
 
 #include "platform/desktop/media/GstFilmSink.h"
 #include "platform/desktop/media/MediaSource.h"
@@ -33,6 +34,9 @@ void Show(GstElement* playbin) {
 
 PicturePtr FilmStill(const std::filesystem::path& film) {
   if (!gst_is_initialized() && !gst_init_check(nullptr, nullptr, nullptr)) return nullptr;
+  // Opening a FIFO waits for a writer, and a device may have no end.
+  std::error_code noFile;
+  if (!std::filesystem::is_regular_file(film, noFile)) return nullptr;
   const std::string uri = FindMediaSource(film).uri;
   const GstHandle<GstElement> playbin = MakeElement("playbin");
   FrameBell unheard{[] {}};

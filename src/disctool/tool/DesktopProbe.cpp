@@ -6,6 +6,7 @@
 #include <QFontDatabase>
 #include <QImageReader>
 #include <memory>
+#include <system_error>
 
 #include "disctool/making/GifFile.h"
 #include "platform/desktop/media/MediaSource.h"
@@ -51,6 +52,9 @@ bool DesktopProbe::IsFont(const std::filesystem::path& file) {
 }
 
 bool DesktopProbe::CanPlay(const std::filesystem::path& file, bool film) {
+  // Opening a FIFO waits for a writer, and a device may have no end.
+  std::error_code noFile;
+  if (!std::filesystem::is_regular_file(file, noFile)) return false;
   if (!gst_is_initialized() && !gst_init_check(nullptr, nullptr, nullptr)) return false;
   const Owned<GstDiscoverer> discoverer(gst_discoverer_new(5 * GST_SECOND, nullptr));
   if (!discoverer) return false;

@@ -7,8 +7,6 @@ namespace orvanta {
 
 MediaSource FindMediaSource(const std::filesystem::path& file) {
   std::error_code noFile;
-  // Opening a FIFO waits for a writer, and a device may have no end.
-  if (!std::filesystem::is_regular_file(file, noFile)) return {};
   const std::string absolute = std::filesystem::absolute(file, noFile).string();
   const GstHandle<char> encoded(g_filename_to_uri(absolute.c_str(), nullptr, nullptr));
   if (!encoded) return {};

@@ -7,7 +7,7 @@ namespace orvanta {
 
 /// A file as GStreamer is to open it.
 struct MediaSource {
-  std::string uri;         ///< Empty for what is not a regular file.
+  std::string uri;         ///< Empty for a path that cannot be one.
   double waveStretch = 1;  ///< See `WaveStretch`.
 };
 
