@@ -64,8 +64,7 @@ std::string ExitStatus() {
   };
   return Section(Translated("EXIT STATUS")) + row("0", Translated("Everything is well.")) +
          row("1", Translated("Something is wrong with a disc, or nothing was found.")) +
-         row("2", Translated("The arguments make no sense.")) +
-         row("4", Translated("A disc could not be read; 5 if 1 holds as well."));
+         row("2", Translated("The arguments make no sense."));
 }
 
 std::string ToolPage(std::string_view version) {
