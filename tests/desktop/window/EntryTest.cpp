@@ -126,7 +126,9 @@ void EntryStory::Walk() {
   Start();
   for (const int button : {kExit, kMute, kHelp, kAbout, kMinimise}) ExpectSensitive(button);
   for (const int button : {kMute, kUnmute}) {
-    ClickButton(button);
+    // Two quick clicks on one place of the switch would be a double click, which counts once.
+    const Rect box = ButtonBox(button);
+    ClickMain({box.left + (button == kMute ? 8 : 28), box.top + 12});
     EXPECT_TRUE(Shows(button, kPressed));
     EXPECT_TRUE(Shows(kMute + kUnmute - button, kOver));
   }
