@@ -87,7 +87,7 @@ std::string ToolPage(std::string_view version) {
           Section(Translated("FILES")) + ".TP\n.I $XDG_CACHE_HOME/orvanta\n" +
           Translated("The unpacked images; ~/.cache/orvanta if the variable is not set.") + "\n" +
           Section(Translated("SEE ALSO")) + pages + ".BR orvanta (1),\n" +
-          Translated("the manual for makers of discs, %1", "/usr/share/doc/orvanta/discs.md") + "\n";
+          Translated("how to make a disc: /usr/share/doc/orvanta/discs.md") + "\n";
   return page;
 }
 
