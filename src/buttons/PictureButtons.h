@@ -36,32 +36,34 @@ enum class KinoButton : std::int16_t {
   Window       ///< there while the film has the whole screen
 };
 
-/// The keys of a button's art and place, and the name of its first picture in the form's `ImageList1`.
+/// The keys of a button's art and place, the name of its first picture in the form's `ImageList1`, and what
+/// it does in words, for screen readers.
 struct ButtonKeys {
   KeyRef<Kind::Base> base;
   KeyRef<Kind::Whole> left, top;
   const char* name;
+  const char* meaning;
 };
 
 inline constexpr std::array<ButtonKeys, 10> kBarButtons{{
-    {{"GLOBAL", "ExtB"}, {"GLOBAL", "ExtX"}, {"GLOBAL", "ExtY"}, "ext"},
-    {{"GLOBAL", "Snd1B"}, {"GLOBAL", "Snd1X"}, {"GLOBAL", "Snd1Y"}, "snd1"},
-    {{"GLOBAL", "Snd2B"}, {"GLOBAL", "Snd2X"}, {"GLOBAL", "Snd2Y"}, "snd2"},
-    {{"GLOBAL", "HlpB"}, {"GLOBAL", "HlpX"}, {"GLOBAL", "HlpY"}, "hlp"},
-    {{"GLOBAL", "StartB"}, {"GLOBAL", "StartX"}, {"GLOBAL", "StartY"}, "Start"},
-    {{"GLOBAL", "PauzaB"}, {"GLOBAL", "PauzaX"}, {"GLOBAL", "PauzaY"}, "Pauza"},
-    {{"GLOBAL", "StopB"}, {"GLOBAL", "StopX"}, {"GLOBAL", "StopY"}, "Stop"},
-    {{"GLOBAL", "InfoB"}, {"GLOBAL", "InfoX"}, {"GLOBAL", "InfoY"}, "Info"},
-    {{"GLOBAL", "MinB"}, {"GLOBAL", "MinX"}, {"GLOBAL", "MinY"}, "Min"},
-    {{"GLOBAL", "PokazB"}, {"GLOBAL", "PokazX"}, {"GLOBAL", "PokazY"}, "Pokaz"},
+    {{"GLOBAL", "ExtB"}, {"GLOBAL", "ExtX"}, {"GLOBAL", "ExtY"}, "ext", "Wyjście"},
+    {{"GLOBAL", "Snd1B"}, {"GLOBAL", "Snd1X"}, {"GLOBAL", "Snd1Y"}, "snd1", "Wyłącz dźwięk"},
+    {{"GLOBAL", "Snd2B"}, {"GLOBAL", "Snd2X"}, {"GLOBAL", "Snd2Y"}, "snd2", "Włącz dźwięk"},
+    {{"GLOBAL", "HlpB"}, {"GLOBAL", "HlpX"}, {"GLOBAL", "HlpY"}, "hlp", "Pomoc"},
+    {{"GLOBAL", "StartB"}, {"GLOBAL", "StartX"}, {"GLOBAL", "StartY"}, "Start", "Uruchom"},
+    {{"GLOBAL", "PauzaB"}, {"GLOBAL", "PauzaX"}, {"GLOBAL", "PauzaY"}, "Pauza", "Pauza"},
+    {{"GLOBAL", "StopB"}, {"GLOBAL", "StopX"}, {"GLOBAL", "StopY"}, "Stop", "Stop"},
+    {{"GLOBAL", "InfoB"}, {"GLOBAL", "InfoX"}, {"GLOBAL", "InfoY"}, "Info", "O płycie"},
+    {{"GLOBAL", "MinB"}, {"GLOBAL", "MinX"}, {"GLOBAL", "MinY"}, "Min", "Minimalizuj"},
+    {{"GLOBAL", "PokazB"}, {"GLOBAL", "PokazX"}, {"GLOBAL", "PokazY"}, "Pokaz", "Pokaż film"},
 }};
 
 inline constexpr std::array<ButtonKeys, 5> kKinoButtons{{
-    {{"CINEMA", "CPlayB"}, {"CINEMA", "CPlayX"}, {"CINEMA", "CPlayY"}, "cplay"},
-    {{"CINEMA", "CStopB"}, {"CINEMA", "CStopX"}, {"CINEMA", "CStopY"}, "cstop"},
-    {{"CINEMA", "CpauseB"}, {"CINEMA", "CPauseX"}, {"CINEMA", "CPauseY"}, "cpause"},
-    {{"CINEMA", "CScaleB"}, {"CINEMA", "CScaleX"}, {"CINEMA", "CScaleY"}, "cscale"},
-    {{"CINEMA", "CFScaleB"}, {"CINEMA", "CFScaleX"}, {"CINEMA", "CFScaleY"}, "cfscale"},
+    {{"CINEMA", "CPlayB"}, {"CINEMA", "CPlayX"}, {"CINEMA", "CPlayY"}, "cplay", "Odtwarzaj"},
+    {{"CINEMA", "CStopB"}, {"CINEMA", "CStopX"}, {"CINEMA", "CStopY"}, "cstop", "Zamknij kino"},
+    {{"CINEMA", "CpauseB"}, {"CINEMA", "CPauseX"}, {"CINEMA", "CPauseY"}, "cpause", "Pauza"},
+    {{"CINEMA", "CScaleB"}, {"CINEMA", "CScaleX"}, {"CINEMA", "CScaleY"}, "cscale", "Cały ekran"},
+    {{"CINEMA", "CFScaleB"}, {"CINEMA", "CFScaleX"}, {"CINEMA", "CFScaleY"}, "cfscale", "W oknie"},
 }};
 
 /// The three pictures of a button.

@@ -1,5 +1,6 @@
 // The loop behind the menu and the marker of an entry's music.
 
+#include "media/AccessibleTime.h"
 #include "media/MarkerPlace.h"
 #include "startup/Shell.h"
 
@@ -36,6 +37,15 @@ bool MainForm::MoveMarker() {
     S2.Left = *place;
   }
   return false;
+}
+
+void MainForm::AddMusic(Nodes& nodes) const {
+  if (!S2.Visible) return;
+  AccessibleNode bar = AccessibleOf(S2, AccessibleRole::ProgressBar, "Odtwarzanie muzyki");
+  // Stopped, the player may still hold the music of another entry.
+  const bool begun = PressedButton == BarButton::Start || PressedButton == BarButton::Pause;
+  SetAccessibleTime(bar, begun ? AM3.CurrentPosition() : 0, begun ? AM3.SelectionEnd() : 0);
+  nodes.push_back(std::move(bar));
 }
 
 void MainForm::SoundOn() {

@@ -1,6 +1,7 @@
 #include "media/frmKino.h"
 
 #include "buttons/PictureButtons.h"
+#include "media/AccessibleTime.h"
 #include "startup/Shell.h"
 
 namespace orvanta {
@@ -70,6 +71,26 @@ void frmKino::KinoButtonsInit() {
 void frmKino::Form_Activate() {
   shell_.modMouse.Track(*this);
   shell_.modMouse.LastOver[kSlot] = -1;
+}
+
+AccessibleNode frmKino::Accessible() const {
+  AccessibleNode window = Form::Accessible();
+  if (KinoPlaced) {
+    AccessibleNode film = AccessibleOf(AM0, AccessibleRole::ProgressBar, "Czas filmu");
+    SetAccessibleTime(film, AM0.CurrentPosition(), AM0.SelectionEnd());
+    window.children.push_back(std::move(film));
+  }
+  for (int i = 0; i <= ButtonM.UBound(); ++i) {
+    const auto button = KinoButton{static_cast<std::int16_t>(i)};
+    if (!ButtonM(i).Visible) continue;
+    AccessibleNode node = AccessibleOf(ButtonM(i), AccessibleRole::Button,
+                                       kKinoButtons.at(static_cast<std::size_t>(i)).meaning);
+    if (button == KinoButton::Play || button == KinoButton::Pause) node.pressed = PressedButton == button;
+    if (button == KinoButton::Pause) node.unavailable = PressedButton != KinoButton::Play;
+    if (button == KinoButton::Play) node.unavailable = PressedButton == KinoButton::Play;
+    window.children.push_back(std::move(node));
+  }
+  return window;
 }
 
 void frmKino::Form_Unload() {

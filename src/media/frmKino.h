@@ -31,6 +31,7 @@ class frmKino : public Form {
   void Form_Activate() override;
   void Form_Unload() override;
   void ButtonM_Click(KinoButton button);
+  AccessibleNode Accessible() const override;
 
  protected:
   void CloseRequested() override { Unload(); }

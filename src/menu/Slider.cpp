@@ -11,6 +11,7 @@ void Slider::Attach(Knob& knob) {
   knob.image.MouseDown = [this, &knob](const MouseEvent& event) { MouseDown(knob, event); };
   knob.image.MouseMove = [this, &knob](const MouseEvent& event) { MouseMove(knob, event); };
   knob.image.MouseUp = [this, &knob](const MouseEvent&) { MouseUp(knob); };
+  knob.image.SetValue = [this, &knob](double pos) { MoveBy(knob, pos - SuwakPos); };
 }
 
 void Slider::SuwakInit(const Knob& knob, const Keys& keys) {
@@ -50,9 +51,12 @@ void Slider::MouseDown(const Knob& knob, const MouseEvent& event) {
 
 void Slider::MouseMove(Knob& knob, const MouseEvent& event) {
   if (event.Button != kLeftButton || SuwakGrab < 0) return;
-  const double d = shell_.modMouse.CursorPos().y - static_cast<double>(SuwakGrab) - knob.image.Top;
-  SuwakDir = d < 0 ? 0 : 1;
-  MoveSuwak(knob, CLng(std::fabs(d)));
+  MoveBy(knob, shell_.modMouse.CursorPos().y - static_cast<double>(SuwakGrab) - knob.image.Top);
+}
+
+void Slider::MoveBy(Knob& knob, double pixels) {
+  SuwakDir = pixels < 0 ? 0 : 1;
+  MoveSuwak(knob, CLng(std::fabs(pixels)));
   SuwakDir = -1;
 }
 

@@ -55,6 +55,7 @@ class Slider {
   void MouseDown(const Knob& knob, const MouseEvent& event);
   void MouseMove(Knob& knob, const MouseEvent& event);
   void MouseUp(const Knob& knob);
+  void MoveBy(Knob& knob, double pixels);
   void MoveKnob(const Knob& knob, std::int32_t step);
 
   Shell& shell_;

@@ -36,6 +36,16 @@ void frmShowPic::Form_Load() {
   shell_.modMain.ShowPicOpen = true;
 }
 
+AccessibleNode frmShowPic::Accessible() const {
+  AccessibleNode window = Form::Accessible();
+  window.name = "Zrzut ekranu";
+  const auto* index = std::get_if<std::int16_t>(&shell_.basCommon.ShowArg);
+  const std::string name = index ? shell_.MainForm->ShotName(*index) : window.name;
+  window.children.push_back(AccessibleOf(picPic, AccessibleRole::Picture, name));
+  window.children.push_back(AccessibleOf(lblTxt, AccessibleRole::Text, lblTxt.Caption));
+  return window;
+}
+
 void frmShowPic::Form_Unload() { shell_.modMain.ShowPicOpen = false; }
 
 }  // namespace orvanta

@@ -17,6 +17,7 @@ class frmShowPic : public Form {
 
   void Form_Load() override;
   void Form_Unload() override;
+  AccessibleNode Accessible() const override;
 
  protected:
   void CloseRequested() override { Unload(); }

@@ -47,7 +47,11 @@ Control* Container::ChildAt(Point p) const {
 }
 
 Control::Control(Container& parent, std::string name, std::int16_t index)
-    : Name(std::move(name)), Index(index), Visible(*this, true), parent_(parent) {
+    : Name(std::move(name)),
+      Index(index),
+      Id(parent.OwnerForm().NextId()),
+      Visible(*this, true),
+      parent_(parent) {
   parent_.Attach(*this);
   parent_.OwnerForm().Adopt(*this);
 }

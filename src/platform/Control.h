@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "platform/Accessible.h"
 #include "platform/Container.h"
 #include "platform/Property.h"
 
@@ -31,6 +32,7 @@ class Control : public PropertyOwner {
 
   const std::string Name;
   const std::int16_t Index;
+  const ControlId Id;
   Property<bool> Visible;
 
   /// Puts the control on the screen at once, before anything that blocks.
@@ -48,6 +50,8 @@ class Control : public PropertyOwner {
 
   std::function<void()> Click;
   std::function<void(const MouseEvent&)> MouseDown, MouseMove, MouseUp;
+  /// Of a control with a value, such as a slider's knob: brings the value to this one, as a drag does.
+  std::function<void(double)> SetValue;
 
  protected:
   /// Marks what the control covered and what it covers now.

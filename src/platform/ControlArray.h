@@ -28,6 +28,9 @@ class ControlArray {
   const T& operator()(int i) const { return *elements_.at(static_cast<std::size_t>(i)); }
   template <class Button>
   requires std::is_enum_v<Button> T& operator()(Button button) { return (*this)(static_cast<int>(button)); }
+  template <class Button>
+  requires std::is_enum_v<Button>
+  const T& operator()(Button button) const { return (*this)(static_cast<int>(button)); }
   /// Highest index.
   int UBound() const { return static_cast<int>(elements_.size()) - 1; }
 

@@ -42,6 +42,8 @@ Rect Form::ClientArea() const {
   return {0, 0, place.width, place.height};
 }
 
+AccessibleNode Form::Accessible() const { return {.name = Caption, .place = ClientArea()}; }
+
 void Form::Centre() {
   const Size screen = host_.ScreenSize();
   const Rect place = Place();

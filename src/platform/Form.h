@@ -46,6 +46,9 @@ class Form : public PropertyOwner, public Container {
   /// Every control, in the order of creation.
   const std::vector<Control*>& Controls() const { return controls_; }
 
+  /// What a screen reader is told of the form as it is now, made anew at each call. Here the window alone.
+  virtual AccessibleNode Accessible() const;
+
   /// Shows the form; one that is visible comes to the front and is activated.
   void Show();
   /// Shows the form and pumps until it has been unloaded. The other forms get no input meanwhile.
@@ -76,6 +79,7 @@ class Form : public PropertyOwner, public Container {
   void ExpectReturn() { returning_ = true; }
   void Adopt(Control& control) { controls_.push_back(&control); }
   void Forget(Control& control);
+  ControlId NextId() { return ++lastId_; }
   std::function<void()> Released;  ///< set by the slot: the form is unloaded
 
   Form& OwnerForm() override { return *this; }
@@ -98,11 +102,13 @@ class Form : public PropertyOwner, public Container {
   void MouseReleased(Point place, int button, int held);
   void StillHeld(int held);
   void SetWindowState(int state);
+  void Invoke(const FormEvent& event);
   Control* ControlAt(Point place) { return ChildAt(place); }
 
   Host& host_;
   const FormDesign design_;
   std::vector<Control*> controls_;
+  ControlId lastId_ = kWholeForm;
   std::unique_ptr<FormWindow> window_;
   Form* owner_ = nullptr;
   std::optional<EventLoop::Modal> modal_;  // while it is shown modal

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Accessible.h"
 #include "platform/Geometry.h"
 
 namespace orvanta {
@@ -17,16 +18,20 @@ struct FormEvent {
     Activate,
     Minimise,
     Restore,
-    Moved,  ///< `place` is the window's new place on the screen, not asked for by the program
-    Close,  ///< the user asks the window manager to close the window
+    Moved,     ///< `place` is the window's new place on the screen, not asked for by the program
+    Close,     ///< the user asks the window manager to close the window
+    Invoke,    ///< an assistive technology presses `control`
+    SetValue,  ///< an assistive technology sets the value of `control` to `value`
   };
   Kind kind;
   Form* form;
   Point place{};
   int button = 0;
   int held = 0;  ///< bits of the buttons that are down after it, whichever window was told of their presses
+  ControlId control = kWholeForm;
+  double value = 0;
 
-  bool IsInput() const { return kind <= Kind::MouseLeave || kind == Kind::Close; }
+  bool IsInput() const { return kind <= Kind::MouseLeave || kind >= Kind::Close; }
 };
 
 }  // namespace orvanta

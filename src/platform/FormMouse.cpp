@@ -1,5 +1,6 @@
 // What a form does with the events of its window.
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/Form.h"
@@ -46,6 +47,8 @@ void Form::Deliver(const FormEvent& event) {
       Top.SetQuietly(event.place.y * kTwipsPerPixel);
       break;
     case Kind::Close: CloseRequested(); break;
+    case Kind::Invoke:
+    case Kind::SetValue: Invoke(event); break;
   }
   Settle();
 }
@@ -104,6 +107,20 @@ void Form::MouseReleased(Point place, int button, int held) {
   const auto click = target->Click;
   Call(target->MouseUp, MouseEvent{button, 0, static_cast<double>(inside.x), static_cast<double>(inside.y)});
   if (clicked) Call(click);
+}
+
+void Form::Invoke(const FormEvent& event) {
+  if (!Visible || WindowState == kMinimised) return;
+  // The control may have gone, or been covered by another view, since its user heard of it.
+  const AccessibleNode window = Accessible();
+  const AccessibleNode* node = FindAccessible(window, event.control);
+  if (!node || node->unavailable) return;
+  const auto control = std::ranges::find(controls_, event.control, &Control::Id);
+  if (event.kind == FormEvent::Kind::SetValue) {
+    if (node->settable && control != controls_.end()) Call((*control)->SetValue, event.value);
+  } else if (node->clickable) {
+    control != controls_.end() ? Call((*control)->Click) : Form_Click();
+  }
 }
 
 void Form::SetWindowState(int state) {

@@ -43,6 +43,13 @@ void MovieScreen::Paint(Canvas& canvas, const Rect& area) const {
   canvas.PopClip();
 }
 
+AccessibleNode MovieScreen::Accessible() const {
+  AccessibleNode window = Form::Accessible();
+  window.name = Owner()->Caption;
+  window.clickable = true;
+  return window;
+}
+
 void MovieScreen::Form_Click() {
   // A copy, since the handler takes this window down.
   if (const auto handler = movie_.ScreenClick) handler();

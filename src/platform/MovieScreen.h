@@ -11,6 +11,7 @@ class MovieScreen : public Form {
  public:
   MovieScreen(Form& owner, const ActiveMovie& movie);
   void Paint(Canvas& canvas, const Rect& area) const override;
+  AccessibleNode Accessible() const override;
 
  protected:
   void Form_Click() override;

@@ -66,6 +66,9 @@ class MainForm : public Form {
   void imgBack_Click();
   void imgUp_Click();
   void ButtonM_Click(BarButton button);
+  AccessibleNode Accessible() const override;
+  /// "Zrzut ekranu 2 z 5" for index 1.
+  std::string ShotName(int index) const;
 
  protected:
   void CloseRequested() override { Unload(); }
@@ -141,6 +144,18 @@ class MainForm : public Form {
   void StopMusic();
   void ShowFilm();
   void ClosePage(Image& page);
+
+  // What screen readers are told: startup/, menu/ and buttons/MainForm_Accessible.cpp,
+  // media/MainForm_Music.cpp
+  using Nodes = std::vector<AccessibleNode>;
+  AccessibleNode AccessibleMenu() const;
+  AccessibleNode AccessibleShots() const;
+  void AddEntry(Nodes& nodes) const;
+  void AddKnob(Nodes& nodes, const Image& knob) const;
+  void AddWays(Nodes& nodes) const;
+  void AddButtons(Nodes& nodes) const;
+  void AddMusic(Nodes& nodes) const;
+  bool DoesNothing(BarButton button) const;
 
   // Sound: media/MainForm_Cues.cpp, media/MainForm_Music.cpp
   void PlaySoundFile(const std::string& file, bool flag);

@@ -37,6 +37,7 @@ class frmDociag : public Form {
   Image Image1;
 
   void Form_Load() override;
+  AccessibleNode Accessible() const override { return {.role = AccessibleRole::Decoration}; }
 
  private:
   void SizeImage();

@@ -40,6 +40,12 @@ void frmReklama::Form_Load() {
   StartTick = 0;
 }
 
+AccessibleNode frmReklama::Accessible() const {
+  AccessibleNode window = Form::Accessible();
+  window.name = "Ekran startowy";
+  return window;
+}
+
 void frmReklama::Timer1_Timer() {
   ++StartTick;
   const bool speaking = shell_.basCommon.SoundCardOK && AMR.CurrentState() == ActiveMovie::kRunning;

@@ -21,6 +21,7 @@ class frmReklama : public Form {
   Timer Timer1;
 
   void Form_Load() override;
+  AccessibleNode Accessible() const override;
 
  private:
   void Timer1_Timer();

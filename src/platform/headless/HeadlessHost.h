@@ -77,6 +77,12 @@ class HeadlessHost : public Host {
   void Minimise(Form& form);
   void Restore(Form& form);
   void RequestClose(Form& form) { Loop().Post({FormEvent::Kind::Close, &form}); }
+  /// What a screen reader is told of the windows on the screen, from the top one down.
+  std::vector<AccessibleNode> AccessibleWindows() const;
+  /// A screen reader presses what it knows by this name. Nothing happens if there is no such thing.
+  void Invoke(const std::string& name) { Assist(name, FormEvent::Kind::Invoke); }
+  /// It sets the value of what it knows by this name.
+  void SetValue(const std::string& name, double value) { Assist(name, FormEvent::Kind::SetValue, value); }
   /// The sound server goes away and comes back at once: all that is open loses it.
   void RestartSoundServer() { ++soundServer_; }
   /// Which sound server runs, for the players.
@@ -117,6 +123,7 @@ class HeadlessHost : public Host {
   HeadlessWindow* UnderMouse() const;
   void Advance(Milliseconds to);
   void Press(int button, FormEvent::Kind kind);
+  void Assist(const std::string& name, FormEvent::Kind kind, double value = 0);
   void PostMouse(FormEvent::Kind kind, int button = 0);
 
   Milliseconds now_ = 0;

@@ -1,0 +1,40 @@
+// The scripted screen reader.
+
+#include <algorithm>
+#include <ranges>
+
+#include "platform/headless/HeadlessHost.h"
+
+namespace orvanta {
+
+namespace {
+
+const AccessibleNode* FindByName(const AccessibleNode& tree, const std::string& name) {
+  if (tree.name == name) return &tree;
+  for (const AccessibleNode& child : tree.children)
+    if (const AccessibleNode* found = FindByName(child, name)) return found;
+  return nullptr;
+}
+
+}  // namespace
+
+std::vector<AccessibleNode> HeadlessHost::AccessibleWindows() const {
+  std::vector<AccessibleNode> trees;
+  for (const HeadlessWindow* window : windows | std::views::reverse) {
+    if (!window->visible || window->minimised) continue;
+    trees.push_back(window->form.Accessible());
+    if (trees.back().role == AccessibleRole::Decoration) trees.pop_back();
+  }
+  return trees;
+}
+
+void HeadlessHost::Assist(const std::string& name, FormEvent::Kind kind, double value) {
+  for (const HeadlessWindow* window : windows | std::views::reverse) {
+    if (!window->visible) continue;
+    const AccessibleNode tree = window->form.Accessible();
+    const AccessibleNode* node = FindByName(tree, name);
+    if (node) return Loop().Post({.kind = kind, .form = &window->form, .control = node->id, .value = value});
+  }
+}
+
+}  // namespace orvanta

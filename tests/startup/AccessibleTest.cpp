@@ -1,0 +1,127 @@
+// What a screen reader is told of each view, and what it can do.
+
+#include "support/Story.h"
+
+namespace orvanta::test {
+namespace {
+
+struct Accessible : Story {
+  /// The tree of the window in front.
+  std::string Look() override { return AccessibleListing(user.host.AccessibleWindows().at(0)); }
+  /// A line of it, from the word or name that it holds on; empty if there is none.
+  std::string Line(const std::string& part) {
+    const std::string look = Look();
+    const std::size_t at = look.find(part);
+    return at == look.npos ? "" : look.substr(at, look.find('\n', at) - at);
+  }
+  void Invoke(const std::string& name, Milliseconds time = 2000) {
+    user.host.Invoke(name);
+    user.Run(time);
+  }
+  const std::string ways_ = "  button \"Wstecz\"\n  button \"Do menu głównego\"\n  button \"Wyjście\"\n",
+                    bar_ = ways_ + "  button \"Wyłącz dźwięk\"\n  button \"Pomoc\"\n",
+                    end_ = "  button \"O płycie\"\n  button \"Minimalizuj\"\n";
+};
+
+// Faults: a view that is told as the one before it, what lies covered under it, a state that is not told.
+TEST_F(Accessible, EveryViewIsToldAsItIsSeen) {
+  disc.Set("Gra", "Note", "Łamigłówka & zabawa");
+  disc.Set("Gra", "System", "Pentium 90");
+  disc.Shots("Gra", 4);
+  user.Launch();
+  EXPECT_EQ(Look(), "window \"Ekran startowy\"\n");
+  user.Run(8000);
+  user.Do("hover lblPos12");
+  std::string root =
+      "window \"Płyta próbna\"\n  list \"Menu główne\"\n    item \"Gra\"\n    item \"Piosenka\"\n"
+      "    item \"Film\" hovered\n    item \"Dalej\"\n";
+  EXPECT_EQ(Look(), root + "  button \"Wstecz\" unavailable\n  button \"Do menu głównego\" unavailable\n" +
+                        bar_.substr(bar_.find("  button \"Wyj")) + end_);
+  user.Do("choose 0");
+  EXPECT_EQ(
+      Look(),
+      "window \"Płyta próbna\"\n  heading \"Gra\"\n  text \"Łamigłówka & zabawa\"\n"
+      "  text \"Minimalne wymagania sprzętowe:\"\n  text \"Pentium 90\"\n  list \"Zrzuty ekranu\"\n"
+      "    item \"Zrzut ekranu 1 z 4\"\n    item \"Zrzut ekranu 2 z 4\"\n    item \"Zrzut ekranu 3 z 4\"\n"
+      "    item \"Zrzut ekranu 4 z 4\" out of sight\n  slider \"Przewijanie\" 0 of 0..180\n" +
+          bar_ + "  button \"Uruchom\"\n" + end_);
+  After(500, [&] {
+    EXPECT_EQ(Look(),
+              "window \"Zrzut ekranu\"\n  picture \"Zrzut ekranu 2 z 4\"\n"
+              "  text \"kliknij rysunek aby zniknął...\"\n");
+    user.host.Invoke("Zrzut ekranu 2 z 4");
+  });
+  user.Do("click picShot1, click Help");
+  EXPECT_EQ(Look(),
+            "window \"Płyta próbna\"\n  page \"Strona pomocy\"\n"
+            "  slider \"Przewijanie\" 0 of 0..200\n" +
+                bar_ + "  button \"Uruchom\" unavailable\n" + end_);
+  user.Do("click imgPomoc, click imgUp, choose 2");
+  After(2500, [&] {
+    EXPECT_EQ(Look(),
+              "window \"Orvanta - Kino\"\n  progress bar \"Czas filmu\" (0:01 z 0:30) 5 of 0..100\n"
+              "  button \"Odtwarzaj\" pressed unavailable\n  button \"Zamknij kino\"\n"
+              "  button \"Pauza\"\n  button \"Cały ekran\"\n");
+    user.host.Invoke("Zamknij kino");
+  });
+  user.Do("press Film");
+  EXPECT_EQ(Line("\"Film\""), "\"Film\"");
+}
+
+// Faults: music that is told of too late, or with the times of the piece before.
+TEST_F(Accessible, MusicIsToldAndPlayed) {
+  user.Do("start, choose 1");
+  const auto seen = [&] {
+    return Line("progress bar") + Line("\"Uruchom\"") + Line("\"Pauza\"") + Line("\"Stop\"");
+  };
+  const std::string silent =
+      "progress bar \"Odtwarzanie muzyki\" 0 of 0..100\"Uruchom\"\"Pauza\" unavailable\"Stop\" pressed "
+      "unavailable";
+  EXPECT_EQ(seen(), silent);
+  Invoke("Uruchom", 5000);
+  EXPECT_EQ(seen(),
+            "progress bar \"Odtwarzanie muzyki\" (0:05 z 0:20) 25 of 0..100"
+            "\"Uruchom\" pressed unavailable\"Pauza\"\"Stop\"");
+  EXPECT_EQ(Line("\"Pomoc\""), "\"Pomoc\" unavailable");
+  Invoke("Pauza");
+  EXPECT_EQ(Line("\"Pauza\""), "\"Pauza\" pressed unavailable");
+  Invoke("Stop");
+  EXPECT_EQ(seen(), silent);
+  Invoke("Uruchom", 21000);
+  EXPECT_EQ(seen(), silent) << "it has ended";
+}
+
+// Faults: a press that is lost while the program waits, goes past a modal window, or meets what has gone.
+TEST_F(Accessible, APressDoesWhatAClickDoesWheneverItComes) {
+  disc.Menu("Dalej", std::vector<std::string>(30, "Druga"));
+  user.Do("start");
+  Invoke("Dalej");
+  EXPECT_EQ(Main().MenuLevel, 1);
+  user.host.SetValue("Przewijanie", 1e9);
+  user.Run(10);
+  EXPECT_EQ(Main().lblPos1(29).Top + 26, Main().picTlo.Height);
+  EXPECT_EQ(Line("slider"), "slider \"Przewijanie\" 200 of 0..200");
+  user.host.SetValue("Przewijanie", 0);
+  After(100, [&] { user.host.Invoke("Do menu głównego"); });  // while the crosshair runs or the music fades
+  Invoke("Druga");
+  EXPECT_EQ(Main().MenuLevel, 0);
+  user.host.Invoke("Gra");
+  user.host.Invoke("Dalej");  // gone with the list when its turn comes
+  user.Run(2000);
+  EXPECT_EQ(Line("heading"), "heading \"Gra\"");
+  After(500, [&] {
+    user.host.Invoke("Wstecz");
+    user.host.Invoke("kliknij rysunek aby zniknął...");
+  });
+  After(1000, [&] { user.host.Invoke("Zrzut ekranu 1 z 1"); });
+  Invoke("Zrzut ekranu 1 z 1");
+  EXPECT_EQ(Line("heading"), "heading \"Gra\"") << "the viewer stands before the way back";
+  Invoke("Wstecz");
+  Invoke("Wstecz");
+  EXPECT_EQ(Line("list"), "list \"Menu główne\"");
+  Invoke("Wyjście", 8000);
+  EXPECT_TRUE(user.ended);
+}
+
+}  // namespace
+}  // namespace orvanta::test
