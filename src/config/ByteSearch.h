@@ -12,23 +12,24 @@
 
 namespace orvanta {
 
-/// What may stand in front of a byte that is searched for: a letter in either case, or a byte that is no
-/// visible ASCII character. It settles most candidates, so that only few are looked at one by one.
+/// The bytes that may precede a byte that is searched for: a given letter in either case, or any byte that is
+/// not a visible ASCII character. This rules out most candidates cheaply, so that few have to be examined one
+/// by one.
 struct Behind {
   char letter;
   bool operator()(char before) const { return before <= ' ' || ((before ^ letter) & ~0x20) == 0; }
 };
 
-/// Anything may: candidates are rare.
+/// Any byte may precede it; for candidates that are rare.
 struct Anywhere {
   bool operator()(char) const { return true; }
 };
 
-/// The first of the bytes `kBytes` in [begin, end) that `accept(const char*)` takes, else `end`. Candidates
-/// are offered in their order, each once, but for those behind a byte that `behind` does not let stand there.
-/// It only saves work: `accept` decides, and may still be offered some of them.
+/// The first of the bytes `kBytes` in [begin, end) that `accept(const char*)` accepts, or `end`. Candidates
+/// are offered in order and at most once. Those preceded by a byte that `behind` rejects may be left out,
+/// which only saves work: `accept` decides, and must reject them too.
 ///
-/// One std::memchr for each byte, the nearest find first.
+/// Calls std::memchr for each of the bytes and takes the nearest find first.
 template <char... kBytes, class Before, class Accept>
 const char* FindPortably(const char* begin, const char* end, Before behind, Accept accept) {
   const auto find = [end](const char* at, char byte) {
@@ -55,7 +56,7 @@ template <char... kBytes>
   return found;
 }
 
-/// The byte in front of each of 32, a zero in front of the first of all.
+/// The byte before each of the 32 at `at`; a zero before the one at `begin`.
 [[gnu::target("avx2")]] inline __m256i BeforeAvx2(const char* at, const char* begin) {
   if (at != begin) return _mm256_loadu_si256(reinterpret_cast<const __m256i_u*>(at - 1));
   const __m256i bytes = _mm256_loadu_si256(reinterpret_cast<const __m256i_u*>(at));
@@ -84,7 +85,7 @@ const char* FirstAccepted(const char* at, std::uint64_t candidates, Accept& acce
   return nullptr;
 }
 
-/// The same, 128 bytes a step.
+/// The same as FindPortably, 128 bytes at a time.
 template <char... kBytes, class Before, class Accept>
 [[gnu::target("avx2")]] const char* FindWithAvx2(const char* begin, const char* end, Before behind,
                                                  Accept accept) {
@@ -101,7 +102,7 @@ template <char... kBytes, class Before, class Accept>
       found = FirstAccepted(at + 64, BitsAvx2(allowed(at + 64, c), allowed(at + 96, d)), accept);
     }
     if (!found) continue;
-    _mm256_zeroupper();  // GCC 12 forgets it here, and what follows would run at half the speed
+    _mm256_zeroupper();  // GCC 12 omits it here, and the code that follows would run at half the speed
     return found;
   }
   return FindPortably<kBytes...>(stop, end, behind, accept);
@@ -109,8 +110,8 @@ template <char... kBytes, class Before, class Accept>
 
 #endif
 
-/// The fastest way that the processor knows. Vectors pay because they need not begin anew behind each
-/// candidate, of which a catalogue has one in 40 to 500 bytes.
+/// Uses the fastest search that the processor supports. Vectors pay off because they do not start again after
+/// each candidate; a catalogue has one in every 40 to 500 bytes.
 template <char... kBytes, class Before, class Accept>
 const char* FindAccepted(const char* begin, const char* end, Before behind, Accept accept) {
 #if defined(__x86_64__) && !defined(ORVANTA_PORTABLE_SEARCH)

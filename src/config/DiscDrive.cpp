@@ -12,12 +12,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The longest path that Windows knows, a bound for the work on a path.
+/// The longest path that Windows supports; it limits the work on a path.
 constexpr std::size_t kLongestPath = 32767;
 
 bool IsSeparator(char c) { return c == '\\' || c == '/'; }
 
-/// The current directory, by the names that lead from `root` to it if it lies below.
+/// Where a path without a drive starts. If the current directory lies below `root`, its names are put into
+/// `names` and the result is `root`.
 fs::path LeaveCurrentDirectory(const fs::path& root, std::vector<std::string>& names) {
   std::error_code error;
   const fs::path here = fs::current_path(error);

@@ -7,18 +7,18 @@
 
 namespace orvanta {
 
-/// The one drive of a disc: a folder under a drive letter. Other drives do not exist.
+/// The only drive of a disc: a folder with a drive letter. No other drive exists.
 ///
-/// Names are UTF-8 and match without regard to case; a name that matches exactly is preferred. Symbolic links
-/// are followed, and a name that leads nowhere counts as missing.
+/// Names are UTF-8 and match whatever their case; an exact match is preferred. Symbolic links are followed,
+/// and a dangling one counts as missing.
 class DiscDrive {
  public:
   explicit DiscDrive(std::filesystem::path root, char letter = 'D');
 
-  /// `path` is UTF-8 with backslashes or slashes. "." and ".." are resolved before anything is looked up, and
-  /// never climb above the drive's root. "D:x" and "\x" begin at the drive's root like "D:\x"; a path without
-  /// drive and leading backslash begins at the current directory. Network paths lead nowhere. The path that
-  /// is found lies on the host, unless the drive's root is the root of other `files`.
+  /// Looks up `path`, which is UTF-8 with backslashes or slashes. "." and ".." are resolved first and never
+  /// climb above the root of the drive. "D:x" and "\x" start at the root, like "D:\x". A path with neither a
+  /// drive nor a leading backslash starts at the current directory. Network paths are not found. The path in
+  /// the result is one of the host, unless the root of the drive is the root of other `files`.
   FoundPath Find(std::string_view path, const PathLookup& files = HostLookup()) const;
 
  private:

@@ -31,7 +31,7 @@ std::string HostLookup::EntryNoCase(const fs::path& folder, const std::string& n
   FoldedNames matching;
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
-    // The index of a whole folder would cost more than it saves, as it is asked for one name alone.
+    // An index of the whole folder would cost more than it saves, since only one name is looked up.
     const std::string found = entry->path().filename().string();
     if (FoldedName(found) == wanted) matching.Add(found);
   }

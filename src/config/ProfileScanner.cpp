@@ -27,14 +27,14 @@ const char* Find(const char* begin, const char* end, char wanted) {
 
 const char* LineEnd(const char* at, const char* end) { return Find(at, Find(at, end, '\n'), '\r'); }
 
-/// Behind the last line end, `begin` if there is none.
+/// The position after the last line break; `begin` if there is none.
 const char* LastLineEnd(const char* begin, const char* end) {
   while (end != begin && !IsLineEnd(end[-1])) --end;
   return end;
 }
 
-/// Settles most candidates by one byte beside them: it is ASCII, no blank, and no form of the letter asked
-/// for.
+/// Rules out most candidates by the one byte beside them: a visible ASCII character that is not the expected
+/// letter in either case.
 bool CannotMatch(char found, char asked) { return found > ' ' && ((found ^ asked) & ~0x20) != 0; }
 
 bool OnlyBlanksBefore(const char* begin, const char* at) {
@@ -64,7 +64,7 @@ bool CanBeName(std::string_view name, char forbidden) {
                       [forbidden](char c) { return c == forbidden || IsLineEnd(c); });
 }
 
-/// `at` is behind the "[".
+/// `at` is after the "[".
 bool NamesSection(const char* at, const char* end, std::string_view section) {
   while (at != end && IsBlank(*at)) ++at;
   if (static_cast<std::size_t>(end - at) < section.size()) return false;
@@ -92,7 +92,7 @@ bool ProfileScanner::Take(std::string_view lines) {
   return FindKey(begin, end);
 }
 
-/// Where the section's lines begin, null if it is not here.
+/// Where the lines of the section begin; null if it is not in this text.
 const char* ProfileScanner::SkipToSection(const char* begin, const char* end) const {
   const char first = section_.empty() ? ']' : section_[0];
   const char* header = FindAccepted<'['>(begin, end, Anywhere{}, [=, section = section_](const char* at) {
@@ -112,7 +112,8 @@ bool ProfileScanner::FindKey(const char* begin, const char* end) {
   return true;
 }
 
-/// Read backwards from the "=", since most keys of a section differ at their ends: `Menu1`, `Menu2`.
+/// Compares backwards from the "=", since most keys of a section differ in their last characters: `Menu1`,
+/// `Menu2`.
 bool ProfileScanner::NamesKey(const char* begin, const char* equals) const {
   const char* last = equals;
   while (last != begin && IsBlank(last[-1])) --last;
@@ -122,8 +123,8 @@ bool ProfileScanner::NamesKey(const char* begin, const char* equals) const {
 }
 
 std::string StreamedProfileString(const ByteSource& read, std::string_view section, std::string_view key) {
-  // Pieces always begin at the same aligned place, the rest of the line before is put in front of them: the
-  // system copies whole pages to page boundaries fastest.
+  // Each piece is read to the same aligned address, and the rest of the line before is put in front of it:
+  // the system copies whole pages to page boundaries fastest.
   alignas(4096) std::array<char, 2 * kPiece> buffer;
   char* const piece = buffer.data() + kPiece;
   ProfileScanner scanner(section, key);
@@ -135,7 +136,7 @@ std::string StreamedProfileString(const ByteSource& read, std::string_view secti
     const char* const end = piece + got;
     const char* const whole = got == 0 ? end : LastLineEnd(begin, end);
     if (scanner.Take({begin, whole}) || got == 0) return scanner.value();
-    // The end of a value tells whether it is quoted, so an overlong line gives up its middle, not its end.
+    // Only the end of a value shows whether it is quoted, so an overlong line loses its middle, not its end.
     kept = std::min(static_cast<std::size_t>(end - whole), kPiece);
     std::memmove(piece - kept, whole, kept);
   }

@@ -9,22 +9,23 @@
 namespace orvanta {
 
 /// Finds one key in the text of an INI file. The text may come in pieces; the search ends as soon as the
-/// answer is known. Nothing is parsed that is not asked for: the search jumps from '[' to '[' until it meets
-/// the section, and from '=' to '=' inside it.
+/// answer is known. Nothing is parsed needlessly: the search jumps from '[' to '[' until it finds the
+/// section, and then from '=' to '='.
 class ProfileScanner {
  public:
-  /// The two names must outlive the scanner.
+  /// Both names must outlive the scanner.
   ProfileScanner(std::string_view section, std::string_view key);
 
-  /// False for names that no line can carry, such as a key with an equals sign or a name with blanks around
-  /// it.
+  /// False if no line can match the names, for instance because the key contains an equals sign, or a name
+  /// begins or ends with a blank.
   bool canMatch() const { return canMatch_; }
 
-  /// Goes on with `lines`: whole lines that follow those of the call before, the last perhaps without its
-  /// end. Returns true once more text cannot change the answer; it must not be called again after that.
+  /// Continues with `lines`: whole lines that follow those of the previous call; only the last one may lack
+  /// its line break. Returns true once further text cannot change the answer; then it must not be called
+  /// again.
   bool Take(std::string_view lines);
 
-  /// The value, empty while the key has not been met.
+  /// The value; empty until the key is found.
   const std::string& value() const { return value_; }
 
  private:
@@ -39,14 +40,14 @@ class ProfileScanner {
   bool inSection_ = false;
 };
 
-/// Fills a part of the buffer and says how much; 0 at the end of the text.
+/// Fills the buffer or a part of it and returns the number of bytes; 0 at the end of the text.
 using ByteSource = std::function<std::size_t(std::span<char>)>;
 
-/// How much is asked for at a time; two of them fit into a processor's first cache.
+/// How many bytes are requested at a time; two pieces fit into a processor's first-level cache.
 inline constexpr std::size_t kPiece = 16 * 1024;
 
-/// Looks `key` up in a text that `read` supplies piece by piece, and asks for no more than it needs. It takes
-/// the same memory for every text: a line longer than a piece loses its middle.
+/// Looks `key` up in a text that `read` supplies piece by piece, and reads no more than it needs. It uses the
+/// same amount of memory for every text: of a line longer than a piece, the middle is dropped.
 std::string StreamedProfileString(const ByteSource& read, std::string_view section, std::string_view key);
 
 }  // namespace orvanta

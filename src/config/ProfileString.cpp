@@ -11,12 +11,13 @@
 namespace orvanta {
 namespace {
 
-/// Past this place no file is believed before it has been looked at: a device may have no end.
+/// Up to this position a file is read without checking its type; beyond it, only a regular file is read on,
+/// since a device may be endless.
 constexpr off_t kUnchecked = 1024 * 1024;
 
 class OpenFile {
  public:
-  /// O_NONBLOCK, so that opening a FIFO without a writer returns.
+  /// With O_NONBLOCK, opening a FIFO that has no writer returns at once.
   explicit OpenFile(const std::filesystem::path& file)
       : handle_(::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY)) {}
   OpenFile(const OpenFile&) = delete;
@@ -25,12 +26,12 @@ class OpenFile {
     if (handle_ >= 0) ::close(handle_);
   }
 
-  /// The next bytes, none at the end. Folders, pipes and terminals refuse to be read at a position. A file
-  /// that cannot be read on, on a scratched disc perhaps, ends there.
+  /// Reads the next bytes; none at the end. Folders, pipes and terminals cannot be read at a position. Where
+  /// a file cannot be read any further, such as on a scratched disc, it ends.
   std::size_t Read(std::span<char> into) {
     if (atEnd_) return 0;
     const ssize_t got = ::pread(handle_, into.data(), into.size(), position_);
-    // Only at its end does a regular file give less, so the call that would find the end can be saved.
+    // A regular file returns fewer bytes only at its end, so one more call to find the end can be saved.
     atEnd_ = got < static_cast<ssize_t>(into.size()) || (position_ > kUnchecked && !IsRegular());
     if (got <= 0) return 0;
     position_ += got;

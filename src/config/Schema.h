@@ -6,7 +6,7 @@
 
 namespace orvanta {
 
-/// The fixed section has a key of this very name and kind that is no run.
+/// Whether a fixed section has a key of exactly this name and kind that is not a run.
 constexpr bool IsSchemaKey(std::string_view section, std::string_view name, Kind kind) {
   for (const SchemaKey& key : kSchema) {
     if (key.section == section && key.name == name) return key.kind == kind && key.presence != Presence::Run;
@@ -15,8 +15,8 @@ constexpr bool IsSchemaKey(std::string_view section, std::string_view name, Kind
 }
 
 /// Names a key of a fixed section, such as `{"GLOBAL", "BackX"}`. Does not compile if the schema has no such
-/// key of kind `K`. The keys of a node and those of a run have names that only the running program knows;
-/// they are read by `INI_Read::IniRead`.
+/// key of kind `K`. The names of numbered keys and of keys of menu nodes are only known at run time;
+/// `INI_Read::IniRead` reads those.
 template <Kind K>
 struct KeyRef {
   std::string_view section;

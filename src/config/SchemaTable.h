@@ -5,10 +5,10 @@
 
 namespace orvanta {
 
-/// What the text of a key is turned into.
+/// What the text of a key is converted to.
 enum class Kind {
   Picture,  ///< a file below Data
-  Base,     ///< what the names of three files below Data begin with; they end in 0.gif, 1.gif and 2.gif
+  Base,     ///< common start of the names of three files below Data, which end in 0.gif, 1.gif and 2.gif
   Font,     ///< a file below Data
   Sound,    ///< a file below Data\\Sound, or a path with a drive
   Whole,    ///< 16-bit number
@@ -17,14 +17,14 @@ enum class Kind {
   Colour,   ///< 32-bit number: red in the low byte, then green, then blue
   Boolean,  ///< True, False or a number
   Text,     ///< unchanged
-  Any       ///< read, and of no further use
+  Any       ///< read, but not used
 };
 
-/// How a disc is to hold a key.
+/// Whether a disc needs a key.
 enum class Presence {
   Mandatory,
   Optional,
-  Run  ///< a numbered run that its first empty key ends: `Menu` stands for Menu1, Menu2 up to Menu1001
+  Run  ///< numbered, up to the first empty one: `Menu` stands for Menu1, Menu2 up to Menu1001
 };
 
 /// One key of the catalogue, or one run of keys.
@@ -35,7 +35,7 @@ struct SchemaKey {
   Presence presence = Presence::Mandatory;
 };
 
-/// Stands in the table for every section that is a node of the menu tree, "MAINMENU" among them.
+/// The name of the section in the table that stands for every node of the menu tree, including "MAINMENU".
 inline constexpr std::string_view kNodeSection = "*";
 
 /// Every key that the program reads.

@@ -9,11 +9,11 @@
 
 namespace orvanta {
 
-/// The file that every setting is asked of first.
+/// The file in which every setting is looked up first.
 inline constexpr std::string_view kMenuFile = "Menu.ini";
 
-/// The keys of the fixed sections, by their kind: `settings.Whole({"GLOBAL", "BackX"})`. Each call is one
-/// lookup and one conversion; `Values.h` tells what an empty or senseless value gives.
+/// The settings of the fixed sections, by their kind: `settings.Whole({"GLOBAL", "BackX"})`. Each call does
+/// one lookup and one conversion; `Values.h` defines the result for empty and malformed values.
 class Settings {
  public:
   /// `ini` must outlive the settings.
@@ -28,14 +28,15 @@ class Settings {
   std::string Text(KeyRef<Kind::Text> key) const { return Value(key); }
   std::string Any(KeyRef<Kind::Any> key) const { return Value(key); }
 
-  /// Windows paths. That of an empty value is the folder itself: ask `Has` before an optional one.
+  /// These are Windows paths. For an empty value the result is the folder itself, so ask `Has` first if the
+  /// key is optional.
   std::string Picture(KeyRef<Kind::Picture> key) const;
-  /// What the paths of a button's three pictures begin with.
+  /// The common start of the paths of a button's three pictures.
   std::string Base(KeyRef<Kind::Base> key) const;
   std::string Font(KeyRef<Kind::Font> key) const;
   std::string Sound(KeyRef<Kind::Sound> key) const;
 
-  /// The key is there and not empty. A lookup of its own.
+  /// Whether the key exists and is not empty; does a lookup of its own.
   template <Kind K>
   bool Has(KeyRef<K> key) const {
     return !Value(key).empty();

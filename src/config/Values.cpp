@@ -16,7 +16,7 @@ template <class Whole>
 Whole Rounded(double value) {
   if (std::isnan(value)) return 0;
   value = std::clamp<double>(value, std::numeric_limits<Whole>::min(), std::numeric_limits<Whole>::max());
-  // Spelled out, since std::nearbyint follows a rounding mode that anybody can change.
+  // Written out, because std::nearbyint depends on a rounding mode that any library may change.
   const double below = std::floor(value);
   const double rest = value - below;
   const bool up = rest > 0.5 || (rest == 0.5 && std::fmod(below, 2.0) != 0.0);
@@ -30,7 +30,8 @@ std::string_view Trimmed(std::string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-/// Too small for its type rather than too large; std::from_chars tells the two not apart.
+/// Whether a number is too small for its type rather than too large; std::from_chars does not distinguish
+/// them.
 bool IsTiny(std::string_view number) {
   const auto exponent = number.find_first_of("eE");
   if (exponent != number.npos) return number.substr(exponent + 1).starts_with('-');
@@ -41,7 +42,7 @@ bool IsTiny(std::string_view number) {
 template <class Real>
 std::optional<Real> Parsed(std::string_view text) {
   std::string number(Trimmed(text));
-  // Keeps out the words and the hexadecimal digits that std::from_chars would take.
+  // Rejects the words and the hexadecimal digits that std::from_chars would accept.
   if (number.find_first_not_of("0123456789+-.,eE") != number.npos) return std::nullopt;
   std::replace(number.begin(), number.end(), ',', '.');
   if (number.starts_with('+') && !number.starts_with("+-")) number.erase(0, 1);

@@ -35,7 +35,7 @@ int ByteOf(char16_t character) {
   return found == kUpperHalf.end() ? kNoByte : 0x80 + static_cast<int>(found - kUpperHalf.begin());
 }
 
-/// Takes one character of up to three bytes off the front of `utf8`, as many as Windows-1250 asks for.
+/// Removes one character of up to three bytes, the most that Windows-1250 needs, from the front of `utf8`.
 std::optional<char16_t> TakeCharacter(std::string_view& utf8) {
   const auto lead = static_cast<unsigned char>(utf8.front());
   const std::size_t length = lead < 0x80 ? 1 : (lead & 0xE0) == 0xC0 ? 2 : (lead & 0xF0) == 0xE0 ? 3 : 0;
@@ -93,7 +93,7 @@ bool EqualNoCase(std::string_view left, std::string_view right) {
 }
 
 std::string FoldedName(std::string_view utf8) {
-  // The first byte parts the two kinds, whose other bytes could be the same.
+  // The first byte separates the two kinds, since their other bytes could be equal.
   if (const auto bytes = ToWindows1250(utf8)) return '1' + Folded1250(*bytes);
   std::string name = '0' + std::string(utf8);
   std::transform(name.begin(), name.end(), name.begin(), FoldAscii);

@@ -6,19 +6,21 @@
 
 namespace orvanta {
 
-/// Windows-1250 to UTF-8. Every byte has a character: the five that the code page leaves undefined stand for
-/// the control character of the same number, so that every text comes back from `ToWindows1250` as it was.
+/// Converts Windows-1250 to UTF-8. Every byte has a character: the five bytes that the code page leaves
+/// undefined become the control characters of the same number, so that `ToWindows1250` restores every text
+/// exactly.
 std::string FromWindows1250(std::string_view bytes);
 
-/// UTF-8 to Windows-1250, nothing if the text is no valid UTF-8 or has a character outside the code page.
+/// Converts UTF-8 to Windows-1250; nothing if the text is not valid UTF-8 or has a character that is not in
+/// the code page.
 std::optional<std::string> ToWindows1250(std::string_view utf8);
 
-/// Two texts in UTF-8 are the same but for small and capital letters. Outside Windows-1250 only the letters A
-/// to Z are matched without regard to case.
+/// Whether two texts in UTF-8 are equal, ignoring case. If a text has characters outside Windows-1250, only A
+/// to Z match regardless of case.
 bool EqualNoCase(std::string_view left, std::string_view right);
 
-/// A key for a name in UTF-8: two names have the same key just when `EqualNoCase` holds them for the same. It
-/// has one byte for each letter of Windows-1250, so that keys can be compared letter by letter.
+/// A key for a name in UTF-8: two names have the same key exactly if `EqualNoCase` holds for them. Each
+/// letter of Windows-1250 takes one byte, so that keys can be compared letter by letter.
 std::string FoldedName(std::string_view utf8);
 
 }  // namespace orvanta

@@ -1,4 +1,4 @@
-// What a disc's paths, settings and values are read as.
+// How the paths, settings and values of a disc are read.
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -19,7 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A path and what it leads to from the root of the disc; or what is missing.
+/// A path, and either what it leads to from the root of the disc, or what is missing.
 constexpr const char* kPaths[][2] = {{"D:\\Data\\Menu.ini", "Data/Menu.ini"},
                                      {"d:\\DATA\\mENU.ini", "Data/MENU.INI"},  // the first of two
                                      {"D:/data/ŻABA\\gęŚ.gif", "Data/Żaba/Gęś.GIF"},
@@ -37,7 +37,7 @@ constexpr const char* kPaths[][2] = {{"D:\\Data\\Menu.ini", "Data/Menu.ini"},
                                      {"D:\\round\\x", "(folder)"},
                                      {"D:\\\xFF\xFE", "(file)"}};
 
-TEST(DiscDrive, FindsNamesWithoutRegardToCaseAndNeverLeavesItsRoot) {
+TEST(DiscDrive, FindsNamesIgnoringCaseAndNeverLeavesItsRoot) {
   const TemporaryFolder folder;
   const fs::path root = folder.Path() / "disc";
   for (const char* file :
@@ -53,12 +53,13 @@ TEST(DiscDrive, FindsNamesWithoutRegardToCaseAndNeverLeavesItsRoot) {
     const char* const missing = found.outcome == FoundPath::Outcome::FileMissing ? "(file)" : "(folder)";
     EXPECT_EQ(found ? found.path.lexically_relative(root).string() : missing, expected) << path;
     const FoundPath byTool = tree.Find(path);
-    // What depends on the current folder is nothing that the tool could know of a disc.
+    // The tool has no current folder, so paths that depend on it are only for the shell.
     if (path == std::string() || std::string_view("Dd\\").find(*path) == std::string_view::npos) continue;
     EXPECT_EQ(byTool.outcome, found.outcome) << path;
     EXPECT_EQ(byTool ? tree.Place(byTool.path) : fs::path(), found.path) << path;
   }
-  // Who may not search a folder is told so when he opens what lies there: to shell and check it is there.
+  // If a folder may not be searched, its files count as existing for both the shell and the tool, and opening
+  // one fails with the true reason.
   fs::permissions(folder.Path(), fs::perms::all);
   fs::permissions(root / "Data", fs::perms::none);
   const bool poor = getuid() != 0 || seteuid(65534) == 0;
@@ -71,7 +72,7 @@ TEST(DiscDrive, FindsNamesWithoutRegardToCaseAndNeverLeavesItsRoot) {
   EXPECT_FALSE(drive.Find("D:\\" + std::string(1 << 20, '\\') + "Data")) << "an absurd path takes no time";
 }
 
-/// A disc that is nothing but its two files, whose texts are UTF-8 here.
+/// A disc with nothing but its two files, whose texts are in UTF-8 here.
 class IniReadTest : public ::testing::Test {
  protected:
   void Write(const char* file, const std::string& text) { disc.File(file, ToWindows1250(text).value()); }
@@ -83,7 +84,7 @@ class IniReadTest : public ::testing::Test {
   INI_Read ini{"D:\\", DiscDrive(disc.Path())};
 };
 
-TEST_F(IniReadTest, AsksTheSecondFileForWhatTheFirstLacksAndConvertsAtItsEdge) {
+TEST_F(IniReadTest, LooksInTheSecondFileForWhatTheFirstLacksAndConvertsTheTexts) {
   EXPECT_EQ(Read("s", "both"), "");
   Write("Data/Param.ini", "[s]\nboth=2\nempty=2\nsecond=%:\\p\n");
   EXPECT_EQ(Read("s", "both"), "2");
@@ -96,10 +97,10 @@ TEST_F(IniReadTest, AsksTheSecondFileForWhatTheFirstLacksAndConvertsAtItsEdge) {
   EXPECT_EQ(INI_Read("\\", DiscDrive(disc.Path())).IniRead("s", "f", kMenuFile), "\\:\\q");
   EXPECT_EQ(Read("żÓŁW", "opis") + Read("Żółw", "Ω") + Read("日", "Opis"), "Zażółć");
   EXPECT_EQ(Read("s", "long"), polish.substr(0, 508))
-      << "254 bytes of the file: cut first, through no letter";
+      << "254 bytes of the file, cut before the conversion and so not inside a letter";
 }
 
-TEST_F(IniReadTest, MakesPathsOfSoundsAndEndsAnEndlessRun) {
+TEST_F(IniReadTest, MakesPathsOfSoundsAndLimitsAnEndlessRun) {
   EXPECT_EQ(ini.SoundPath("ą:\\a.mid"), "ą:\\a.mid");
   EXPECT_EQ(ini.SoundPath("ab:"), "D:\\Data\\Sound\\ab:");
   EXPECT_EQ(ini.SoundPath(""), "D:\\Data\\Sound\\");
@@ -109,7 +110,7 @@ TEST_F(IniReadTest, MakesPathsOfSoundsAndEndsAnEndlessRun) {
   EXPECT_EQ(CountRun(ini, "MAINMENU", "Menu"), 1001);
 }
 
-TEST(Values, RoundToTheNearestAndTiesToEvenWithinTheirRange) {
+TEST(Values, AreRoundedToTheNearestWithTiesToEvenAndClamped) {
   const double cases[][2] = {{0.5, 0},         {1.5, 2},       {-0.5, 0},          {-1.5, -2},
                              {-2.5, -2},       {2.49, 2},      {-2.51, -3},        {4e4, 32767},
                              {32767.5, 32767}, {-4e4, -32768}, {-32768.5, -32768}, {0.49999999999999994, 0},
@@ -134,7 +135,7 @@ TEST(Values, RoundToTheNearestAndTiesToEvenWithinTheirRange) {
   for (const char* text : {" TRUE ", "-1", "0.4", "1e999"}) EXPECT_TRUE(BooleanOf(text)) << text;
 }
 
-TEST(Windows1250, GivesEveryByteBackFoldsCapitalsAndRefusesWhatItCannotWrite) {
+TEST(Windows1250, RestoresEveryByteFoldsCapitalsAndRefusesWhatItCannotWrite) {
   EXPECT_EQ(FromWindows1250("Za\xBF\xF3\xB3\xE6 g\xEA\x9Cl\xB9 ja\x9F\xF1 \x80"), "Zażółć gęślą jaźń €");
   const std::string capitals = "ABCXYZŠŚŤŽŹŁĄŞŻĽŔÁÂĂÄĹĆÇČÉĘËĚÍÎĎĐŃŇÓÔŐÖŘŮÚŰÜÝŢ";
   EXPECT_TRUE(EqualNoCase(capitals, "abcxyzšśťžźłąşżľŕáâăäĺćçčéęëěíîďđńňóôőöřůúűüýţ"));
@@ -146,7 +147,7 @@ TEST(Windows1250, GivesEveryByteBackFoldsCapitalsAndRefusesWhatItCannotWrite) {
   }
   EXPECT_EQ(changed, ToWindows1250(capitals)->size() - 6);
   EXPECT_FALSE(EqualNoCase("×", "÷") || EqualNoCase("a", "ab") || EqualNoCase("Ω", "ω"));
-  EXPECT_TRUE(EqualNoCase("Ω-Setup", "Ω-SETUP")) << "beyond the code page only the plain letters fold";
+  EXPECT_TRUE(EqualNoCase("Ω-Setup", "Ω-SETUP")) << "outside the code page only A to Z fold";
   for (const char* text :
        {"Ω", "😀", "\u0080", "\x80", "\xC5", "\xC5z", "\xC1\xA1", "\xE0\x81\xA1", "\xE2\x82"})
     EXPECT_EQ(ToWindows1250(text), std::nullopt) << text;

@@ -5,7 +5,7 @@
 
 namespace orvanta::test {
 
-/// What the platform call gives for one key of one file. Bytes in Windows-1250.
+/// The result of the platform call for one key of one file. All texts are bytes in Windows-1250.
 struct LookupCase {
   std::string_view name, file, section, key, expected;
 };
@@ -15,13 +15,13 @@ using namespace std::string_view_literals;
 inline constexpr auto kLookupCases = std::to_array<LookupCase>({
     {"cr only quotes", "[s]\ra=1\rk=\"v\"\rc\rd=a\r[t]\r", "s", "k", "v"},
     {"lf cr order", "[s]\n\rk=v\n\r", "s", "k", "v"},
-    {"section prefix is no match", "[MAINMENU2]\r\nk=2\r\n[MAINMENU]\r\nk=1\r\n", "MAINMENU", "k", "1"},
+    {"section prefix does not match", "[MAINMENU2]\r\nk=2\r\n[MAINMENU]\r\nk=1\r\n", "MAINMENU", "k", "1"},
     {"case polish section", "[\257\363\263w]\r\nk=v\r\n", "\257\323\243W", "k", "v"},
     {"fold trap bracket brace", "[s]\r\nk{=1\r\n", "s", "k[", ""},
     {"blank space around key", "[s]\r\n k =val\r\n", "s", "k", "val"},
     {"blank tab in brackets", "[\tx\t]\r\nk=val\r\n", "x", "k", "val"},
     {"ctrlz last byte no newline", "[s]\r\nk=val\032", "s", "k", "val"},
-    {"nbsp is no blank", "[s]\r\nk=\240v\240\r\n", "s", "k", "\240v\240"},
+    {"nbsp is not a blank", "[s]\r\nk=\240v\240\r\n", "s", "k", "\240v\240"},
     {"key with inner space", "[s]\r\nmy key=v\r\n", "s", "my key", "v"},
     {"quotes single", "[s]\r\nk='val2'\r\n", "s", "k", "val2"},
     {"quotes doubled", "[s]\r\nk=\"\"string\"\"\r\n", "s", "k", "\"string\""},

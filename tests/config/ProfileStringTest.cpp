@@ -15,7 +15,7 @@
 namespace orvanta::test {
 namespace {
 
-/// Supplies a text in pieces of at most `most` bytes and counts what it was asked for.
+/// Supplies a text in pieces of at most `most` bytes and counts how much was read.
 struct SlowText {
   std::size_t operator()(std::span<char> into) {
     const std::size_t count = text.substr(given, std::min(into.size(), most)).copy(into.data(), into.size());
@@ -39,7 +39,7 @@ TEST(ProfileString, AgreesWithThePlatformOnKnownFiles) {
   }
 }
 
-/// Pieces of a text in which everything that means something to the reader is frequent.
+/// A text made of random pieces in which the characters that the reader interprets are frequent.
 std::string NastyText(std::mt19937& random) {
   constexpr std::string_view kText =
       "\n[s]\nk=v\r[ S\t]\r\n K =v\n;k=\nk "
@@ -84,11 +84,11 @@ TEST(ProfileString, CutsValuesAndReadsLinesLongerThanItsBuffer) {
   for (std::string_view key : {"k", "missing"}) {
     SlowText slow{answers, answers.size()};
     StreamedProfileString(std::ref(slow), "s", key);
-    EXPECT_LE(slow.given, kPiece) << "nothing is read behind the answer";
+    EXPECT_LE(slow.given, kPiece) << "nothing is read after the answer";
   }
 }
 
-TEST(ProfileString, ReadsTheFileAnewAtEachCallAndNeverHangsOnWhatIsNoFile) {
+TEST(ProfileString, ReadsTheFileAnewAtEachCallAndNeverHangsOnWhatIsNotAFile) {
   const TemporaryFolder folder;
   for (const std::size_t lines : {kPiece, 3 * kPiece, 256 * kPiece}) {
     const auto file = folder.File("a.ini", std::string(lines, '\n') + "[s]\nk=" + std::to_string(lines));

@@ -26,7 +26,7 @@ inline std::string Lowered(std::string_view text) {
   return lower;
 }
 
-/// The rules of `ProfileString` written down as slowly and plainly as can be, for comparison.
+/// The rules of `ProfileString`, written as slowly and plainly as possible, to compare it with.
 inline std::string ReferenceLookup(std::string_view text, std::string_view section, std::string_view key) {
   bool inSection = false;
   for (std::string rest = std::string(text) + '\n'; !rest.empty();) {
