@@ -10,7 +10,7 @@
 
 namespace {
 
-/// What a user is told who starts the program where there is no disc; empty if there is one.
+/// The message for a user who starts the program where there is no disc; empty if there is one.
 std::string MissingDisc(const std::filesystem::path& folder) {
   const orvanta::DiscDrive drive(folder);
   const auto readable = [&drive](const char* name) {

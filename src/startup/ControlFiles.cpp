@@ -17,7 +17,8 @@ std::string_view Trimmed(std::string_view text) {
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-/// As everywhere in the program: no number reads as 0, one beyond the range is clamped to it.
+/// As everywhere in the program, text that is not a number counts as 0, and a number outside the range is
+/// clamped.
 std::int16_t Number(std::string_view text) {
   using Limits = std::numeric_limits<std::int16_t>;
   text = Trimmed(text);
@@ -58,7 +59,7 @@ bool IsNewerOnDisc(ControlFilesHost& host, const ControlFolders& folders, const 
   const std::string installed = FileVersionText(host, folders.winSysDir + name);
   const std::string disc = FileVersionText(host, folders.discSysDir + name);
   bool newer = false;
-  // A smaller first number does not settle the matter: 4.70 on the disc is newer than an installed 5.0.
+  // The numbers are compared separately: 4.70 on the disc counts as newer than an installed 5.0.
   for (const std::uint8_t part : {std::uint8_t{1}, std::uint8_t{2}})
     if (VersionPart(disc, part) > VersionPart(installed, part)) newer = true;
   return newer;

@@ -8,26 +8,28 @@
 
 namespace orvanta {
 
-/// The folders between which the control files travel, each with a backslash at its end.
+/// The folders between which the control files are copied, each with a trailing backslash.
 struct ControlFolders {
   std::string winSysDir;
   std::string discSysDir;
 };
 
-/// The system directory with a backslash added.
+/// The system directory with a trailing backslash.
 std::string GetSysDir(ControlFilesHost& host);
 bool FileExists(ControlFilesHost& host, const std::string& path);
-/// The four numbers of a file's version joined by points, each a signed 16-bit number; empty without a
-/// record.
+/// The four numbers of a file's version, joined by dots, each a signed 16-bit number; empty if the file has
+/// no version.
 std::string FileVersionText(ControlFilesHost& host, const std::string& path);
-/// The `part`-th number (from 1) of a version text, its last one if it has fewer, 0 for an empty text.
+/// The `part`-th number of a version text, counted from 1; the last one if there are fewer, and 0 for an
+/// empty text.
 std::int16_t VersionPart(std::string_view text, std::uint8_t part);
-/// The first or the second number of the disc's version is greater than that of the installed file, each
-/// looked at by itself. Files without a version count as version 0.
+/// Whether the first or the second number of the disc's version is greater than that of the installed file.
+/// The two are compared separately. A file without a version counts as version 0.
 bool IsNewerOnDisc(ControlFilesHost& host, const ControlFolders& folders, const std::string& name);
-/// Starts the disc's registrar for one control file; a failed start is told to the user.
+/// Starts the disc's registrar for one control file; if the start fails, a message box says so.
 void RegisterControl(ControlFilesHost& host, const ControlFolders& folders, const std::string& path);
-/// Copies the control files that are missing or older than the disc's and starts the registrar for each.
+/// Copies the control files that are missing or older than those of the disc, and starts the registrar for
+/// each.
 void CheckControls(ControlFilesHost& host, const ControlFolders& folders);
 
 }  // namespace orvanta

@@ -18,15 +18,16 @@ namespace orvanta {
 
 class Shell;
 
-/// The program's window. Its centre shows one of three views, which follow from the visible controls alone:
-/// a menu list, the detail view of an entry (`picTlo` hidden), or a page (`imgPomoc` or `imgSeven` visible).
+/// The main window of the program. Its centre shows one of three views, which the visible controls alone
+/// determine: a menu list, the detail view of an entry (`picTlo` is hidden), or a page (`imgPomoc` or
+/// `imgSeven` is visible).
 ///
-/// One class, whose routines stand in the folders of their subjects.
+/// It is one class; each routine is defined in the folder of its subject.
 class MainForm : public Form {
  public:
   explicit MainForm(Shell& shell);
 
-  // Controls, from the bottom of the stack to its top. Pixels.
+  // The controls, from the bottom of the stacking order to its top. Lengths are in pixels.
   Label lblNote;
   Shape Shape1;
   Label Label1;
@@ -52,12 +53,12 @@ class MainForm : public Form {
   Timer Timer1;
   ImageList ImageList1;
 
-  /// One for lists and pages (`listKnob`) and for screenshots (`shotKnob`).
+  /// One slider for two knobs: `listKnob` of lists and pages, `shotKnob` of screenshots.
   Slider slider;
   Slider::Knob listKnob{imgSuwak, imgSuwakPas, [this] { ScrollList(); }};
   Slider::Knob shotKnob{imgSSuwak, imgSSlider, [this] { ScrollShots(); }};
 
-  std::vector<std::string> MenuPath;  ///< node names from the root; above `MenuLevel` they are stale
+  std::vector<std::string> MenuPath;  ///< node names from the root; those above `MenuLevel` are out of date
   std::int16_t MenuLevel = 0;
   BarButton PressedButton = BarButton::None;  ///< the latched one of the transport buttons
 
@@ -91,7 +92,7 @@ class MainForm : public Form {
   void Form_Resize() override;
   void Form_Unload() override;
 
-  // The tree and the position in it: menu/MainForm_Menu.cpp
+  // The menu tree and the position in it: menu/MainForm_Menu.cpp
   void MenuInit(const std::string& menu);
   std::int16_t IleMenu(const std::string& menu) const;
   void StronaInit(double height);
@@ -103,14 +104,14 @@ class MainForm : public Form {
   std::string CurrentNode() const;
   void EnterLevel(const std::string& name);
 
-  // Hover, tick and crosshair: menu/MainForm_Hover.cpp
+  // Tick, hover and crosshair: menu/MainForm_Hover.cpp
   void Timer1_Timer();
   void MousePos();
   void OverLabel(std::int16_t Index);
   void LinesSet(std::int16_t Index);
   void Strzal(std::int16_t Index);
 
-  // What scrolls: menu/MainForm_Slider.cpp, menu/MainForm_Shots.cpp
+  // Scrolling: menu/MainForm_Slider.cpp, menu/MainForm_Shots.cpp
   void SuwakInit();
   void FitSlider(std::int32_t contentHeight);
   void HideSlider();
@@ -124,7 +125,7 @@ class MainForm : public Form {
   bool IsExec(const std::string& name) const;
   bool IsPlay(const std::string& name) const;
   std::int16_t IleShot(const std::string& name) const;
-  /// False if the user has gone on to another view while the music fell silent.
+  /// False if the user has opened another view while the music faded.
   bool ShowKind(const std::string& name);
   void ShowTransport();
   void LoadShots(const std::string& name);
@@ -168,17 +169,17 @@ class MainForm : public Form {
   void SoundOff();
 
   Shell& shell_;
-  std::vector<std::int32_t> PosTop;  // unscrolled tops of the labels or of the screenshots
+  std::vector<std::int32_t> PosTop;  // tops of the labels or the screenshots before scrolling
   std::int32_t LabelTop = 0, ShotTop = 0;
-  std::int32_t MouseX = 0, MouseY = 0;  // the cursor relative to picTlo at the last tick
+  std::int32_t MouseX = 0, MouseY = 0;  // the cursor relative to picTlo, as of the last tick
   std::int16_t S2Start = 0, S2End = 0, S2Len = 0;
   std::int16_t SavedVolume = 0;
   std::int16_t selected_ = 0;   // lblPos1_Click: the selected label's index plus 1
-  std::uint32_t views_ = 0;     // how many views have been built
-  bool crosshairRuns_ = false;  // Strzal: a click on a label meanwhile is ignored
+  std::uint32_t views_ = 0;     // number of views built so far
+  bool crosshairRuns_ = false;  // Strzal: clicks on labels are ignored meanwhile
   std::int16_t hovered_ = 0;    // OverLabel: the hovered label's index plus 1
-  std::int16_t markerAt_ = 0;   // Timer1_Timer: the last place given to S2
-  std::mt19937 generator_;      // never seeded: one disc, one choice
+  std::int16_t markerAt_ = 0;   // Timer1_Timer: the last position of S2
+  std::mt19937 generator_;      // never seeded: a disc always makes the same choice
 };
 
 }  // namespace orvanta

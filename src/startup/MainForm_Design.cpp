@@ -1,4 +1,4 @@
-// MainForm as it is before Form_Load: what no key of the disc changes.
+// MainForm before Form_Load: everything that no key of the disc changes.
 
 #include "startup/Shell.h"
 
@@ -58,7 +58,7 @@ void MainForm::DesignControls() {
     zone->BorderStyle = 1;
     zone->MouseIcon = Pointer::Hand;
   }
-  // A button whose art is missing can still be found and clicked.
+  // So that a button whose art is missing can still be clicked.
   ButtonM(0).Move(0, 0, 32, 32);
   ButtonM(0).MouseIcon = Pointer::Hand;
 }

@@ -1,4 +1,4 @@
-// How MainForm builds itself from the disc, in an order that the user sees.
+// MainForm builds itself from the disc, in an order that the user can see.
 
 #include "startup/Shell.h"
 #include "startup/modFonts.h"
@@ -31,7 +31,7 @@ void MainForm::Form_Load() {
   picTlo.Top = settings.Single({"MENUITEM", "BackgroundY"});
   ApplyFormShape(*this);
   PressedButton = BarButton::None;
-  // The form's twips taken as pixels: far outside the window.
+  // The form's size in twips, used as pixels: far outside the window.
   AM3.Left = Width();
   AM3.Top = Height();
   AM2.Left = AM3.Left();

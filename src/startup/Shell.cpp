@@ -19,7 +19,7 @@ void Shell::Run() {
     modMain.Main();
     host.Loop().RunUntil([] { return false; });
   } catch (const ProgramEnd&) {
-    // The forms go with the shell.
+    // The shell destroys the forms.
   }
 }
 

@@ -22,7 +22,8 @@
 
 namespace orvanta {
 
-/// The whole program: the modules' state and the forms by name. Several can live side by side.
+/// The whole program: the state of the modules, and the forms by name. Several shells can exist in one
+/// process.
 class Shell {
  public:
   explicit Shell(Host& host);
@@ -30,9 +31,9 @@ class Shell {
   /// Runs until the program ends.
   void Run();
 
-  /// The file or folder that a path of the disc leads to; empty if there is none.
+  /// The file or folder that a path of the disc leads to; empty if it does not exist.
   std::filesystem::path HostFile(const std::string& path) const { return ini.Drive().Find(path).path; }
-  /// Null if the path leads to no picture.
+  /// Null if the path does not lead to a picture.
   PicturePtr LoadPicture(const std::string& path) { return host.LoadPicture(HostFile(path)); }
 
   using StripSlot = FormSlot<frmDociag, Shell, EdgeStrip>;
@@ -57,7 +58,7 @@ class Shell {
   FormSlot<orvanta::frmShowPic, Shell> frmShowPic{*this};
   FormSlot<orvanta::frmKino, Shell> frmKino{*this};
 
-  /// The five strips, in the order in which they are shown and lifted.
+  /// The five strips, in the order in which they are shown and raised.
   std::array<StripSlot*, 5> Strips() {
     return {&frmDociagLewo, &frmDociagGora, &frmDociagPrawo1, &frmDociagPrawo2, &frmDociagPrawo3};
   }

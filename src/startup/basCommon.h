@@ -8,22 +8,22 @@ namespace orvanta {
 
 class Shell;
 
-/// What the forms share.
+/// State and actions that the forms share.
 class basCommon {
  public:
   explicit basCommon(Shell& shell) : shell_(shell) {}
 
-  /// Sound can be heard; found out by the start screen.
+  /// Whether sound can be played; the start screen finds out.
   bool SoundCardOK = false;
-  /// The user's sound switch.
+  /// Whether the user has the sound switched on.
   bool SoundWanted = false;
-  /// The background player holds a file and has been parked.
+  /// Whether the background player has a file and has been paused, ready to play.
   bool MusicLoaded = false;
-  /// What the window about to open is to show: the film's file for `frmKino`, the index of a picture for
+  /// What the window about to open shows: the film's file for `frmKino`, the index of a picture for
   /// `frmShowPic`.
   std::variant<std::monostate, std::string, std::int16_t> ShowArg;
 
-  /// Lifts the edge strips and then the main window, which is left on top and active.
+  /// Raises the edge strips and then the main window, which ends up on top and active.
   void DociagToFront();
 
  private:

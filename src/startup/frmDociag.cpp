@@ -24,7 +24,7 @@ void frmDociag::Form_Load() {
   PlaceForm();
 }
 
-/// As long as the gap between the main window and the edge of the screen, as thick as the tab.
+/// As long as the gap between the main window and the edge of the screen, and as thick as the tab.
 void frmDociag::SizeImage() {
   const MainForm& main = *shell_.MainForm;
   switch (strip_.side) {

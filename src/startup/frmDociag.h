@@ -8,8 +8,8 @@ namespace orvanta {
 
 class Shell;
 
-/// One of the five strips: the side of the main window that it runs from, and how many pixels from that
-/// window's upper edge (from its left one for the strip at the top).
+/// One of the five strips: the side of the main window where it starts, and its distance in pixels from the
+/// window's upper edge (for the strip at the top, from its left edge).
 struct EdgeStrip {
   enum class Side { Left, Top, Right };
   const char* name;
@@ -18,7 +18,7 @@ struct EdgeStrip {
   int offset;
 };
 
-// The digits of the keys run downwards, those of the forms upwards.
+// The numbers of the keys count from top to bottom, those of the forms from bottom to top.
 inline constexpr EdgeStrip kDociagLewo{"frmDociagLewo", {"GLOBAL", "LeftPic"}, EdgeStrip::Side::Left, 137};
 inline constexpr EdgeStrip kDociagGora{"frmDociagGora", {"GLOBAL", "UpperPic"}, EdgeStrip::Side::Top, 208};
 inline constexpr EdgeStrip kDociagPrawo1{
@@ -29,7 +29,7 @@ inline constexpr EdgeStrip kDociagPrawo3{
     "frmDociagPrawo3", {"GLOBAL", "RightPic1"}, EdgeStrip::Side::Right, 314};
 
 /// A strip from a tab of the main window's outline to the edge of the screen: one stretched picture. It takes
-/// its place from the main window when it is loaded. A click lifts the whole group.
+/// its position from the main window when it is loaded. A click on it raises the whole group.
 class frmDociag : public Form {
  public:
   frmDociag(Shell& shell, const EdgeStrip& strip);

@@ -10,7 +10,7 @@ namespace orvanta {
 
 class Shell;
 
-/// The start screen: a picture, a strip under it and a voice. It finds out whether sound can be played.
+/// The start screen: a picture, a strip below it and a voice. It finds out whether sound can be played.
 class frmReklama : public Form {
  public:
   explicit frmReklama(Shell& shell);

@@ -5,7 +5,7 @@ namespace orvanta {
 class Form;
 class Shell;
 
-/// Whether the program is the one that the user works with.
+/// Whether the user is working with this program.
 class modActiveWindow {
  public:
   explicit modActiveWindow(Shell& shell) : shell_(shell) {}
@@ -13,8 +13,8 @@ class modActiveWindow {
   /// The result of the last `CheckActive`.
   bool AppActive = false;
 
-  /// The active window is the main window (not minimised), an edge strip or the picture viewer. The cinema
-  /// window does not count.
+  /// Whether the active window is the main window (not minimised), an edge strip or the picture viewer. The
+  /// cinema window does not count.
   bool CheckActive();
 
  private:

@@ -8,7 +8,7 @@ namespace orvanta {
 
 namespace {
 
-// Clockwise from the left end of the top tab, in pixels of the window.
+// Clockwise from the left end of the top tab, in window pixels.
 // clang-format off
 constexpr std::array<Point, 306> kOutline{{
     {208, 0}, {413, 0}, {413, 11}, {414, 12}, {421, 12}, {422, 11}, {428, 11}, {429, 12},

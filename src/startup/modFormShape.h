@@ -10,7 +10,7 @@ class Form;
 /// a window of 667 by 496.
 Region BuildFormRegion();
 
-/// What lies outside the outline is no part of the window: it is not drawn and takes no clicks.
+/// Cuts the form to the outline: what lies outside is not drawn and takes no clicks.
 void ApplyFormShape(Form& form);
 
 }  // namespace orvanta

@@ -7,7 +7,7 @@
 namespace orvanta {
 namespace {
 
-/// A system with a registry of components, as far as the control files see it: files are names with versions.
+/// A fake of a system with a registry of components: its files are names with versions.
 struct FakeSystem : ControlFilesHost {
   std::string SystemDirectory() override { return "C:"; }
   bool CanRead(const std::string& path) override { return files.contains(path); }
@@ -43,7 +43,7 @@ struct ControlFiles : testing::Test {
   }
 };
 
-// A second copy of a file that has just arrived would fail while its registrar already has it open.
+// If a file were copied twice, the second copy would fail, since its registrar already has it open.
 TEST_F(ControlFiles, WhatIsMissingOrOlderIsCopiedOnceAndRegisteredBeforeTheNextIsLookedAt) {
   host.files = {{"D:\\COMCT232.OCX", Version(5, 0)},
                 {"D:\\COMCTL32.OCX", Version(5, 0)},

@@ -1,4 +1,4 @@
-// From the start screen to the leave-taking: the windows, their places and their order.
+// From the start screen to the farewell: the windows, their positions and their order.
 
 #include "support/Story.h"
 
@@ -8,7 +8,7 @@ namespace {
 constexpr const char* kGroup = "Lewo Gora Prawo1 Prawo2 Prawo3 Main ";
 
 struct MainWindow : Story {
-  /// The visible windows, from the bottom of the screen to its top.
+  /// The visible windows, from bottom to top.
   std::string Look() override {
     Shell& s = user.shell;
     const std::pair<const Form*, const char*> forms[] = {
@@ -25,7 +25,8 @@ struct MainWindow : Story {
 };
 
 TEST_F(MainWindow, FollowsTheStartScreenAtItsSecondTickWhenTheVoiceHasEnded) {
-  /// Sound card, the voice's seconds (0 for no file), the picture and when the main window takes over.
+  /// Whether there is a sound card, the length of the voice in seconds (0 for no file), the picture, and when
+  /// the main window takes over.
   const std::tuple<bool, double, std::string, int> cases[] = {
       {false, 5, "startpic.gif", 1000}, {true, 0, "startpic.gif", 1000}, {true, 2.2, "startpic.gif", 2500},
       {true, 2, "startpic.gif", 2000},  {false, 0, "none.gif", 1000},    {true, 5, "", 500}};
@@ -45,7 +46,7 @@ TEST_F(MainWindow, FollowsTheStartScreenAtItsSecondTickWhenTheVoiceHasEnded) {
     shell.Run(1);
     EXPECT_EQ(shell.shell.frmReklama.Loaded(), nullptr);
     EXPECT_TRUE(shell.host.WindowOf(shell.Main()).visible);
-    EXPECT_EQ(shell.host.Now(), handOver + 500 + 500 + 1000) << "two fonts and the menu";
+    EXPECT_EQ(shell.host.Now(), handOver + 500 + 500 + 1000) << "pauses for two fonts and the menu";
   }
 }
 
@@ -81,7 +82,7 @@ TEST_F(MainWindow, TakesLeaveInOrderAndLeavesASecondShellAlone) {
   second.Do("start");
   user.Do("start");
   user.host.fonts.clear();
-  Expect(1500, kGroup);  // all stands while the exit voice has its two seconds
+  Expect(1500, kGroup);  // everything stays while the exit voice has its two seconds
   After(1500, [&] { EXPECT_TRUE(user.host.fonts.empty()); });
   const std::size_t calls = user.host.playerCalls.size();
   Tell({{"click Exit", "Main "}});
