@@ -1,4 +1,4 @@
-// The detail view of an entry, which lies under picTlo.
+// The detail view of an entry. Its controls lie below picTlo in the stacking order.
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-// What follows the cursor and the clock: the tick, the hover box and the crosshair.
+// What depends on the cursor and the clock: the tick, the hover box and the crosshair.
 
 #include <cmath>
 
@@ -73,9 +73,9 @@ void MainForm::Strzal(std::int16_t Index) {
     line.Place(-1, -1, -1, -1);
     line.Visible = true;
   });
-  // The number of steps is settled at the click; where they lead to follows the cursor.
+  // The click fixes the number of steps; their target follows the cursor.
   for (std::int32_t j = 0, last = MouseX; j <= last; j += 10) {
-    // At the left edge there is no way to go: the first step stands at the top.
+    // At the left edge there is no distance to cover, and the first step is drawn at the top.
     const double r = MouseX > 0 ? static_cast<double>(j) / MouseX : 0;
     draw(j, std::floor(r * MouseY));
     shell_.host.Loop().Pump();

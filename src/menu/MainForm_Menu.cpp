@@ -1,4 +1,4 @@
-// The tree of menus: a list of labels for the current node, and the ways down and up.
+// The menu tree: a list of labels for the current node, and the ways down and up.
 
 #include "config/NumberedKey.h"
 #include "startup/Shell.h"
@@ -102,7 +102,7 @@ void MainForm::lblPos1_Click(std::int16_t Index) {
   selected_ = static_cast<std::int16_t>(Index + 1);
   PlayRandomSoundFile("Button", true);
   Strzal(Index);
-  // The crosshair pumps: the list may have been rebuilt under it.
+  // Strzal pumps events, so the list may have been rebuilt meanwhile.
   if (Index > lblPos1.UBound()) return;
   const std::string caption = lblPos1(Index).Caption;
   if (IleMenu(caption) > 0) {

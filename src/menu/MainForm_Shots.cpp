@@ -1,4 +1,4 @@
-// The screenshots of an entry: what their slider shows and scrolls, and the way to the viewer.
+// The screenshots of an entry: their slider, and opening the viewer.
 
 #include "startup/Shell.h"
 
@@ -17,7 +17,7 @@ void MainForm::SSuwakInit() {
                               .yMin = {"SHOTSLIDER", "YMin"},
                               .yMax = {"SHOTSLIDER", "YMax"},
                               .yStep = {"SHOTSLIDER", "YStep"}});
-  // The space above the first picture comes back below the last one.
+  // The space above the first picture is repeated below the last one.
   slider.SetRange(CLng(bottom - picShotTlo.Height + 6));
 }
 

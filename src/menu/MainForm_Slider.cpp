@@ -1,4 +1,4 @@
-// What the slider of lists and pages shows and scrolls.
+// The slider of lists and pages: when it is shown and what it scrolls.
 
 #include <cmath>
 
@@ -37,7 +37,7 @@ void MainForm::ScrollList() {
     return;
   }
   const double offset = static_cast<double>(slider.SuwakScale) * slider.SuwakPos;
-  // An entry opened while the music faded may have put the places of its screenshots there.
+  // If an entry was opened while the music faded, PosTop may belong to its screenshots.
   for (int i = 0; i <= lblPos1.UBound() && static_cast<std::size_t>(i) < PosTop.size(); ++i) {
     Label& label = lblPos1(i);
     label.Top = std::floor(PosTop[static_cast<std::size_t>(i)] - offset);

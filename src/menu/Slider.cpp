@@ -81,7 +81,7 @@ void Slider::MoveKnob(const Knob& knob, std::int32_t step) {
   SuwakY = beyond ? (up ? YMin : YMax) : static_cast<std::int32_t>(wanted);
   if (beyond) SuwakDir = -1;
   knob.image.Top = SuwakY;
-  // Before the content moves.
+  // The user sees the knob move before the content.
   knob.image.Refresh();
   SuwakPos = CLng(static_cast<double>(SuwakY) - YMin);
 }

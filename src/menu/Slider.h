@@ -11,21 +11,21 @@ class Image;
 class Shell;
 struct MouseEvent;
 
-/// The knobs that the user drags to scroll: one beside lists and pages, one beside screenshots. One set of
-/// variables serves both. The view on show decides which knob is live, and each `SuwakInit` overwrites the
-/// set. Lengths are pixels.
+/// The knobs that the user drags to scroll: one for lists and pages, one for screenshots. Both share one set
+/// of variables. The current view decides which knob is in use, and each `SuwakInit` overwrites the
+/// variables. Lengths are in pixels.
 class Slider {
  public:
-  /// Where a knob's settings stand.
+  /// The keys of a knob's settings.
   struct Keys {
     KeyRef<Kind::Picture> picture;
     KeyRef<Kind::Double> left, yMin, yMax, yStep;
   };
-  /// One of the two knobs, with its bar and what it scrolls.
+  /// One of the two knobs, with its bar and the content that it scrolls.
   struct Knob {
     Image& image;
     Image& bar;
-    std::function<void()> scroll;  ///< brings the content to where `SuwakPos` is
+    std::function<void()> scroll;  ///< moves the content to match `SuwakPos`
     std::int16_t LastPos = 0;      ///< `SuwakPos` at the last scroll; new content does not reset it
   };
 
@@ -34,21 +34,21 @@ class Slider {
   std::int32_t YMin = 0, YMax = 0;
   std::int16_t YStep = 0;
   std::int32_t SuwakY = 0, SuwakPos = 0, SuwakRange = 0;
-  float SuwakScale = 0;         ///< pixels of the content for one of the knob; 0 means nothing to scroll
+  float SuwakScale = 0;         ///< pixels of content per pixel of the knob; 0 if nothing scrolls
   std::int16_t SuwakDir = -1;   ///< 0 up, 1 down, -1 none
-  std::int32_t SuwakGrab = -1;  ///< cursor's y less the knob's top at the press, -1 while none is held
+  std::int32_t SuwakGrab = -1;  ///< the cursor's y minus the knob's top at the press; -1 if no knob is held
   bool SuwakDrag = false;
 
   /// Lets the user drag the knob. `knob` must live as long as the slider.
   void Attach(Knob& knob);
-  /// Reads the knob's settings and shows it with its bar at the start of the travel. A pixel of
-  /// the knob moves the content by one until `SetRange`.
+  /// Reads the knob's settings and shows the knob and its bar, at the start of the travel. Until `SetRange`
+  /// is called, a pixel of the knob moves the content by one pixel.
   void SuwakInit(const Knob& knob, const Keys& keys);
-  /// Sets by how many pixels the content overflows. Without a travel nothing scrolls.
+  /// Sets by how many pixels the content overflows. If the knob cannot travel, nothing scrolls.
   void SetRange(std::int32_t overflow);
-  /// There is nothing to scroll.
+  /// Sets that there is nothing to scroll.
   void SetNoRange();
-  /// Moves the knob `step` pixels in direction `SuwakDir`, within its travel, and the content with it.
+  /// Moves the knob by `step` pixels in direction `SuwakDir`, within its travel, and scrolls the content.
   void MoveSuwak(Knob& knob, std::int32_t step);
 
  private:

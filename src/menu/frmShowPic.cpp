@@ -9,7 +9,7 @@ frmShowPic::frmShowPic(Shell& shell)
       picPic(*this, "picPic"),
       lblTxt(*this, "lblTxt"),
       shell_(shell) {
-  // Large enough to be clicked away when there is no picture.
+  // Large enough to be clicked if there is no picture.
   picPic.Move(0, 0, 4800, 3600);
   lblTxt.Height = 240;
   lblTxt.Caption = "kliknij rysunek aby zniknął...  ";

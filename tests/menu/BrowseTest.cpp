@@ -1,4 +1,4 @@
-// The way through the tree of menus, the box under the cursor and the crosshair.
+// Moving through the menu tree, the box under the cursor and the crosshair.
 
 #include "support/Story.h"
 
@@ -14,7 +14,7 @@ struct Browse : Story {
     disc.Menu("Gry", {"Logiczne"});
     disc.Menu("Filmy", Names(12, "Gry"));
   }
-  /// The level, the node's name and what the middle shows: "1 Gry: Logiczne".
+  /// The level, the name of the node and what the centre shows: "1 Gry: Logiczne".
   std::string Look() override {
     std::string text = std::to_string(Main().MenuLevel);
     if (Main().imgKreska.Visible) text += " " + Main().lblBackTxt2.Caption();
@@ -24,7 +24,7 @@ struct Browse : Story {
     return text;
   }
   Point InMenu(int x, int y) { return {178 + 90 + x, 136 + 140 + y}; }
-  /// Moves the mouse and gives the upper edge of the box around a label then, -1 if there is none.
+  /// Moves the mouse and returns the upper edge of the box around a label; -1 if there is none.
   double BoxAt(int x, int y) {
     user.host.MoveMouse(InMenu(x, y));
     user.Run(100);
@@ -45,13 +45,13 @@ TEST_F(Browse, GoesDownBothFilesAndComesBackLevelByLevelOrInOneStep) {
         {"click Help", "2 (help)"},
         {"click imgBack", "1 Gry (help) Logiczne"},
         {"click imgPomoc", "1 Gry: Logiczne"},
-        {"choose 0, choose 1, choose 0", "4 Gry: Logiczne"},  // round in a circle, deeper than the disc says
+        {"choose 0, choose 1, choose 0", "4 Gry: Logiczne"},  // in a circle, deeper than MenuLevels allows
         {"choose 0, click ImgBack2", "4 Gry: Logiczne"}});
   disc.File("Data/Param.ini", "");
   Tell({{"click imgUp2", "0: Gry Muzyka Filmy"}});
 }
 
-TEST_F(Browse, GoesWhereTheUserGoesWhileTheMusicFallsSilentForAnEntry) {
+TEST_F(Browse, FollowsTheUserWhileTheMusicFadesForAnEntry) {
   disc.Menu("Gry", {"Film"});
   Tell({{"start, choose 0, hover lblPos10, after 900 click imgBack, click lblPos10, run 100", "1 Gry: Film"},
         {"hover lblPos10, after 900 click imgUp, click lblPos10, run 100", "0: Gry Muzyka Filmy"}});
@@ -64,19 +64,20 @@ TEST_F(Browse, GoesWhereTheUserGoesWhileTheMusicFallsSilentForAnEntry) {
 TEST_F(Browse, MarksAnInertLabelOnce) {
   user.Do("start, choose 1");
   EXPECT_EQ(Main().lblPos1(1).ForeColor(), 0x00FFFF);
-  EXPECT_EQ(Takes("hover lblPos11, click lblPos11"), 101) << "no crosshair for the marked label";
+  EXPECT_EQ(Takes("hover lblPos11, click lblPos11"), 101) << "a marked label gets no crosshair";
 }
 
 TEST_F(Browse, DrawsTheBoxAroundTheLabelUnderTheCursor) {
   user.Do("start, hover lblPos10");
-  // The label stands at 20, 10 and is 401 by 26; each line starts where the one before it ends.
+  // The label is at 20, 10 and is 401 by 26 pixels large; each line starts where the previous one ends.
   const Ends ends[] = {{18, 8, 422, 8}, {422, 8, 422, 35}, {422, 35, 18, 35}, {18, 35, 18, 8}};
   for (int i = 0; i < 4; ++i) EXPECT_EQ(EndsOf(Main().Line1(i)), ends[i]);
-  // All bounds belong to the label, with two rows below it; on a shared row the lower label wins.
+  // The edges belong to the label, and so do two rows below it; where two labels share a row, the lower one
+  // wins.
   const int places[][3] = {{20, 10, 8},  {421, 36, 8}, {421, 37, 35}, {422, 20, -1}, {20, 40, 35},
                            {19, 40, -1}, {20, 20, 8},  {20, 9, -1},   {20, 92, 62},  {20, 93, -1}};
   for (const auto& [x, y, box] : places) EXPECT_EQ(BoxAt(x, y), box) << x << ", " << y;
-  EXPECT_EQ(BoxAt(100, 92), 62) << "also when the cursor comes back to the label that it left";
+  EXPECT_EQ(BoxAt(100, 92), 62) << "also if the cursor returns to the label that it left";
   user.Do("choose 2");
   EXPECT_EQ(BoxAt(100, 52 + 8 * 27), 50 + 8 * 27);
   EXPECT_EQ(BoxAt(100, 52 + 9 * 27 + 5), -1) << "the tenth label ends below the menu area";
@@ -102,8 +103,8 @@ TEST_F(Browse, SweepsTheCrosshairToTheCursorBeforeAClickActs) {
   EXPECT_EQ(Look(), "1 Gry: Logiczne");
 }
 
-TEST_F(Browse, MeetsClicksInTheMiddleOfTheCrosshair) {
-  // A second label is not taken; the help page takes the list away.
+TEST_F(Browse, HandlesClicksDuringTheCrosshair) {
+  // A click on a second label is ignored; the help page replaces the list.
   Tell({{"start, hover lblPos10, after 5 click lblPos12, click lblPos10, run 2000", "1 Gry: Logiczne"},
         {"click imgUp, hover lblPos12, after 5 click Help, click lblPos12, run 2000", "0 (help)"}});
   EXPECT_FALSE(Main().Line2(0).Visible);

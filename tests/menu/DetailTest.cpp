@@ -1,4 +1,4 @@
-// The detail view of an entry: its texts, the strip of screenshots and the viewer.
+// The detail view of an entry: its texts, its screenshots and the viewer.
 
 #include <algorithm>
 
@@ -8,14 +8,14 @@ namespace orvanta::test {
 namespace {
 
 struct Detail : Story {
-  /// Where the knob and the first screenshot are.
+  /// The tops of the knob and of the first screenshot.
   std::string Look() override {
     const std::string text = std::to_string(Main().picShot(0).Top);
     return std::to_string(static_cast<int>(Main().imgSSuwak.Top)) + " " + text.substr(0, text.find('.') + 2);
   }
 };
 
-TEST_F(Detail, ShowsItsTextsAndNothingOfTheEntryBefore) {
+TEST_F(Detail, ShowsItsTextsAndNothingOfThePreviousEntry) {
   disc.Set("Gra", "Note", "Łamigłówka & zabawa");
   disc.Set("Gra", "System", "Pentium 90");
   disc.Set("Film", "Shot1", "brak.gif");
@@ -41,20 +41,20 @@ TEST_F(Detail, AFourthShotBringsTheSliderWhoseVariablesThePagesShare) {
   EXPECT_EQ(Main().imgSSuwak.Bounds(), (Rect{140, 200, 16, 20}));
   EXPECT_EQ(Main().picShot(3).Top + Main().picShot(3).Height, 253);
   Tell({{"drag imgSSuwak -400, drop, click Help", "20 6.0"}});
-  EXPECT_EQ(Main().slider.SuwakRange, 600 - 309) << "the tall page has set up the other one";
-  // The next entry begins at the top and remembers the last place of the knob: a move to where it stood
-  // before does not move the pictures.
+  EXPECT_EQ(Main().slider.SuwakRange, 600 - 309) << "set for the tall page";
+  // The next entry starts at the top but remembers the last position of the knob: a move to that very
+  // position does not move the pictures.
   Tell({{"click Help, drag imgSSuwak 40, drop", "60 -14.0"},
         {"click imgUp, choose 2", "20 6.0"},
         {"drag imgSSuwak 40, drop", "60 6.0"},
         {"drag imgSSuwak 1, drop", "61 -14.5"},
         {"click imgUp, choose 3, choose 0", "61 6.0"}});
-  EXPECT_EQ(Main().picShot.UBound(), 2) << "a run ends at its first gap";
-  EXPECT_EQ(Main().picShot(2).Bounds(), (Rect{7, 6 + 2 * 85, 123, 82})) << "the size of the design";
-  EXPECT_FALSE(Main().imgSSuwak.Visible()) << "three fill the frame";
+  EXPECT_EQ(Main().picShot.UBound(), 2) << "numbered keys end at the first gap";
+  EXPECT_EQ(Main().picShot(2).Bounds(), (Rect{7, 6 + 2 * 85, 123, 82})) << "whatever the size of the file";
+  EXPECT_FALSE(Main().imgSSuwak.Visible()) << "three fit into the frame";
 }
 
-TEST_F(Detail, TheViewerKeepsAReleaseThatTheMainWindowDoesNotMiss) {
+TEST_F(Detail, AReleaseLostToTheViewerDoesNotLeaveTheButtonHeld) {
   user.Do("start, choose 0, hover picShot0");
   user.host.Press(kRightButton);
   After(500, [&] { user.host.ReleaseUntold(kRightButton); });
@@ -69,9 +69,9 @@ TEST_F(Detail, TheViewerShowsThePictureThatIsThereAndTheTickGoesOn) {
   user.Do("after 800 hover Minimise, after 1000 click picPic");
   After(900, [&] {
     EXPECT_EQ(user.shell.frmShowPic->lblTxt.Caption(), "kliknij rysunek aby zniknął...  ");
-    EXPECT_EQ(user.host.pictures.size(), loads) << "nothing is read anew";
+    EXPECT_EQ(user.host.pictures.size(), loads) << "the picture is not read again";
     EXPECT_EQ(user.Looks({BarButton::Minimise}), "Minimise over")
-        << "the tick goes on: the viewer counts as active";
+        << "the tick goes on, since the viewer counts as active";
   });
   user.Do("click picShot0");
   EXPECT_TRUE(!user.shell.frmShowPic.Loaded() && !user.shell.modMain.ShowPicOpen && !user.ended);

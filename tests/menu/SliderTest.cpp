@@ -8,13 +8,14 @@ namespace orvanta::test {
 namespace {
 
 struct Slider : Story {
-  /// Eighteen labels from 15 on: the list ends at 500, 191 pixels below the menu area.
+  /// Eighteen labels, the first at 15: the list ends at 500, which is 191 pixels below the menu area.
   Slider() {
     disc.Menu("MAINMENU", Names(18, "Dalej"));
     disc.Menu("Dalej", Names(30, "Puste"));
     disc.Set("MENUITEM", "LabelPosY", "15");
   }
-  /// Where the knob and the first label are. Labels wholly between the limits are white, the others dim.
+  /// The tops of the knob and of the first label. Labels that lie wholly inside the area are white, all
+  /// others dim.
   std::string Look() override {
     const double upper = Main().MenuLevel == 0 ? 14 : 33;
     Main().lblPos1.ForEach([&](const Label& label) {
@@ -41,10 +42,10 @@ TEST_F(Slider, ScrollsTheListWithinItsLimitsAndStartsAgainAtTheTop) {
     EXPECT_EQ(PointerNow(), Pointer::ClosedHand);
   }
   Tell({{"drop", "40 15"}, {"drag imgSuwak 10, drop, hover imgSuwak", "50 5"}});
-  EXPECT_FALSE(Main().slider.SuwakDrag) << "a release beside the knob ends the drag";
+  EXPECT_FALSE(Main().slider.SuwakDrag) << "releasing the button outside the knob ends the drag";
   EXPECT_EQ(PointerNow(), Pointer::OpenHand);
   Main().lblPos1_Click(1);
-  // The place of the last list is remembered: a first move to the very same one leaves the labels.
+  // The last list's position is remembered: a first move to that very position does not move the labels.
   Tell({{"run 100", "40 62"}, {"drag imgSuwak 10", "50 62"}});
   Move(1);
   EXPECT_EQ(Look(), "51 31");
@@ -53,9 +54,9 @@ TEST_F(Slider, ScrollsTheListWithinItsLimitsAndStartsAgainAtTheTop) {
 TEST_F(Slider, ScrollsALongPageAndNothingThatFits) {
   disc.Set("SLIDER", "YMax", "242");
   user.Do("start, click Help, drag imgSuwak 101, drop");
-  EXPECT_EQ(Main().imgPomoc.Top(), -(101.0F * (291.0F / 202.0F))) << "no whole pixels here";
+  EXPECT_EQ(Main().imgPomoc.Top(), -(101.0F * (291.0F / 202.0F))) << "pages are not rounded to whole pixels";
   user.Do("click About");
-  EXPECT_FALSE(Main().imgSuwak.Visible) << "this page fits";
+  EXPECT_FALSE(Main().imgSuwak.Visible) << "this page is not taller than the area";
   Tell({{"click imgSeven", "40 15"}});
   EXPECT_TRUE(Main().imgSuwak.Visible);
   for (const int top : {13, 14}) {
@@ -66,12 +67,12 @@ TEST_F(Slider, ScrollsALongPageAndNothingThatFits) {
     TestShell shell(other);
     shell.Do("start, drag imgSuwak 50");
     EXPECT_EQ(shell.Main().imgSuwak.Visible(), top == 14) << "it overflows by one pixel";
-    EXPECT_EQ(shell.Main().imgSuwak.Top(), 40) << "there is no travel";
+    EXPECT_EQ(shell.Main().imgSuwak.Top(), 40) << "the knob cannot travel";
     EXPECT_EQ(shell.Main().lblPos1(5).Top(), top + 5 * 27);
   }
 }
 
-TEST_F(Slider, KeepsToTheWidestTravelThatADiscCanName) {
+TEST_F(Slider, SurvivesTheLargestNumbersThatADiscCanHave) {
   user.Do("start");
   auto& slider = Main().slider;
   slider.YMin = INT32_MIN;
