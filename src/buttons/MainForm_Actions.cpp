@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kCriticalBox = 16;
 
-// How long the pressed look of a button stands.
+// How long a button stays pressed.
 constexpr Milliseconds kSwitchPause = 300, kMinimisePause = 500;
 
 }  // namespace
@@ -25,7 +25,7 @@ void MainForm::Release(BarButton button) {
 }
 
 void MainForm::Drop() {
-  // None is latched while the exit voice plays, which a click can meet.
+  // While the exit voice plays, no button is latched, but the user can still click.
   if (PressedButton == BarButton::None) return;
   ButtonM(PressedButton).Picture = ImageList1(PictureEntry(PressedButton, ButtonPicture::Normal));
   ButtonM(PressedButton).Refresh();
@@ -85,7 +85,7 @@ void MainForm::SwitchSound(bool on) {
   soundOn.Visible = soundOn.Enabled = on;
   soundOff.Visible = soundOff.Enabled = !on;
   const BarButton there = on ? BarButton::SoundOn : BarButton::SoundOff;
-  // The cursor is on it.
+  // The cursor is over this button.
   ButtonM(there).Picture = ImageList1(PictureEntry(there, ButtonPicture::Over));
   soundOn.Refresh();
   soundOff.Refresh();
@@ -114,7 +114,7 @@ void MainForm::StartEntry() {
     Press(BarButton::Start);
     PlayRandomSoundFile("Exec", true);
     const bool started = shell_.modExec.ExecItem(entry);
-    // The cursor has left it for the button of the message box, where no tick has seen it.
+    // The cursor has left for the button of the message box, which no tick has noticed.
     Image& start = ButtonM(BarButton::Start);
     const bool left = !start.Bounds().Contains(shell_.modMouse.CursorPos());
     if (!started && left) start.Picture = ImageList1(PictureEntry(BarButton::Start, ButtonPicture::Normal));

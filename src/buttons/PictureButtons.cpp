@@ -23,7 +23,7 @@ void MainForm::ButtonsInit() {
     LoadButton(shell_, button, ImageList1, keys);
     button.Picture = ImageList1(keys.name);
   });
-  // Of the pair that is there which tells how the sound is.
+  // One of the two sound buttons is hidden, depending on whether there is a sound card.
   const BarButton hidden = shell_.basCommon.SoundCardOK ? BarButton::SoundOff : BarButton::SoundOn;
   ButtonM(hidden).Visible = ButtonM(hidden).Enabled = false;
 }

@@ -15,8 +15,8 @@ class Shell;
 enum class BarButton : std::int16_t {
   None = -1,
   Exit,
-  SoundOn,   ///< there while the sound is on; a click turns it off
-  SoundOff,  ///< there while the sound is off; a click turns it on
+  SoundOn,   ///< shown while the sound is on; a click turns it off
+  SoundOff,  ///< shown while the sound is off; a click turns it on
   Help,
   Start,
   Pause,
@@ -32,12 +32,11 @@ enum class KinoButton : std::int16_t {
   Play,
   Stop,
   Pause,
-  FullScreen,  ///< there while the film is in the window
-  Window       ///< there while the film has the whole screen
+  FullScreen,  ///< shown while the film is in the window
+  Window       ///< shown while the film fills the screen
 };
 
-/// The keys of a button's art and place, the name of its first picture in the form's `ImageList1`, and what
-/// it does in words, for screen readers.
+/// The keys of a button's art and position, and the name of its first picture in `ImageList1` of the form.
 struct ButtonKeys {
   KeyRef<Kind::Base> base;
   KeyRef<Kind::Whole> left, top;
@@ -69,15 +68,15 @@ inline constexpr std::array<ButtonKeys, 5> kKinoButtons{{
 /// The three pictures of a button.
 enum class ButtonPicture { Normal = 1, Over = 2, Pressed = 3 };
 
-/// The number of a button's picture in its form's `ImageList1`.
+/// The number of a button's picture in `ImageList1` of its form.
 constexpr int PictureEntry(int index, ButtonPicture picture) { return index * 3 + static_cast<int>(picture); }
 template <class Button>
 constexpr int PictureEntry(Button button, ButtonPicture picture) {
   return PictureEntry(static_cast<int>(button), picture);
 }
 
-/// Appends the button's three pictures to the list and puts the button in its place. The buttons of a form
-/// are loaded in the order of their `Index`.
+/// Appends the button's three pictures to the list and moves the button to its position. The buttons of a
+/// form must be loaded in the order of their `Index`.
 void LoadButton(Shell& shell, Image& button, ImageList& pictures, const ButtonKeys& keys);
 
 }  // namespace orvanta

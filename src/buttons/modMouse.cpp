@@ -7,7 +7,7 @@ namespace orvanta {
 
 namespace {
 
-/// The button at a position of `Controls`; null if there is none, as before the form's first activation.
+/// The button at a position in `Controls`; null if there is none, as before the first activation of the form.
 Image* ButtonAt(const Form& form, int position) {
   const auto& controls = form.Controls();
   if (position < 0 || static_cast<std::size_t>(position) >= controls.size()) return nullptr;
@@ -60,7 +60,7 @@ void modMouse::OverButton(std::int16_t slot, Form& form, std::string_view name, 
   }
   if (left && left->Index != pressed) show(*left, ButtonPicture::Normal);
   if (over) {
-    // The latched button is not entered: the slot goes on naming the one that was left.
+    // The latched button does not count as hovered: the slot keeps the one that the cursor left.
     if (over->Index == pressed) return;
     last = hit;
     show(*over, ButtonPicture::Over);

@@ -14,25 +14,25 @@ class Form;
 class Image;
 class Shell;
 
-/// The cursor, the waiting and the picture buttons.
+/// The cursor, waiting, and the picture buttons.
 class modMouse {
  public:
   explicit modMouse(Shell& shell) : shell_(shell) {}
 
-  /// The top left corner of the window whose buttons are being tracked, in pixels of the screen.
+  /// The upper left corner of the tracked window, in screen pixels.
   std::int32_t FormLeftPx = 0, FormTopPx = 0;
-  /// By slot: the position in the form's `Controls` of the button that counts as hovered, -1 for none.
+  /// For each slot, the position in `Controls` of the hovered button; -1 for none.
   std::array<std::int16_t, 201> LastOver{};
 
-  /// Makes `form` the window that is being tracked.
+  /// Makes `form` the tracked window.
   void Track(const Form& form);
-  /// The cursor in pixels of the tracked window.
+  /// The cursor relative to the tracked window, in pixels.
   Point CursorPos() const;
-  /// Pumps until more than `milliseconds` have passed.
+  /// Pumps events until more than `milliseconds` have passed.
   void Delay(std::int16_t milliseconds);
-  /// Finds the button of the array `name` under the cursor and gives it its over picture, and the one that
-  /// the cursor has left its normal one. Pictures are assigned at transitions alone; the button with the
-  /// index `pressed` is left as it is.
+  /// Finds the button of the array `name` under the cursor and shows its Over picture, and the Normal picture
+  /// of the button that the cursor has left. Pictures change only at these transitions. The button with the
+  /// index `pressed` keeps its picture.
   void OverButton(std::int16_t slot, Form& form, std::string_view name, const ImageList& pictures,
                   std::int16_t pressed);
 

@@ -1,4 +1,4 @@
-// The bar of ten: where it stands, how it follows the cursor and what it does.
+// The ten buttons of the bar: their positions, how they follow the cursor and what they do.
 
 #include <algorithm>
 
@@ -14,20 +14,21 @@ struct Buttons : Story {
     const std::string looks = user.Looks({BarButton::Start, BarButton::Pause, BarButton::Stop});
     return middle + ", " + NameOf(Main().PressedButton) + " latched" + (looks.empty() ? "" : ", ") + looks;
   }
-  /// The button that counts as hovered.
+  /// The hovered button.
   BarButton Hovered() {
     const int position = user.shell.modMouse.LastOver[0];
     if (position < 0) return BarButton::None;
     return BarButton{Main().Controls()[static_cast<std::size_t>(position)]->Index};
   }
-  /// The buttons that are there.
+  /// The visible buttons.
   static std::string There(TestShell& shell) {
     std::string names;
     for (std::int16_t i = 0; i < 10; ++i)
       if (shell.Button(i).Visible) names += NameOf(BarButton{i}) + " ";
     return names;
   }
-  /// Clicks a button, expects it to be painted pressed in one pause, and gives how long that is.
+  /// Clicks a button, expects it to be painted pressed during exactly one pause, and returns the length of
+  /// that pause.
   Milliseconds PressedFor(BarButton button) {
     Milliseconds pause = 0;
     user.host.OnSleep = [&] {
@@ -42,7 +43,7 @@ struct Buttons : Story {
   }
 };
 
-TEST_F(Buttons, TakePlacesFromTheDiscAndSizesFromTheirPicturesAndAreThereWhereNeeded) {
+TEST_F(Buttons, TakePositionsFromTheDiscAndSizesFromTheirPicturesAndAreShownWhenNeeded) {
   disc.Picture("hlp1.gif", 50, 60);
   disc.Remove("GLOBAL", "PokazB");
   const int lefts[] = {560, 480, 480, 400, 120, 170, 220, 440, 520, 300};
@@ -66,16 +67,16 @@ TEST_F(Buttons, TakePlacesFromTheDiscAndSizesFromTheirPicturesAndAreThereWhereNe
   }
 }
 
-TEST_F(Buttons, LeaveTheLatchedOneAlone) {
+TEST_F(Buttons, KeepTheLatchedOneAsItIs) {
   const std::tuple<const char*, std::string, BarButton> steps[] = {
       {"start, choose 1, hover Stop", "Stop pressed", BarButton::Stop},
       {"aside", "Stop pressed", BarButton::Stop},  // the slot keeps the latched button
       {"hover Start", "Start over, Stop pressed", BarButton::Start},
-      {"hover Stop", "Stop pressed", BarButton::Start},  // the slot goes on naming the one that was left
+      {"hover Stop", "Stop pressed", BarButton::Start},  // the slot keeps the button that was left
       {"aside", "Stop pressed", BarButton::None},
       {"hover Stop, aside", "Stop pressed", BarButton::Stop},
       {"click Start", "Start pressed", BarButton::Stop},
-      {"aside", "Start pressed", BarButton::None}};  // the latch has moved on
+      {"aside", "Start pressed", BarButton::None}};  // another button is latched now
   for (const auto& [act, looks, hovered] : steps) {
     user.Do(act);
     EXPECT_EQ(user.Looks({BarButton::Start, BarButton::Stop}), looks) << act;
@@ -83,19 +84,19 @@ TEST_F(Buttons, LeaveTheLatchedOneAlone) {
   }
 }
 
-TEST_F(Buttons, KeepALookUntilTheCursorLeavesAndStandStillBehindAnotherProgram) {
+TEST_F(Buttons, KeepALookUntilTheCursorLeavesAndDoNotChangeWhileAnotherProgramIsActive) {
   user.host.startResult = 2;
-  disc.Set("Piosenka", "Execute", "%:\\gra.exe");  // an entry with both keys is a program
+  disc.Set("Piosenka", "Execute", "%:\\gra.exe");  // with both keys, the entry is a program
   user.Do("start, choose 1, hover Start, click Start, run 1000");
   EXPECT_EQ(user.host.started.size(), 1U);
-  EXPECT_EQ(user.Looks({BarButton::Start}), "Start over") << "under the cursor when the box is gone";
+  EXPECT_EQ(user.Looks({BarButton::Start}), "Start over") << "under the cursor after the box has closed";
   user.Do("hover Exit, leave, run 1500, aside, return");
   EXPECT_EQ(user.Looks({BarButton::Start, BarButton::Exit}), "Exit over")
-      << "kept until the cursor has entered and left it once more";
+      << "kept until the cursor has entered and left it again";
   EXPECT_EQ(Hovered(), BarButton::None);
   user.host.messageHold = 1000;
   user.Do("hover Start, after 500 aside, click Start");
-  EXPECT_EQ(user.Looks({BarButton::Start}), "") << "left for the button of the message box";
+  EXPECT_EQ(user.Looks({BarButton::Start}), "") << "the cursor has left for the button of the message box";
 }
 
 TEST_F(Buttons, ShowThemselvesPressedWhileTheyAct) {
@@ -121,30 +122,30 @@ TEST_F(Buttons, ShowThemselvesPressedWhileTheyAct) {
   EXPECT_EQ(stop->time, before + 200) << "before any sound stops";
 }
 
-TEST_F(Buttons, OpenAndClosePagesInTurnOverAListAndAnEntry) {
+TEST_F(Buttons, OpenAndClosePagesOverAListAndAnEntry) {
   Tell({{"start, press Help", "help, none latched"},
         {"press About", "about, none latched"},
         {"press About", "list, none latched"},
         {"press Help, click imgPomoc", "list, none latched"},
         {"choose 0", "entry, none latched"},
         {"press About", "about, none latched"},
-        {"press Start", "about, none latched"},  // the page covers the entry
+        {"press Start", "about, none latched"},  // ignored, since the page covers the entry
         {"press About", "entry, none latched"}});
   EXPECT_TRUE(user.host.started.empty() && user.Button(BarButton::Start).Visible &&
               Main().picShot(0).Visible);
-  Tell(
-      {{"click imgUp, choose 1, press Help",
-        "help, Stop latched, Stop pressed"},  // the player has never had a file
-       {"press Help, press Start", "entry, Start latched, Start pressed"},
-       {"press Help, press About", "entry, Start latched, Start pressed"},  // only while the music is stopped
-       {"press Pause, press Help, press About", "entry, Pause latched, Pause pressed"},
-       {"press Stop, press About",
-        "about, none latched, Stop pressed"},  // the latch is gone, its look is not
-       {"hover Stop", "about, none latched, Stop over"},
-       {"aside, press About", "entry, Stop latched, Stop pressed"},
-       {"click imgUp, choose 2, press About, click Film", "about, none latched, Stop pressed"}});
+  Tell({{"click imgUp, choose 1, press Help",
+         "help, Stop latched, Stop pressed"},  // the player has never had a file
+        {"press Help, press Start", "entry, Start latched, Start pressed"},
+        {"press Help, press About",
+         "entry, Start latched, Start pressed"},  // pages open only while the music is stopped
+        {"press Pause, press Help, press About", "entry, Pause latched, Pause pressed"},
+        {"press Stop, press About",
+         "about, none latched, Stop pressed"},  // it is no longer latched but still looks pressed
+        {"hover Stop", "about, none latched, Stop over"},
+        {"aside, press About", "entry, Stop latched, Stop pressed"},
+        {"click imgUp, choose 2, press About, click Film", "about, none latched, Stop pressed"}});
   EXPECT_EQ(user.Looks({BarButton::Film}), "Film pressed");
-  EXPECT_FALSE(user.shell.frmKino.Loaded()) << "no film under a page";
+  EXPECT_FALSE(user.shell.frmKino.Loaded()) << "no film starts under a page";
 }
 
 TEST_F(Buttons, WithoutASoundCardTellTheUserAndPlayNothing) {
