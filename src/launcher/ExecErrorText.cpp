@@ -7,9 +7,9 @@
 namespace orvanta {
 namespace {
 
-/// The greatest number with which the document-open call reports a failure.
+/// The greatest result of the document-open call that means failure.
 constexpr std::int32_t LastFailure = 32;
-/// Failures without a number of their own show their code above this base, always a negative number.
+/// A failure without a number of its own shows its code plus this base, which is always negative.
 constexpr std::int32_t ObjectErrorBase = -2147220456;
 
 struct Failure {
@@ -29,10 +29,10 @@ constexpr std::array Failures = {
     Failure{26, 75, "Błąd prawa dostępu do pliku."},
     Failure{27, ObjectErrorBase + 27, "Podany typ pliku nie posiada przyporządkowanej aplikacji."},
     Failure{28, 286, "Przekroczono limit czasu dla próby otwarcia pliku. Spróbuj uruchomić go za chwilę."},
-    // The two blanks after "DDE." belong to the message.
+    // The two blanks after "DDE." are part of the message.
     Failure{29, 285,
             "Plik nie może być otwarty, z powodu błędu transakcji DDE.  Spróbuj uruchomić go za chwilę."},
-    // So does the spelling "aplkacja".
+    // And so is the spelling "aplkacja".
     Failure{
         30, 285,
         "Plik nie może być otwarty, bowiem przyporządkowana aplkacja jest zajęta. Spróbuj uruchomić go za "

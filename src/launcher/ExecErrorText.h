@@ -6,11 +6,11 @@
 
 namespace orvanta {
 
-/// What the user reads when the start of an entry's program has failed: the warning with its number, an empty
-/// line, and the message. Lines end with CR LF, the text is UTF-8.
+/// The message for a failed start of an entry's program: a warning with a number, an empty line, and the
+/// reason. Lines end with CR LF; the text is UTF-8.
 ///
-/// `code` is what the host's document-open call gave. Codes from 0 to 32 are failures; any other gives
-/// nothing.
+/// `code` is the result of the host's document-open call. Codes from 0 to 32 are failures; for any other
+/// there is no message.
 std::optional<std::string> ExecErrorText(std::int32_t code);
 
 }  // namespace orvanta

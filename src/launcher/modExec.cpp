@@ -34,8 +34,8 @@ bool modExec::ExecItem(const std::string& entry) {
 
 void modExec::WaitForProgram() {
   constexpr Milliseconds kPoll = 50;
-  // The tick looks for the active window. It stands still when the click has come while the music falls
-  // silent, and would not begin again before this wait is over; then the wait looks for itself.
+  // The tick looks for the active window. But if Start was clicked while the music fades, the tick stands
+  // still until this wait is over, so the wait has to look itself.
   const auto active = [this] {
     return shell_.MainForm->Timer1.Enabled ? shell_.modActiveWindow.AppActive
                                            : shell_.modActiveWindow.CheckActive();

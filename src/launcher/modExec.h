@@ -12,10 +12,10 @@ class modExec {
  public:
   explicit modExec(Shell& shell) : shell_(shell) {}
 
-  /// Opens the entry's file and holds the hourglass until the started program has taken the activation;
-  /// events are delivered meanwhile. A start that fails is told at once; false then.
+  /// Opens the entry's file, then shows the hourglass until the started program becomes active; events are
+  /// delivered meanwhile. If the start fails, reports it at once and returns false.
   bool ExecItem(const std::string& entry);
-  /// Tells the user of a failed start; `code` above 32 or below 0 is none.
+  /// Reports a failed start in a message box; does nothing if `code` is above 32 or below 0.
   void ExecError(std::int32_t code);
 
  private:

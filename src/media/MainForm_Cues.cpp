@@ -1,4 +1,4 @@
-// Cues and the voice at the exit. A cue is silent: its working effect is that it stops an entry's music.
+// Cues and the exit voice. A cue makes no sound; all that it does is to stop an entry's music.
 
 #include "config/NumberedKey.h"
 #include "startup/Shell.h"

@@ -1,4 +1,4 @@
-// The loop behind the menu and the marker of an entry's music.
+// The background music of the menu, and the marker of an entry's music.
 
 #include "media/AccessibleTime.h"
 #include "media/MarkerPlace.h"
@@ -8,7 +8,7 @@ namespace orvanta {
 
 namespace {
 
-// Nearly silent, not quite the end of the scale.
+// Nearly silent, but not the end of the scale. In hundredths of a decibel.
 constexpr std::int32_t kPauseVolume = -9640;
 
 }  // namespace
@@ -63,7 +63,7 @@ void MainForm::SoundOff() {
   SavedVolume = CInt(AM2.Volume());
   AM2.Volume(kPauseVolume);
   AM2.Pause();
-  // The player is left a second to fall silent while the window stays alive.
+  // Gives the player a second to fall silent, while the window still handles events.
   for (int i = 0; i < 100; ++i) {
     shell_.host.Loop().Pump();
     shell_.host.Sleep(10);

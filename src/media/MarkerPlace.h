@@ -8,8 +8,8 @@
 
 namespace orvanta {
 
-/// The marker's column for a position in a file, both in the same unit; nothing while the file's end is
-/// unknown.
+/// The left edge of the marker for a position in a file. Position and end are in the same unit; nothing while
+/// the end is not known.
 inline std::optional<std::int16_t> MarkerPlace(std::int16_t start, std::int16_t length, double position,
                                                double end) {
   const double place = start + length * position / end;

@@ -30,10 +30,10 @@ frmKino::frmKino(Shell& shell)
   Caption = "Orvanta - Kino";
   Picture1.AutoSize = true;
   Picture1.Move(0, 0, 9600, 7200);
-  // A button whose art is missing can still be clicked.
+  // So that a button whose art is missing can still be clicked.
   ButtonM.ForEach([](Image& button) { button.Move(0, 0, 32, 32); });
   ButtonM.Click = [this](std::int16_t Index) { ButtonM_Click(KinoButton{Index}); };
-  // The buttons lie under a film on the whole screen.
+  // A film that fills the screen covers the buttons.
   AM0.ScreenClick = [this] { ButtonM_Click(KinoButton::Window); };
 }
 
@@ -99,7 +99,7 @@ void frmKino::Form_Unload() {
 }
 
 void frmKino::Timer1_Timer() {
-  // The user can move the window.
+  // The user may have moved the window.
   shell_.modMouse.Track(*this);
   shell_.modMouse.OverButton(kSlot, *this, "ButtonM", ImageList1, static_cast<std::int16_t>(PressedButton));
   if (AM0.ReadyState() != ActiveMovie::kComplete) return;

@@ -24,7 +24,7 @@ class frmKino : public Form {
   Timer Timer1;
   ImageList ImageList1;
 
-  /// The latched button tells the state of the film; with none it has run to its end.
+  /// The latched button reflects the state of the film; None means that the film has run to its end.
   KinoButton PressedButton = KinoButton::Play;
 
   void Form_Load() override;
@@ -51,8 +51,8 @@ class frmKino : public Form {
   bool KinoPlaced = false;
 };
 
-/// Left or top edge, in pixels, of something `extent` pixels long that is centred on `middle`. Half of an odd
-/// extent is rounded to the even neighbour.
+/// The left or top edge, in pixels, of something `extent` pixels long that is centred on `middle`. Half of an
+/// odd extent is rounded to even.
 std::int16_t CentredEdge(std::int16_t middle, double extent);
 
 }  // namespace orvanta

@@ -1,4 +1,4 @@
-// Starting an entry's program, and what the user can do while its window is awaited.
+// Starting an entry's program, and what the user can do until its window appears.
 
 #include <map>
 
@@ -9,7 +9,7 @@ namespace orvanta::test {
 namespace {
 
 struct Launch : Story {
-  /// The level, how many programs have started, and whether the program waits and is active.
+  /// The level, how many programs have been started, and whether the shell waits and is active.
   std::string Look() override {
     return std::to_string(Main().MenuLevel) + "/" + std::to_string(user.host.started.size()) +
            (Hourglass() ? " waits" : "") + (user.shell.modActiveWindow.AppActive ? " active" : "");
@@ -20,14 +20,14 @@ TEST_F(Launch, HandsOverFileAndParametersAndWaitsForTheProgramsWindow) {
   user.Do("start, choose 0, after 5000 leave");
   Expect(4900, "1/1 waits active");
   Expect(5000 + 3 * 50, "1/1 waits");
-  EXPECT_LE(Takes("click Start"), 5000 + 1000 + 3 * 50) << "the music has fallen silent by then";
+  EXPECT_LE(Takes("click Start"), 5000 + 1000 + 3 * 50) << "the music has faded by then";
   EXPECT_EQ(Look(), "1/1");
   EXPECT_EQ(user.host.started[0].file, disc.Folder() / "gra.exe");
   EXPECT_EQ(user.host.started[0].parameters, "-a \"b c\"");
   EXPECT_TRUE(user.host.messages.empty());
 }
 
-TEST_F(Launch, TellsWhatIsThereAndOfEachFailureAtOnce) {
+TEST_F(Launch, HandsOverWhatExistsAndReportsEachFailureAtOnce) {
   using Status = StartRequest::Status;
   user.Do("start, choose 0");
   user.host.startResult = 32;
@@ -42,7 +42,7 @@ TEST_F(Launch, TellsWhatIsThereAndOfEachFailureAtOnce) {
   }
   user.host.startResult = -1;
   Tell({{"click Start", "1/4 active"}});
-  EXPECT_EQ(user.host.messages.size(), 3U) << "nothing is told of this one";
+  EXPECT_EQ(user.host.messages.size(), 3U) << "this one is not reported";
 }
 
 TEST_F(Launch, LetsTheUserStartGoBackMinimiseAndLeaveWhileItWaits) {
@@ -50,7 +50,7 @@ TEST_F(Launch, LetsTheUserStartGoBackMinimiseAndLeaveWhileItWaits) {
   Tell({{"after 500 click Start, after 1000 click imgBack, after 2000 leave, click Start", "0/2"},
         {"return, choose 0, after 1000 click Minimise, click Start", "1/3"},
         {"restore", "1/3 active"}});
-  // Within the second of the soft pause the tick that looks for the active window stands still.
+  // During the second in which the music fades, the tick that looks for the active window stands still.
   Tell({{"after 600 click Start, after 5000 leave, click SoundOn, run 6000", "1/4"}});
   EXPECT_TRUE(Main().Timer1.Enabled());
   user.Do("return, after 300 click Start, after 600 click Exit, click Start");
@@ -58,7 +58,7 @@ TEST_F(Launch, LetsTheUserStartGoBackMinimiseAndLeaveWhileItWaits) {
   EXPECT_EQ(user.Calls("exit1.wav"), "open");
 }
 
-// A number beside the wrong message, or a message lost, would send the user on the wrong track.
+// A number with the wrong message, or a missing message, would mislead the user.
 TEST(ExecErrorText, NamesEachFailureByItsNumberAndSaysNothingOfSuccess) {
   const std::map<int, int> numbers{{0, 7},   {2, 53},   {3, 76},   {5, 75},   {8, 7},
                                    {26, 75}, {28, 286}, {29, 285}, {30, 285}, {32, 48}};
@@ -76,7 +76,7 @@ TEST_F(Launch, TheNextClickAfterAMessageBoxCounts) {
   user.host.startResult = 2;
   user.host.messageHold = 400;
   user.Do("start, choose 0, after 700 click imgUp, click Start, run 100");
-  EXPECT_EQ(Main().MenuLevel, 0) << "though the music has been falling silent under the box";
+  EXPECT_EQ(Main().MenuLevel, 0) << "although the music was fading while the box was open";
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The loop behind the menu, the cues and the voice at the exit.
+// The background music, the cues and the exit voice.
 
 #include <set>
 
@@ -13,21 +13,21 @@ struct Loop : Story {
   }
 };
 
-TEST_F(Loop, FallsSilentSoftlyAndGoesOnFromTheSamePlace) {
+TEST_F(Loop, FadesAndGoesOnFromTheSamePlace) {
   user.Launch();
   while (user.Calls("loop.wav").empty()) user.Run(10);
   EXPECT_FALSE(user.shell.basCommon.MusicLoaded);
   Tell({{"run 60000", "heard"}});
   After(900, [&] { EXPECT_TRUE(Main().AM2.Volume() == -9640 && !Main().Timer1.Enabled()); });
   Expect(900, "silent");
-  EXPECT_NEAR(Takes("leave"), 1000, 100) << "a second, with events pumped";
+  EXPECT_NEAR(Takes("leave"), 1000, 100) << "a second in which events are pumped";
   const double held = Main().AM2.CurrentPosition();
   Tell({{"run 5000", "silent"}, {"return", "heard"}});
   EXPECT_NEAR(Main().AM2.CurrentPosition(), held, 0.15);
   EXPECT_EQ(user.Calls("loop.wav"), "open, pause, run, volume -9640, pause, volume 0, run");
 }
 
-TEST_F(Loop, IsHeardInMenusAndProgramsAndNotBesideOtherSound) {
+TEST_F(Loop, IsHeardInMenusAndProgramsButNotWithOtherSound) {
   Tell({{"start", "heard"}, {"choose 0", "heard"}});
   Expect(1800, "heard");  // in the viewer
   Tell({{"after 1900 click picPic, click picShot0", "heard"},
@@ -42,19 +42,19 @@ TEST_F(Loop, IsHeardInMenusAndProgramsAndNotBesideOtherSound) {
         {"after 500 click About, click SoundOn, run 2000", "silent"},
         {"leave, run 2000, return", "silent"},
         {"click SoundOff, run 100", "heard"}});
-  EXPECT_TRUE(Main().imgSeven.Visible) << "a click in the silent second is delivered";
+  EXPECT_TRUE(Main().imgSeven.Visible) << "a click during the fade is delivered";
   EXPECT_EQ(Main().AM2.Volume(), 0);
   user.host.Activate(*user.shell.frmDociagLewo);
   Tell({{"run 1500", "heard"}});
 }
 
-// Faults: a loop that is lost never comes back, or each tick tries for a second to silence it.
+// Faults: music that is lost and never comes back; each tick trying to fade it for a second.
 TEST_F(Loop, ComesBackAfterTheSoundServerOrTheFileIsLost) {
   Tell({{"start", "heard"}});
   user.host.RestartSoundServer();
   Tell({{"run 100", "silent"}});
-  EXPECT_NEAR(Takes("leave"), 1000, 100) << "held once";
-  EXPECT_NEAR(Takes("run 1000"), 1000, 20) << "the ticks go on meanwhile";
+  EXPECT_NEAR(Takes("leave"), 1000, 100) << "paused once";
+  EXPECT_NEAR(Takes("run 1000"), 1000, 20) << "then the ticks go on";
   Tell({{"return", "heard"}, {"run 4000, leave, run 1500", "silent"}});
   const double held = Main().AM2.CurrentPosition();
   user.host.RestartSoundServer();
@@ -66,10 +66,10 @@ TEST_F(Loop, ComesBackAfterTheSoundServerOrTheFileIsLost) {
   std::filesystem::remove(disc.Data() / "Sound/loop.wav");
   user.host.RestartSoundServer();
   Tell({{"run 100, leave, run 1500, return, run 100", "silent"}});
-  EXPECT_NEAR(Takes("run 1000"), 1000, 20) << "a loop that is gone stalls nothing";
+  EXPECT_NEAR(Takes("run 1000"), 1000, 20) << "lost music does not stall the ticks";
 }
 
-/// Leaves the program, twice, and gives the file that took leave.
+/// Leaves the program twice and returns the file of the farewell voice.
 std::string Farewell(const TestDisc& disc) {
   std::set<std::string> voices;
   for (int run = 0; run < 2; ++run) {
@@ -77,14 +77,14 @@ std::string Farewell(const TestDisc& disc) {
     user.Do("start");
     const Milliseconds before = user.host.Now();
     user.Do("click Exit");
-    EXPECT_EQ(user.host.Now() - before, 200 + 2001) << "whatever is heard";
+    EXPECT_EQ(user.host.Now() - before, 200 + 2001) << "whether a voice plays or not";
     voices.insert(user.host.playerCalls.back().file);
   }
-  EXPECT_EQ(voices.size(), 1U) << "one disc, one choice";
+  EXPECT_EQ(voices.size(), 1U) << "a disc always makes the same choice";
   return *voices.begin();
 }
 
-TEST_F(Loop, OneVoiceOfAGaplessRunTakesLeaveAlwaysTheSame) {
+TEST_F(Loop, OneOfTheExitVoicesIsHeardAndAlwaysTheSame) {
   std::set<std::string> chosen;
   for (const std::string n : {"2", "4", "3", "5", "6", "7", "8"}) {
     disc.Sound("exit" + n, 1);
@@ -92,7 +92,7 @@ TEST_F(Loop, OneVoiceOfAGaplessRunTakesLeaveAlwaysTheSame) {
     chosen.insert(Farewell(disc));
     EXPECT_FALSE(n == "4" && chosen.contains("exit4"));
   }
-  EXPECT_GE(chosen.size(), 2U) << "the choice depends on how many there are";
+  EXPECT_GE(chosen.size(), 2U) << "the choice depends on their number";
 }
 
 }  // namespace

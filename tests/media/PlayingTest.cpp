@@ -1,4 +1,4 @@
-// The music of an entry with its marker and its buttons, and the cinema.
+// The music of an entry with its marker and buttons, and the cinema.
 
 #include "media/MarkerPlace.h"
 #include "support/Story.h"
@@ -26,18 +26,19 @@ TEST_F(EntryMusic, GoesThroughItsStates) {
         {"press Pause", "Pause latched, paused, Pause pressed"}});
   const double held = At(), marker = Marker();
   Tell({{"run 3000, press Start", "Start latched, playing, Start pressed"}});
-  EXPECT_TRUE(At() > held && At() < held + 0.25 && Marker() <= marker + 3) << "it stood still";
+  EXPECT_TRUE(At() > held && At() < held + 0.25 && Marker() <= marker + 3) << "paused, it does not move";
   Tell({{"press Stop", "Stop latched, stopped, Stop pressed"}});
   EXPECT_EQ(Marker(), 120);
   EXPECT_EQ(user.Calls("song.wav"), "open, position 0.000000, run, pause, run, stop");
   Tell({{"press Start", "Start latched, playing, Start pressed"}});
-  EXPECT_NEAR(At(), 0.2, 0.1) << "loaded anew";
+  EXPECT_NEAR(At(), 0.2, 0.1) << "loaded again";
   Tell({{"press Pause, press Stop", "Stop latched, stopped, Stop pressed"},
         {"press Start, click imgUp", "none latched, stopped, Start pressed"}});
   Tell({{"choose 3, choose 0, aside", "Stop latched, stopped, Stop pressed"},
         {"press Start", "Start latched, playing, Start pressed"},
         {"press Stop", "Stop latched, stopped, Stop pressed"}});
-  EXPECT_EQ(user.Calls("second.wav"), "open, position 0.000000, run, stop") << "the next entry loads its own";
+  EXPECT_EQ(user.Calls("second.wav"), "open, position 0.000000, run, stop")
+      << "the next entry loads its own file";
   disc.Set("VOICES", "Tool0", "x.wav");
   Tell({{"press About", "none latched, stopped, Stop pressed"}});
   EXPECT_EQ(user.Calls("x.wav"), "") << "a cue plays nothing and resets the latch";
@@ -45,10 +46,11 @@ TEST_F(EntryMusic, GoesThroughItsStates) {
 
 TEST_F(EntryMusic, MovesItsMarkerFromEndToEndAndBack) {
   Tell({{"start, choose 1, press SoundOn, press Start, run 9800", "Start latched, playing, Start pressed"}});
-  EXPECT_EQ(Main().AM2.CurrentState(), ActiveMovie::kPaused) << "the switch is for the loop alone";
+  EXPECT_EQ(Main().AM2.CurrentState(), ActiveMovie::kPaused)
+      << "the switch is for the background music alone";
   EXPECT_NEAR(Marker(), 120 + 200 * 0.5, 2);
   user.Do("leave, run 5000");
-  EXPECT_NEAR(Marker(), 120 + 200 * 0.75, 12) << "it goes on behind another program's window";
+  EXPECT_NEAR(Marker(), 120 + 200 * 0.75, 12) << "it goes on while another program is active";
   Tell({{"run 5200", "Stop latched, stopped, Stop pressed"}});
   EXPECT_EQ(Marker(), 120);
   EXPECT_EQ(MarkerPlace(320, -200, 5, 20), 270);
@@ -63,13 +65,14 @@ TEST_F(EntryMusic, WaitsForASlowFileWhileTheUserGoesOn) {
   Expect(500, "Stop latched, playing, Start pressed, Stop pressed");
   Expect(900, "Stop latched, playing, Stop pressed");
   EXPECT_NEAR(Takes("click Start"), 1500, 60);
-  // Latched with the look that the hover left; twice started it takes that look back itself.
+  // Start is latched but shows the picture for a cursor that has left; a second click makes it look pressed
+  // again.
   Tell({{"run 0", "Start latched, playing"},
         {"press Stop, after 700 click Start, click Start", "Start latched, playing"}});
   EXPECT_TRUE(user.Calls("song.wav").ends_with("stop, open, position 0.000000, run, position 0.000000, run"));
   Tell({{"press Stop, after 700 click Pause, click Start, aside", "Start latched, playing, Start pressed"},
         {"press Stop, after 700 click imgUp, click Start, aside",
-         "Start latched, playing, Stop pressed"},  // left, it still plays
+         "Start latched, playing, Stop pressed"},  // it still plays after the user has left
         {"choose 0", "none latched, stopped, Stop pressed"}});
 }
 
@@ -81,9 +84,8 @@ TEST_F(EntryMusic, GivesUpOnAFileThatDoesNotOpenAfterTwoSeconds) {
         {"click imgUp", "none latched, no file, Start over"}});
   Tell({{"choose 3, choose 0, press Start", "Start latched, playing, Start pressed"},
         {"click imgUp, choose 1, aside", "Stop latched, stopped, Stop pressed"}});
-  Tell(
-      {{"press Start",
-        "Stop latched, stopped, Stop pressed"}});  // after an earlier file it looks like the end of the music
+  Tell({{"press Start", "Stop latched, stopped, Stop pressed"}});  // after an earlier file this looks like
+                                                                   // the end of the music
   EXPECT_TRUE(user.host.messages.empty());
 }
 
@@ -104,9 +106,9 @@ struct Cinema : Story {
     if (WholeScreen()) return text + ", whole screen";
     return text + (Kino().AM0.Left() >= Kino().Width() ? ", aside" : "");
   }
-  /// Something to click, so long after the step before it, and what is seen a moment later.
+  /// The pause before a step in milliseconds, what is clicked, and what is seen a moment later.
   using Step = std::tuple<int, std::string, std::string>;
-  /// Opens the film of the entry, takes the steps and closes the window by its stop button.
+  /// Opens the film of the entry, takes the steps and closes the window with its stop button.
   void Watch(std::initializer_list<Step> steps) {
     int at = 1001;
     for (const auto& [after, what, seen] : steps) {
@@ -119,23 +121,23 @@ struct Cinema : Story {
   }
 };
 
-TEST_F(Cinema, OpensPlayingAndPutsTheFilmOnItsPlaceWithTheNextTick) {
+TEST_F(Cinema, OpensPlayingAndPlacesTheFilmAtTheNextTick) {
   user.host.media["film.avi"].film = {15, 13};
   user.Do("start, choose 2");
   Expect(1011, "Play latched, playing, Play pressed, aside");
   After(1250, [&] {
-    // Half of an odd size goes to the even neighbour: 7.5 is 8, 6.5 is 6.
+    // Half of an odd size is rounded to even: 7.5 to 8, and 6.5 to 6.
     EXPECT_EQ(Kino().AM0.Bounds(), (Rect{300 - 8, 200 - 6, 15, 13}));
     user.host.OnSleep = [&] {
       EXPECT_EQ(Look(), "Stop latched, playing, Play pressed, Stop pressed")
-          << "seen pressed before it closes";
+          << "the button is seen pressed before the window closes";
     };
   });
   Watch({});
   EXPECT_EQ(user.host.sleeps.back().duration, 100);
 }
 
-TEST_F(Cinema, PausesPlaysOnFillsTheScreenAndStandsAtTheEnd) {
+TEST_F(Cinema, PausesResumesFillsTheScreenAndStopsAtTheEnd) {
   user.Do("start, choose 2");
   for (const int delay : {4700, 6000}) After(1001 + delay, [&] { user.host.Click({5, 5}); });
   Watch({{2000, "kinoPause", "Pause latched, paused, Pause pressed"},
@@ -150,15 +152,17 @@ TEST_F(Cinema, PausesPlaysOnFillsTheScreenAndStandsAtTheEnd) {
   const std::size_t before = user.host.playerCalls.size();
   Watch({{2500, "kinoPause", "none latched, stopped, Pause over"},
          {300, "kinoPlay", "Play latched, playing, Play pressed"}});
-  EXPECT_EQ(user.Calls("film.avi", before), "open, run, stop, stop") << "played again without a new file";
+  EXPECT_EQ(user.Calls("film.avi", before), "open, run, stop, stop")
+      << "it is played again without being opened again";
 }
 
 TEST_F(Cinema, ALargeFilmTakesTheClicksAboveTheButtonsAndFillsTheScreenInOneDimension) {
   user.host.screen = {1920, 1080};
   user.host.media["film.avi"].film = {854, 480};
   user.Do("start, choose 2, after 2000 click kinoPause, after 3000 close");
-  Expect(2250,
-         "Play latched, playing, Play pressed, Pause over");  // looks go by the place of the cursor alone
+  Expect(
+      2250,
+      "Play latched, playing, Play pressed, Pause over");  // looks depend only on the position of the cursor
   After(2500, [&] {
     Kino().ButtonM_Click(KinoButton::FullScreen);
     EXPECT_EQ(WholeScreen()->Look().strokes.back().whole, (Rect{0, 0, 1920, 1079}));
@@ -170,7 +174,7 @@ TEST_F(Cinema, WaitsForASlowFilmAndLeavesTheMainWindowAlone) {
   user.host.media["film.avi"].loadDelay = 700;
   user.Do("start, choose 2, after 2000 hover kinoStop, after 2500 click Exit");
   Expect(1400, "Play latched, playing, Play pressed, aside");
-  After(1900, [&] { Kino().Left = Kino().Left + 1500; });  // the buttons go with the window
+  After(1900, [&] { Kino().Left = Kino().Left + 1500; });  // the buttons move with the window
   Expect(2450, "Play latched, playing, Play pressed, Stop over");
   Expect(2750, "Play latched, playing, Play pressed");
   After(2750, [&] { EXPECT_EQ(user.Looks({BarButton::Exit, BarButton::Film}), ""); });
@@ -178,7 +182,7 @@ TEST_F(Cinema, WaitsForASlowFilmAndLeavesTheMainWindowAlone) {
   EXPECT_EQ(user.host.windows.size(), 6U) << "closed on the whole screen too";
   disc.Set("Film", "Parameters", "%:\\brak.avi");
   Watch({{3000, "kinoPlay",
-          "Play latched, no file, Play pressed, aside"}});  // one that does not open can only be closed
+          "Play latched, no file, Play pressed, aside"}});  // a film that cannot be opened can only be closed
   EXPECT_FALSE(user.ended) << "the main window takes no clicks";
 }
 
