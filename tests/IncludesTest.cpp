@@ -12,18 +12,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A room, as its files' paths begin, which of our headers it may include and which of others.
+/// A room: the start of its files' paths, which of our headers it may include, and which others.
 struct Room {
   std::string begin, ours, others;
 };
 
-/// What the core takes from the system beside the C++ library; libintl.h is the C library's way to messages
-/// in the language of the user. Think twice before adding to it.
+/// The system headers that the core may use beside the standard library. libintl.h belongs to the C library
+/// and translates messages. Think twice before you add one.
 const std::string kStandard =
                       "[a-z_]+|libintl\\.h|fcntl\\.h|unistd\\.h|sys/stat\\.h|sys/types\\.h|immintrin\\.h",
                   kShell = "platform|config|startup|menu|buttons|media|launcher",
                   kLogic = "(" + kShell + ")/\\w+\\.h";
-/// The first that fits decides.
+/// The first match counts.
 const Room kRooms[] = {
     {"apps/", ".*", ".*"},
     {"src/disctool/image/", "disctool/(image/|disc/)?\\w+\\.h|platform/desktop/Descriptor\\.h|" + kLogic,
@@ -44,7 +44,7 @@ const Room kRooms[] = {
     {"src/config/", "(platform|config)/\\w+\\.h", kStandard},
     {"src/", kLogic, kStandard}};
 
-/// The includes in the text of a file that its room must not have.
+/// The includes in a file's text that its room must not have.
 std::string Violations(const std::string& file, const std::string& text) {
   const auto room = std::ranges::find_if(kRooms, [&](const Room& r) { return file.starts_with(r.begin); });
   const std::regex include(R"re((?:^|\n)[ \t]*#[ \t]*include[ \t]*([<"])([^>"\n]+)[>"])re");

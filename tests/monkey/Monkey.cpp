@@ -6,7 +6,7 @@ namespace orvanta::test {
 
 namespace {
 
-/// The user has a random machine: the screen, the sound card and how long files take.
+/// A user with a random machine: the screen, the sound card, and how long files take to load.
 class Monkey : TestShell {
  public:
   Monkey(const MonkeyDisc& disc, Random& random, Figures& figures)
@@ -35,7 +35,7 @@ class Monkey : TestShell {
   bool Waits() { return host.Loop().Depth() > 0; }
 
   void Burst() {
-    // No wait of the program outlasts this once the user closes everything.
+    // No wait of the program lasts longer than this once the user closes everything.
     host.deadline = host.Now() + 20000 * 1000;
     calms_ = 0;
     host.After(1, [this] { Step(); });
@@ -87,7 +87,7 @@ class Monkey : TestShell {
   }
 
   void Click(Point at) {
-    // Most clicks on the exit button are spared, else no life would be long.
+    // Most clicks on the exit button are left out; otherwise no run would be long.
     const Rect exit = Button(BarButton::Exit).Bounds().Moved({Main().Place().left, Main().Place().top});
     if (exit.Contains(at) && Dice(20) != 0) return host.MoveMouse(at);
     host.Click(at);
@@ -107,7 +107,7 @@ class Monkey : TestShell {
     const int what = Dice(97);
     Form* const strip = shell.frmDociagGora.Loaded();
     const Point label = MiddleOf(Main().lblPos1(Dice(Main().lblPos1.UBound() + 1)));
-    // In the view of an entry the transport is what matters.
+    // While an entry is shown, prefer its transport buttons.
     if (what < 8 && !Main().picTlo.Visible) return Click(MiddleOf(Button(4 + what % 3)));
     if (what < 25) return Click(MiddleOf(Button(1 + Dice(9))));
     if (what < 38) return host.MoveMouse(label), Click(label);
@@ -131,7 +131,7 @@ class Monkey : TestShell {
     if (!holds && fault_.empty()) fault_ = std::string(what) + ", at " + std::to_string(host.Now()) + " ms";
   }
 
-  /// What holds whatever the user does.
+  /// Checks what must hold whatever the user does.
   void Check() {
     const Image &on = Button(BarButton::SoundOn), &off = Button(BarButton::SoundOff);
     const int arrays = Main().lblPos1.UBound() + Main().picShot.UBound();
@@ -150,7 +150,7 @@ class Monkey : TestShell {
                                               Main().ImageList1(PictureEntry(latch, ButtonPicture::Pressed));
     Must(latch == None || latch == Start || latch == Pause || latch == Stop, "only transport buttons latch");
     Must(latch != Pause || pressed, "a latched Pauza looks pressed");
-    // What follows holds unless the mouse has meddled with a wait.
+    // The following holds unless the user has interfered with a wait.
     if (meddled_ || Waits() || Main().picTlo.Visible || !Button(Stop).Visible) return;
     Must(latch != Start || state != ActiveMovie::kPaused, "a latched Start means that music plays");
     Must(latch != Pause || state == ActiveMovie::kPaused, "a latched Pauza means that music is paused");
@@ -172,10 +172,10 @@ class Monkey : TestShell {
   Figures& figures_;
   std::string fault_;
   int stepsLeft_ = 0;
-  int calms_ = kRest;     // since the burst, or that the program came back to its loop
-  bool meddled_ = false;  // the mouse did something while the program waited inside something
+  int calms_ = kRest;     // steps since the burst, or since the program returned to its loop
+  bool meddled_ = false;  // the mouse was used during a nested wait
   int held_ = 0;
-  int designed_ = 0;  // controls of the main window that are there in every view
+  int designed_ = 0;  // number of the main window's controls that every view has
 };
 
 }  // namespace

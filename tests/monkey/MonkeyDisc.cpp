@@ -31,7 +31,7 @@ MonkeyDisc::MonkeyDisc(Random& random, bool isWellFormed) {
   Set("MENUITEM", "BackStyle", std::to_string(Below(random, 2)));
   Set("GLOBAL", "MenuLevels", std::to_string(isWellFormed ? kNames.size() : random() % 3));
   for (auto name = kNames.begin(); name != kNames.end(); ++name) {
-    // A node's children come behind it, so that a well-formed tree ends.
+    // In a well-formed tree the children come after the node in the list of names, so that the tree ends.
     const std::vector<std::string> behind(isWellFormed ? name + 1 : kNames.begin(), kNames.end());
     std::vector<std::string> children;
     for (int n = 1 + Below(random, 16); n > 0 && !behind.empty(); --n)
@@ -52,7 +52,7 @@ void MonkeyDisc::Spoil(Random& random) {
     const auto& [section, key] = Any(keys, random);
     Below(random, 3) == 0 ? Remove(section, key) : Set(section, key, Any(kGarbage, random));
   }
-  // A long pause at each step of the crosshair is no fault, it only takes the monkey's time.
+  // A long pause at each step of the crosshair is not a fault, but it would waste the monkey's time.
   Set("MENUITEM", "Line2Sleep", std::to_string(Below(random, 3)));
   const std::vector<fs::path> files = Files();
   for (int n = Below(random, 10); n > 0; --n) {

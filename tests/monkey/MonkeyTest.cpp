@@ -1,6 +1,6 @@
-// Random users over random discs, and over discs with one fault. ORVANTA_MONKEY_STEPS and ORVANTA_MONKEY_SEED
-// change how many steps the first make in all and which they are; a fault is told with the seed that brings
-// it back in a run of few steps.
+// Random users of random discs, and of discs with one fault. ORVANTA_MONKEY_STEPS sets how many steps the
+// first test makes in all, ORVANTA_MONKEY_SEED where it starts. A failure reports the seed that repeats it in
+// a short run.
 
 #include <gtest/gtest.h>
 
@@ -32,7 +32,7 @@ TEST(Monkey, LeavesTheProgramWhole) {
       ASSERT_GT(figures.steps, before) << "seed " << seed << ": the program ended by itself";
     }
   }
-  // A monkey that never comes anywhere would find nothing.
+  // A monkey that gets nowhere would find nothing.
   EXPECT_TRUE(figures.windows > 0 && figures.waits > 0);
 }
 
@@ -46,7 +46,7 @@ struct BadDisc : testing::Test {
     disc.Entry("Walc", {{"PlayAs", "MUSIC"}, {"Parameters", "%:\\Data\\Sound\\song.wav"}});
     disc.Entry("Kino", {{"PlayAs", "FILM"}, {"Parameters", "%:\\film.avi"}});
   }
-  /// A short life on the disc as it is now; it must end well.
+  /// A short run on the disc as it is now, which must end without a violation.
   void Use(const std::string& fault) {
     Figures figures;
     ASSERT_NO_THROW(ASSERT_EQ(LiveAsAMonkey(disc, random, 100, figures), "")) << fault;
@@ -62,7 +62,7 @@ TEST_F(BadDisc, LacksAnyOneKeyOrHasGarbageInIt) {
     const std::string value = disc.Value(section, key);
     disc.Remove(section, key);
     Use("no " + key);
-    // What is no number at all reads as that of a missing key.
+    // Text that is not a number counts the same as a missing key.
     const bool number = value.find_first_not_of("0123456789") == value.npos;
     for (const std::string garbage : {number ? "-99999999999" : "%:\\..\\żółw*?<>|\\", "99999999999"}) {
       disc.Set(section, key, garbage);

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The folder of the project's sources.
+/// The folder of the sources of this project.
 std::filesystem::path ProjectFolder();
 
 }  // namespace orvanta

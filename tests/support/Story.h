@@ -12,8 +12,8 @@ namespace orvanta::test {
 
 using Names = std::vector<std::string>;
 
-/// A disc whose root menu leads to an entry of each kind and to a menu with one more. The music plays for 20
-/// seconds, the second piece for 10.
+/// A disc whose first menu leads to an entry of each kind and to a menu with one more entry. The music plays
+/// for 20 seconds, the second piece for 10.
 struct EntryDisc : TestDisc {
   EntryDisc() {
     Menu("MAINMENU", {"Gra", "Piosenka", "Film", "Dalej"});
@@ -29,15 +29,15 @@ struct EntryDisc : TestDisc {
   }
 };
 
-/// A user of the shell on a disc, which can still be changed before the shell starts. A film is 320 by 240
-/// pixels and plays for 30 seconds.
+/// A user of the shell with a disc, which a test can change before the shell starts. A film is 320 by 240
+/// pixels large and plays for 30 seconds.
 class Story : public testing::Test {
  protected:
   Story() { user.host.media["film.avi"] = {30, {320, 240}, 0}; }
 
-  /// What the user sees or hears of the subject of the story, in few words.
+  /// A few words for what the user sees or hears of the story's subject.
   virtual std::string Look() { return {}; }
-  /// Things that the user does, as `TestShell::Do` tells them, and what is seen after each.
+  /// What the user does, in the words of `TestShell::Do`, and what is seen after each step.
   void Tell(std::initializer_list<std::pair<const char*, std::string>> steps) {
     for (const auto& [act, seen] : steps) {
       user.Do(act);
@@ -45,7 +45,7 @@ class Story : public testing::Test {
     }
   }
   void After(Milliseconds delay, std::function<void()> act) { user.host.After(delay, std::move(act)); }
-  /// What is seen when so long has passed, whatever the program does then.
+  /// What is seen after `delay`, whatever the program is doing then.
   void Expect(Milliseconds delay, const std::string& seen) {
     After(delay, [this, delay, seen] { EXPECT_EQ(Look(), seen) << "in " << delay << " ms"; });
   }

@@ -9,7 +9,7 @@
 
 namespace orvanta::test {
 
-/// A fresh folder for one test, removed with all that is in it.
+/// A new folder for one test, which is removed with its content.
 class TemporaryFolder {
  public:
   TemporaryFolder() {
@@ -26,7 +26,7 @@ class TemporaryFolder {
 
   const std::filesystem::path& Path() const { return path_; }
 
-  /// Writes a file, its folders too.
+  /// Writes a file and creates its folders.
   std::filesystem::path File(const std::string& name, const std::string& bytes) const {
     std::filesystem::path made = path_ / name;
     std::filesystem::create_directories(made.parent_path());

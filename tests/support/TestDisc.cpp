@@ -10,13 +10,13 @@ namespace orvanta::test {
 
 namespace {
 
-/// Each picture that is named in complete.ini but those of buttons, with its size.
+/// The pictures that complete.ini names, except those of buttons, with their sizes.
 constexpr const char* kArt =
     "main 667 496 tlo 472 309 kreska 472 33 producer 40 30 help 400 600 about 400 250 startpic 64 45 "
     "under 64 3 left 10 80 upper 204 6 right1 6 10 right2 6 10 right3 6 10 bar 20 270 knob 16 20 "
     "shot 320 240 kino 600 450";
 
-/// A number in so many bytes, low byte first.
+/// A number in `bytes` bytes, low byte first.
 std::string Number(std::uint32_t n, int bytes) {
   std::string text;
   for (int i = 0; i < bytes; ++i, n >>= 8) text += static_cast<char>(n & 0xFF);
@@ -33,7 +33,7 @@ TestDisc::TestDisc() {
     if (line[0] == '[') section = line.substr(1, line.size() - 2);
     if (line[0] != '[') sections_[section][key] = value;
     if (line[0] == '[' || !key.ends_with('B') || value.ends_with(".gif")) continue;
-    for (const char* look : {"0", "1", "2"}) Picture(value + look + ".gif", 36, 24);  // of a button
+    for (const char* look : {"0", "1", "2"}) Picture(value + look + ".gif", 36, 24);  // a button
   }
   std::istringstream art(kArt);
   int width = 0, height = 0;
@@ -63,7 +63,7 @@ void TestDisc::Picture(const std::string& name, int width, int height, std::uint
   std::string gif = "GIF89a" + size + std::string("\x86\0\0", 3) + Number(colour >> 16, 1) +
                     Number(colour >> 8, 1) + Number(colour, 1) + std::string(127 * 3, '\0') +
                     std::string(",\0\0\0\0", 5) + size + std::string("\0\x07", 2);
-  // A palette of 128 makes every code one byte, as long as a clear code keeps the dictionary small.
+  // With a palette of 128 colours each code is one byte, as long as a clear code keeps the dictionary small.
   for (int left = width * height; left > 0; left -= 100) {
     const auto pixels = static_cast<std::size_t>(std::min(left, 100));
     gif += static_cast<char>(pixels + 1) + std::string("\x80") + std::string(pixels, '\0');
@@ -102,7 +102,7 @@ void TestDisc::Write() const {
     if (!values.empty()) text += "[" + section + "]\r\n";
     for (const auto& [key, value] : values) text += key + "=" + value + "\r\n";
   }
-  // Throws for a text that has no form in Windows-1250.
+  // Throws if a text cannot be written in Windows-1250.
   folder_.File("Data/Menu.ini", ToWindows1250(text).value());
 }
 

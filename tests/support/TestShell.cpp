@@ -54,7 +54,7 @@ void TestShell::Act(const std::string& verb, const std::string& what) {
   if (verb == "minimise") return host.Minimise(Main());
   if (verb == "restore") return host.Restore(Main());
   if (verb == "close") return host.RequestClose(Front());
-  throw std::invalid_argument("nobody knows how to " + verb);
+  throw std::invalid_argument("unknown verb: " + verb);
 }
 
 Form& TestShell::Front() {
