@@ -5,12 +5,12 @@
 
 namespace orvanta {
 
-/// The small letter for a capital from A to Z, every other byte unchanged.
+/// The small letter of a capital from A to Z; any other byte is unchanged.
 constexpr char FoldAscii(char byte) {
   return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
 }
 
-/// Two texts are the same but for small and capital letters from A to Z.
+/// Whether two texts are equal, ignoring the case of A to Z.
 constexpr bool EqualNoCaseAscii(std::string_view left, std::string_view right) {
   return std::equal(left.begin(), left.end(), right.begin(), right.end(),
                     [](char a, char b) { return FoldAscii(a) == FoldAscii(b); });

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// Red in the low byte, then green, then blue: 0x0000FF is red. Higher bits count for nothing.
+/// Red in the low byte, then green, then blue: 0x0000FF is red. Higher bits are ignored.
 using ColourValue = std::int32_t;
 
 inline int Red(ColourValue c) { return c & 0xFF; }

@@ -41,7 +41,7 @@ class Splitter {
     return taken;
   }
 
-  /// Takes a run of backslashes, and the quote behind it if they make it literal. False if there is no run.
+  /// Takes a run of backslashes, and the quote after it if they make it literal. False if there is no run.
   bool takeBackslashes(std::string& argument) {
     const std::size_t count = std::min(rest.find_first_not_of('\\'), rest.size());
     if (count == 0) return false;

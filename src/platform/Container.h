@@ -15,8 +15,8 @@ enum class ScaleMode { Pixels, Twips };
 
 inline constexpr int kTwipsPerPixel = 15;
 
-/// A form or a picture box: controls stacked in the order of their creation, the elements of one array
-/// together.
+/// A form or a picture box. Its controls are stacked in the order of their creation, with the elements of an
+/// array together.
 class Container {
  public:
   explicit Container(ScaleMode scale) : scale_(scale) {}
@@ -24,12 +24,13 @@ class Container {
   Container& operator=(const Container&) = delete;
 
   virtual Form& OwnerForm() = 0;
-  /// Marks a part, in pixels of this container, to be painted again. A hidden container ignores it.
+  /// Marks `area`, in pixels of this container, to be repainted. A hidden container ignores it.
   virtual void Invalidate(const Rect& area) = 0;
-  /// The whole of the container in its own pixels.
+  /// The area of the container, in its own pixels.
   virtual Rect ClientArea() const = 0;
 
-  /// A length or place of a child control in whole pixels: nearest, ties to even.
+  /// Converts a length or position of a child control to whole pixels, rounding to the nearest with ties to
+  /// even.
   int ToPixels(double units) const;
   double FromPixels(int pixels) const {
     return scale_ == ScaleMode::Twips ? pixels * kTwipsPerPixel : pixels;

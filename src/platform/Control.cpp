@@ -18,14 +18,14 @@ bool SameArray(const Control& a, const Control& b) {
 
 int Container::ToPixels(double units) const {
   const double pixels = scale_ == ScaleMode::Twips ? units / kTwipsPerPixel : units;
-  // Far enough to hold every 16-bit value of a disc, near enough for sums of two to stay in range.
+  // Large enough for every 16-bit value of a disc, and small enough that the sum of two stays in range.
   return static_cast<int>(std::nearbyint(std::clamp(pixels, -1e8, 1e8)));
 }
 
 void Container::Attach(Control& child) {
   auto place = stack_.end();
   while (place != stack_.begin() && !SameArray(**std::prev(place), child)) --place;
-  // An element of an array stands directly above the others, wherever the design put the first.
+  // A new element of an array goes directly above the other elements, wherever the design put the first.
   stack_.insert(place == stack_.begin() ? stack_.end() : place, &child);
 }
 

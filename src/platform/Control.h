@@ -12,17 +12,17 @@ namespace orvanta {
 
 enum class Pointer { Default, Hourglass, Hand, OpenHand, ClosedHand };
 
-/// Bits of the buttons that are held, and the number of the one that a press or release is about.
+/// Bits of the held buttons; also the number of the button that a press or release is about.
 enum MouseButton : int { kLeftButton = 1, kRightButton = 2, kMiddleButton = 4 };
 
 struct MouseEvent {
   int Button = 0;
   int Shift = 0;
-  double X = 0;  ///< In the control's own pixels.
+  double X = 0;  ///< in the control's own pixels
   double Y = 0;
 };
 
-/// Anything that stands on a form. `Index` is -1 outside a control array.
+/// Anything on a form. `Index` is -1 outside a control array.
 class Control : public PropertyOwner {
  public:
   Control(Container& parent, std::string name, std::int16_t index = -1);
@@ -35,13 +35,13 @@ class Control : public PropertyOwner {
   const ControlId Id;
   Property<bool> Visible;
 
-  /// Puts the control on the screen at once, before anything that blocks.
+  /// Paints the control at once, so that it is on the screen before the program blocks.
   void Refresh();
 
   /// In pixels of the parent.
   virtual Rect Bounds() const = 0;
   virtual void Paint(Canvas& canvas, Point origin, const Rect& area) const = 0;
-  /// The control at `p`, in pixels of the parent, that takes the mouse: this one, one inside it or null.
+  /// The control at `p`, in pixels of the parent, that takes the mouse: this control, one inside it, or null.
   virtual Control* Hit(Point) { return nullptr; }
   virtual Pointer PointerHere() const { return Pointer::Default; }
 
@@ -54,21 +54,21 @@ class Control : public PropertyOwner {
   std::function<void(double)> SetValue;
 
  protected:
-  /// Marks what the control covered and what it covers now.
+  /// Marks the area that the control covered before and the one that it covers now.
   void Touch();
 
  private:
   Container& parent_;
-  Rect extent_;  // what it covered at the last Touch, empty while hidden
+  Rect extent_;  // the area that it covered at the last Touch; empty while hidden
 };
 
-/// A control with a place and a size, in the scale of its parent.
+/// A control with a position and a size, in the scale of its parent.
 class BoxControl : public Control {
  public:
   BoxControl(Container& parent, std::string name, std::int16_t index = -1);
 
   Property<double> Left, Top, Width, Height;
-  /// A disabled control lets the mouse through to what lies below it.
+  /// A disabled control lets the mouse through to the controls below it.
   Property<bool> Enabled;
   Property<Pointer> MouseIcon;
 

@@ -12,9 +12,9 @@
 
 namespace orvanta {
 
-/// Controls of one name, told apart by `Index`. Element 0 (and more, if the design has them) is there for
-/// ever; further ones are loaded and unloaded by number. An element's address stays the same while it is
-/// loaded.
+/// Controls with the same name, distinguished by `Index`. Element 0 always exists, and so do further ones if
+/// the design has them; others are loaded and unloaded by number. The address of an element does not change
+/// while it is loaded.
 template <class T>
 class ControlArray {
  public:

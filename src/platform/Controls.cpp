@@ -15,7 +15,7 @@ void Frame(Canvas& canvas, const Rect& r, ColourValue colour) {
   canvas.Fill({r.Right() - 1, r.top, 1, r.height}, colour);
 }
 
-/// Lets the size of `control` follow `picture`, with `edge` pixels around it.
+/// Gives `control` the size of `picture`, with `edge` pixels around it.
 void FitTo(BoxControl& control, const PicturePtr& picture, int edge) {
   if (!picture || picture->PixelSize().Empty()) return;
   const Size size = picture->PixelSize();

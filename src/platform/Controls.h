@@ -7,15 +7,15 @@
 
 namespace orvanta {
 
-/// A picture. Without `Stretch` its size follows each picture that it is given; the empty picture leaves the
-/// size as it was, so that a control without art can still be clicked.
+/// A picture. Without `Stretch` the control takes the size of each picture that it is given. An empty picture
+/// does not change the size, so that a control without art can still be clicked.
 class Image : public BoxControl {
  public:
   Image(Container& parent, std::string name, std::int16_t index = -1);
 
   Property<PicturePtr> Picture;
   Property<bool> Stretch;
-  /// 1 is a thin single line inside the edge, 0 is none.
+  /// 1 is a thin line inside the edge, 0 means none.
   Property<int> BorderStyle;
 
   void CopyLook(const Image& from);
@@ -23,14 +23,14 @@ class Image : public BoxControl {
   void PropertyChanged(const void* property) override;
 };
 
-/// A picture that holds further controls and clips them. Its size follows its picture if `AutoSize` is on.
+/// A picture that contains controls and clips them. If `AutoSize` is on, it takes the size of its picture.
 class PictureBox : public BoxControl, public Container {
  public:
   PictureBox(Container& parent, std::string name);
 
   Property<PicturePtr> Picture;
   Property<bool> AutoSize;
-  /// Shown where there is no picture.
+  /// The background where there is no picture.
   Property<ColourValue> BackColor;
 
   Form& OwnerForm() override { return Parent().OwnerForm(); }
@@ -60,8 +60,8 @@ class Label : public BoxControl {
   void Paint(Canvas& canvas, Point origin, const Rect& area) const override;
 };
 
-/// A level or upright line from one point to the other, both included, `BorderWidth` pixels thick (1 at the
-/// least) around it. A slanting one is painted as the rectangle that it crosses.
+/// A horizontal or vertical line between two points, including both, `BorderWidth` pixels thick (at least 1)
+/// and centred on them. A slanting line is painted as the rectangle around it.
 class Line : public Control {
  public:
   Line(Container& parent, std::string name, std::int16_t index = -1);
@@ -76,7 +76,7 @@ class Line : public Control {
   void Paint(Canvas& canvas, Point origin, const Rect& area) const override;
 };
 
-/// A filled rectangle with an edge of one pixel. It takes no clicks.
+/// A filled rectangle with a border of one pixel. It takes no clicks.
 class Shape : public BoxControl {
  public:
   Shape(Container& parent, std::string name) : BoxControl(parent, std::move(name)) {}

@@ -61,8 +61,8 @@ void EventLoop::DeliverInput(std::uint64_t last) {
 }
 
 void EventLoop::DeliverTicks(Milliseconds now) {
-  // Looked up anew each time: a handler may remove timers, or pump and so deliver their ticks. A tick moves
-  // its timer beyond now.
+  // Look the earliest timer up each time: a handler may remove timers, or deliver their ticks by pumping. A
+  // tick sets the timer to a time after now.
   const auto earliest = [this] {
     return std::min_element(timers_.begin(), timers_.end(),
                             [](const Timer* a, const Timer* b) { return a->Due() < b->Due(); });
@@ -86,7 +86,7 @@ void EventLoop::Forget(const Form& form) {
 }
 
 void EventLoop::Bury(std::unique_ptr<Form> form) {
-  // Outside every delivery nobody needs the form, and it must not outlive the host of its window.
+  // Outside of deliveries nobody needs the form any more, and it must not outlive the host of its window.
   Delivery delivery(*this);
   graveyard_.push_back(std::move(form));
 }

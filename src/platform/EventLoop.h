@@ -13,17 +13,17 @@ namespace orvanta {
 
 class Timer;
 
-/// Milliseconds of a clock that never goes back.
+/// Milliseconds on a clock that never goes backwards.
 using Milliseconds = std::int64_t;
 inline constexpr Milliseconds kNever = std::numeric_limits<Milliseconds>::max();
 
-/// What the event loop needs of a host: the clock, the waiting and the raw input.
+/// What the event loop needs from a host: the clock, waiting, and raw input.
 class EventSource {
  public:
   virtual Milliseconds Now() = 0;
-  /// Takes in what has happened so far without waiting and posts it to the loop; paints what is dirty.
+  /// Posts the input that has arrived so far to the loop, without waiting, and paints what needs repainting.
   virtual void TakeInput() = 0;
-  /// Waits until there is input or the clock has reached `deadline`, without using the processor.
+  /// Waits until there is input or the clock reaches `deadline`, without using the processor.
   virtual void WaitForInput(Milliseconds deadline) = 0;
 
  protected:
@@ -31,7 +31,7 @@ class EventSource {
 };
 
 /// Delivers input and timer ticks to forms, one at a time, on the program's one thread. Nothing is delivered
-/// outside `Pump` and what calls it. Handlers may pump again.
+/// except during `Pump` and functions that call it. Handlers may pump again.
 class EventLoop {
  public:
   explicit EventLoop(EventSource& source);
@@ -39,22 +39,22 @@ class EventLoop {
   EventLoop& operator=(const EventLoop&) = delete;
   ~EventLoop();
 
-  /// Queues an event. Of moves on one form with the same buttons only the last is kept.
+  /// Queues an event. Of successive moves on one form with the same buttons only the last is kept.
   void Post(const FormEvent& event);
 
   /// Delivers what is due now: input first, then ticks. What becomes due meanwhile waits for the next pump.
   void Pump();
-  /// Waits for something to deliver, to `deadline` at the longest, then pumps.
+  /// Waits until there is something to deliver, but no longer than `deadline`, then pumps.
   void PumpOrWait(Milliseconds deadline);
   void RunUntil(const std::function<bool()>& done);
 
-  /// While it lives only `form` and the forms that it owns get input; with null, none does. Ticks go on. What
-  /// is pressed as it begins is let go of.
+  /// While it exists, only `form` and the forms that it owns get input; if `form` is null, none does. Ticks
+  /// go on. Buttons that are pressed when it begins are released without a click.
   class Modal {
    public:
     Modal(EventLoop& loop, Form* form);
     ~Modal() { End(); }
-    /// Its window is gone, though the call that showed it may not have returned yet.
+    /// Its window has closed, although the call that showed it may not have returned yet.
     void End() { std::erase(loop_.modal_, this); }
     Modal(const Modal&) = delete;
     Modal& operator=(const Modal&) = delete;
@@ -65,7 +65,7 @@ class EventLoop {
     Form* const form_;
   };
 
-  /// One delivery to a form: while any lives, unloaded forms are kept. The last one to end, also by an
+  /// One delivery to a form. While any exists, unloaded forms are kept; the last one to end, even by an
   /// exception, destroys them.
   class Delivery {
    public:
@@ -78,15 +78,15 @@ class EventLoop {
     EventLoop& loop_;
   };
 
-  /// How many deliveries are running, one inside the other.
+  /// How many nested deliveries are running.
   int Depth() const { return depth_; }
 
   void Add(Form& form) { forms_.push_back(&form); }
   void Add(Timer& timer) { timers_.push_back(&timer); }
   void Remove(Timer& timer) { std::erase(timers_, &timer); }
-  /// Drops what is queued for a form that is going.
+  /// Drops the queued events of a form that is about to be destroyed.
   void Forget(const Form& form);
-  /// Keeps an unloaded form until the outermost delivery has ended, since its own handlers may be running.
+  /// Destroys an unloaded form once the outermost delivery has ended, since its own handlers may be running.
   void Bury(std::unique_ptr<Form> form);
 
  private:

@@ -18,7 +18,7 @@ std::optional<std::filesystem::path> FindExecutable(std::string_view name, std::
   if (name.empty()) return std::nullopt;
   if (name.find('/') != std::string_view::npos)
     return IsExecutable(name) ? std::optional<std::filesystem::path>(name) : std::nullopt;
-  // A path that is not there at all means no folder, not the current one.
+  // An empty search path means that there are no folders, not the current one.
   if (searchPath.empty()) return std::nullopt;
   for (;;) {
     const auto colon = searchPath.find(':');

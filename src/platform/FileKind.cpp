@@ -10,7 +10,7 @@ namespace orvanta {
 namespace {
 
 constexpr std::size_t DosHeaderSize = 28;
-/// A header that announces another one is this long and ends with that one's place.
+/// A header that announces another one has this length and ends with the position of that one.
 constexpr std::size_t LongDosHeaderSize = 64;
 constexpr std::size_t NewHeaderPlace = 0x3C;
 constexpr std::size_t PeHeaderSize = 24;
@@ -22,7 +22,7 @@ std::uint64_t Little(std::string_view bytes, std::size_t at, std::size_t size) {
   return value;
 }
 
-/// The DOS image that the MZ header describes lies wholly in the file.
+/// Whether the DOS image that the MZ header describes lies wholly in the file.
 bool IsDosImage(std::string_view header, std::uint64_t fileSize) {
   constexpr std::uint64_t PageSize = 512;
   constexpr std::uint64_t ParagraphSize = 16;
@@ -35,7 +35,8 @@ bool IsDosImage(std::string_view header, std::uint64_t fileSize) {
   return headerSize >= DosHeaderSize && headerSize <= imageSize && imageSize <= fileSize;
 }
 
-/// A file that was cut short misses the sections that its header places at its end.
+/// Whether the sections that the header places in the file are all there, which is not so if the file was cut
+/// short.
 bool HasAllSections(const FileBytes& file, std::uint64_t place, std::string_view header) {
   constexpr std::size_t SectionSize = 40;
   const std::uint64_t count = Little(header, 6, 2), table = place + PeHeaderSize + Little(header, 20, 2);
@@ -53,12 +54,12 @@ FileKind KindOfPe(const FileBytes& file, std::uint64_t place, std::string_view h
   return Little(header, 4, 2) == X86_64 ? FileKind::Windows64 : FileKind::Windows32;
 }
 
-/// What the header after the DOS one says; nothing if there is no such header.
+/// The kind according to the header after the DOS header; nothing if there is no such header.
 std::optional<FileKind> KindOfNewHeader(const FileBytes& file, std::uint64_t place) {
   const std::string header = file.read(place, PeHeaderSize);
   if (header.starts_with(std::string_view("PE\0\0", 4))) return KindOfPe(file, place, header);
   if (header.starts_with("NE")) return FileKind::Windows16;
-  // Linear executables are DOS programs with a DOS extender, as far as discs go.
+  // On discs, linear executables are DOS programs with a DOS extender.
   if (header.starts_with("LE") || header.starts_with("LX")) return FileKind::Dos;
   return std::nullopt;
 }
@@ -69,14 +70,15 @@ FileKind KindOfMz(const FileBytes& file, const std::string& header) {
     const std::uint64_t place = Little(header, NewHeaderPlace, 4);
     if (const auto kind = KindOfNewHeader(file, place)) return *kind;
     // Relocations after the long header announce a new header. Packers of DOS programs put text where its
-    // place would stand, and that points far beyond the file.
+    // position would be, which then points far beyond the file.
     const bool announced = Little(header, 0x18, 2) >= LongDosHeaderSize;
     if (announced && place >= LongDosHeaderSize && place < file.size) return FileKind::Broken;
   }
   return IsDosImage(header, file.size) ? FileKind::Dos : FileKind::Broken;
 }
 
-/// A native program with its loader. One of another processor or byte order is left to the system to refuse.
+/// A native program and its loader. Programs for another processor or byte order are left for the system to
+/// refuse.
 FileFacts FactsOfElf(const FileBytes& file, std::string_view header) {
   constexpr char Bits64 = 2, LittleEndian = 1;
   constexpr std::size_t LongHeaderSize = 64, ShortHeaderSize = 52, LongestPath = 4096;

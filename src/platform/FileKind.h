@@ -8,40 +8,41 @@
 
 namespace orvanta {
 
-/// What a file is to whoever starts it.
+/// How a file is started.
 enum class FileKind {
-  Document,     ///< Not a program: an application opens it.
-  Native,       ///< An ELF program with an x bit.
-  Script,       ///< A text with an x bit whose first line names its interpreter.
-  Dos,          ///< A program for DOS.
-  Windows16,    ///< A program for Windows 3.
-  Windows32,    ///< A program for Windows 95 and later.
-  Windows64,    ///< A program for Windows on x86-64.
-  WindowsFile,  ///< What Windows opens by its extension: .bat .cmd .msi .reg .hlp .chm .lnk
-  Broken,       ///< It is called or marked as a program, and is empty, cut short or without a valid header.
+  Document,     ///< not a program: an application opens it
+  Native,       ///< an executable ELF program
+  Script,       ///< an executable text whose first line names its interpreter
+  Dos,          ///< a program for DOS
+  Windows16,    ///< a program for Windows 3
+  Windows32,    ///< a program for Windows 95 and later
+  Windows64,    ///< a program for Windows on x86-64
+  WindowsFile,  ///< opened by Windows because of its extension: .bat .cmd .msi .reg .hlp .chm .lnk
+  Broken,       ///< looks like a program, but is empty, cut short or has no valid header
 };
 
-/// The bytes of a file, wherever they lie.
+/// The bytes of a file, wherever they come from.
 struct FileBytes {
   std::uint64_t size = 0;
-  /// At most `count` bytes from `offset`: fewer at the end of the file, none if it cannot be read.
+  /// At most `count` bytes starting at `offset`: fewer at the end of the file, none if it cannot be read.
   std::function<std::string(std::uint64_t offset, std::size_t count)> read;
 };
 
-/// Those of a regular file of the host. It stays open as long as they are kept; empty if it cannot be opened.
+/// The bytes of a regular file of the host; empty if it cannot be opened. The file stays open as long as the
+/// result exists.
 FileBytes BytesOfFile(const std::filesystem::path& file);
 
 struct FileFacts {
   FileKind kind = FileKind::Document;
-  /// What must be there to run it: the interpreter of a script (a path, or after `env` a name for the search
-  /// path), the loader of a native program. Empty if nothing is needed.
+  /// What must exist to run it: the interpreter of a script (a path or, after `env`, a name for the search
+  /// path) or the loader of a native program. Empty if nothing is needed.
   std::string interpreter{};
 };
 
-/// Tells by content, and by name where the content has no mark (.com, .bat; an .exe must have one).
+/// Decides by content, or by name if the content has no signature (.com, .bat; an .exe must have one).
 ///
-/// `executable` says that the file has an x bit. The marks are those of "PE Format" (learn.microsoft.com), of
-/// the MZ header before it, and of elf(5).
+/// `executable` says whether the file has an x bit. The signatures are those of "PE Format"
+/// (learn.microsoft.com), of the MZ header that precedes it, and of elf(5).
 FileFacts FactsOf(const FileBytes& file, const std::filesystem::path& name, bool executable);
 
 }  // namespace orvanta

@@ -30,7 +30,7 @@ Rect Form::Place() const {
   const auto pixels = [](double twips) {
     return static_cast<int>(std::nearbyint(std::clamp(twips / kTwipsPerPixel, -1e8, 1e8)));
   };
-  // The program takes the cursor's place in the window from the whole pixels of its corner.
+  // The program computes the cursor's position in the window from the whole pixels of its corner.
   const auto whole = [](double twips) {
     return static_cast<int>(std::clamp(twips / kTwipsPerPixel, -1e8, 1e8));
   };
@@ -79,7 +79,7 @@ void Form::Refresh() {
 
 void Form::Unload() {
   if (unloading_) return;
-  // The last thing to end here, so that an unload outside every handler destroys the form as well.
+  // Ends last, so that an unload outside of handlers also destroys the form.
   EventLoop::Delivery delivery(host_.Loop());
   unloading_ = true;
   Form_Unload();
@@ -100,7 +100,7 @@ void Form::PropertyChanged(const void* property) {
     VisibleChanged();
   } else if (property == &WindowState) {
     window_->SetMinimised(WindowState == kMinimised);
-    // The release of a button that is held goes elsewhere.
+    // The release of a held button goes to another window.
     EndPress();
     Form_Resize();
   } else if (property == &MousePointer) {
@@ -113,10 +113,10 @@ void Form::VisibleChanged() {
   if (Visible && !shownBefore_) {
     shownBefore_ = true;
     if (design_.centred) Centre();
-    // The first showing counts as a resize, which may still move the window.
+    // The first showing counts as a resize, and its handler may still move the window.
     Form_Resize();
   }
-  // A form without an area is visible to the program, but there is nothing to show.
+  // For the program a form without an area is visible, but there is nothing to show.
   window_->SetVisible(Visible && !ClientArea().Empty());
 }
 

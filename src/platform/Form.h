@@ -16,27 +16,27 @@ namespace orvanta {
 
 class Host;
 
-/// How a form is before its `Form_Load`. Width and height in twips.
+/// A form before its `Form_Load`. Width and height are in twips.
 struct FormDesign {
   std::string name;
   double width = 0;
   double height = 0;
   ScaleMode scale = ScaleMode::Pixels;
   WindowKind window = WindowKind::Main;
-  /// Stands in the centre of the screen when it first appears.
+  /// Whether it first appears in the centre of the screen.
   bool centred = true;
 };
 
-/// A window of the program. It is loaded hidden, by a `FormSlot`, and destroyed after `Unload`.
+/// A window of the program. A `FormSlot` loads it, hidden at first; it is destroyed after `Unload`.
 class Form : public PropertyOwner, public Container {
  public:
-  static constexpr int kNormal = 0, kMinimised = 1;                  ///< of WindowState
-  static constexpr int kDefaultPointer = 0, kHourglassPointer = 11;  ///< of MousePointer
+  static constexpr int kNormal = 0, kMinimised = 1;                  ///< values of WindowState
+  static constexpr int kDefaultPointer = 0, kHourglassPointer = 11;  ///< values of MousePointer
 
   Form(Host& host, const FormDesign& design);
   virtual ~Form();
 
-  Property<double> Left, Top, Width, Height;  ///< in twips, whatever the scale of the controls
+  Property<double> Left, Top, Width, Height;  ///< in twips, whatever the unit of the controls
   Property<std::string> Caption;
   Property<PicturePtr> Picture;
   Property<bool> Visible;
@@ -49,12 +49,12 @@ class Form : public PropertyOwner, public Container {
   /// What a screen reader is told of the form as it is now, made anew at each call. Here the window alone.
   virtual AccessibleNode Accessible() const;
 
-  /// Shows the form; one that is visible comes to the front and is activated.
+  /// Shows the form. If it is visible already, brings it to the front and activates it.
   void Show();
-  /// Shows the form and pumps until it has been unloaded. The other forms get no input meanwhile.
+  /// Shows the form and pumps until it is unloaded. Meanwhile the other forms get no input.
   void ShowModal(Form& owner);
   void Refresh();
-  /// Runs `Form_Unload` and closes the window. The object lives on until the outermost delivery has returned.
+  /// Runs `Form_Unload` and closes the window. The object exists until the outermost delivery has returned.
   void Unload();
 
   virtual void Form_Load() {}
@@ -62,25 +62,25 @@ class Form : public PropertyOwner, public Container {
   virtual void Form_Resize() {}
   virtual void Form_Unload() {}
 
-  // For the toolkit and the hosts.
+  // Used by the toolkit and the hosts.
   Host& TheHost() const { return host_; }
   Form* Owner() const { return owner_; }
   FormWindow& Window() { return *window_; }
-  /// The window's place on the screen, in pixels.
+  /// The position and size of the window on the screen, in pixels.
   Rect Place() const;
   void Deliver(const FormEvent& event);
-  /// Lets go of what is pressed, without a click: the release goes to another window.
+  /// Ends a press without a click, since the release goes to another window.
   void EndPress();
   virtual void Paint(Canvas& canvas, const Rect& area) const;
   void PaintNow();
-  /// Brings the pointer up to date with what lies under the cursor.
+  /// Updates the pointer for the control that is now under the cursor.
   void Settle();
   /// A window of one of its controls takes the activation: that it comes back is no activation of the form.
   void ExpectReturn() { returning_ = true; }
   void Adopt(Control& control) { controls_.push_back(&control); }
   void Forget(Control& control);
   ControlId NextId() { return ++lastId_; }
-  std::function<void()> Released;  ///< set by the slot: the form is unloaded
+  std::function<void()> Released;  ///< set by the slot; called when the form is unloaded
 
   Form& OwnerForm() override { return *this; }
   void Invalidate(const Rect& area) override;
@@ -88,9 +88,9 @@ class Form : public PropertyOwner, public Container {
   void PropertyChanged(const void* property) override;
 
  protected:
-  /// The user asked the window manager to close the window. Nothing happens unless a form wants it.
+  /// The user has asked the window manager to close the window. Does nothing unless overridden.
   virtual void CloseRequested() {}
-  /// A click that no control took.
+  /// The user has clicked where no control takes the mouse.
   virtual void Form_Click() {}
   void SetOwner(Form& owner);
 
@@ -111,10 +111,10 @@ class Form : public PropertyOwner, public Container {
   ControlId lastId_ = kWholeForm;
   std::unique_ptr<FormWindow> window_;
   Form* owner_ = nullptr;
-  std::optional<EventLoop::Modal> modal_;  // while it is shown modal
-  Control* captured_ = nullptr;            // gets the mouse until every button is released
+  std::optional<EventLoop::Modal> modal_;  // while it is shown modally
+  Control* captured_ = nullptr;            // gets the mouse until all buttons are released
   int held_ = 0;
-  int clickable_ = 0;  // those of the held buttons whose release makes a click
+  int clickable_ = 0;  // the held buttons whose release counts as a click
   Point cursor_;
   bool cursorInside_ = false;
   bool shownBefore_ = false;

@@ -7,18 +7,18 @@ namespace orvanta {
 
 class Form;
 
-/// What a host tells of one form's window.
+/// What a host reports about the window of a form.
 struct FormEvent {
   enum class Kind {
     MouseMove,         ///< `place` is the cursor in the form
     MousePress,        ///< `button` is the one that was pressed
-    MouseSecondPress,  ///< the same where the desktop takes it for the second press of a double click
+    MouseSecondPress,  ///< the same, if the desktop considers it the second press of a double click
     MouseRelease,      ///< `button` is the one that was released
     MouseLeave,
     Activate,
     Minimise,
     Restore,
-    Moved,     ///< `place` is the window's new place on the screen, not asked for by the program
+    Moved,     ///< `place` is the window's new position, which the program did not ask for
     Close,     ///< the user asks the window manager to close the window
     Invoke,    ///< an assistive technology presses `control`
     SetValue,  ///< an assistive technology sets the value of `control` to `value`
@@ -27,7 +27,7 @@ struct FormEvent {
   Form* form;
   Point place{};
   int button = 0;
-  int held = 0;  ///< bits of the buttons that are down after it, whichever window was told of their presses
+  int held = 0;  ///< bits of the buttons held after it, whichever window got their presses
   ControlId control = kWholeForm;
   double value = 0;
 

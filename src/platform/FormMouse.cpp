@@ -1,4 +1,4 @@
-// What a form does with the events of its window.
+// How a form handles the events of its window.
 
 #include <algorithm>
 #include <utility>
@@ -10,14 +10,14 @@ namespace orvanta {
 
 namespace {
 
-/// Where a control's own pixels begin, in pixels of the form.
+/// The upper left corner of a control, in pixels of the form.
 Point OriginOf(const Control& control) {
   Point origin{control.Bounds().left, control.Bounds().top};
   if (const auto* box = dynamic_cast<const Control*>(&control.Parent())) origin = origin + OriginOf(*box);
   return origin;
 }
 
-/// Calls a copy, since the handler may unload the control that holds it.
+/// Calls a copy of the handler, since the handler may unload the control that holds it.
 template <class Handler, class... Arguments>
 void Call(const Handler& handler, const Arguments&... arguments) {
   if (const Handler copy = handler) copy(arguments...);
@@ -27,7 +27,7 @@ void Call(const Handler& handler, const Arguments&... arguments) {
 
 void Form::Deliver(const FormEvent& event) {
   using Kind = FormEvent::Kind;
-  // What was clicked before the window went is no click on what the user sees now.
+  // A click that was made before the window disappeared is not meant for what the user sees now.
   const bool shown = Visible && WindowState != kMinimised;
   if (!shown) clickable_ = 0;
   if (!shown && event.kind < Kind::MouseRelease) return;
@@ -59,7 +59,7 @@ void Form::EndPress() {
 }
 
 void Form::StillHeld(int held) {
-  // Of a button that is not named any more another window got the release.
+  // Another window got the release of a button that is no longer reported as held.
   held_ &= held;
   if (held_ == 0) EndPress();
 }
@@ -80,7 +80,7 @@ void Form::MousePressed(const FormEvent& event) {
   StillHeld(event.held & ~event.button);
   if (held_ == 0) captured_ = ControlAt(cursor_);
   held_ |= event.button;
-  // Who double-clicks wants what one click gives, whatever that click has put under the cursor.
+  // A user who double-clicks wants the effect of one click, whatever that click has put under the cursor.
   const bool first = event.kind == FormEvent::Kind::MousePress;
   clickable_ = first ? clickable_ | event.button : clickable_ & ~event.button;
   if (!captured_) return;
@@ -103,7 +103,7 @@ void Form::MouseReleased(Point place, int button, int held) {
   const Point inside = place - OriginOf(*target);
   const Rect box = target->Bounds();
   const bool clicked = wasHeld && button == kLeftButton && Rect{0, 0, box.width, box.height}.Contains(inside);
-  // Copied before the release is told of, since that handler may unload the control.
+  // Copied before the release is delivered, since its handler may unload the control.
   const auto click = target->Click;
   Call(target->MouseUp, MouseEvent{button, 0, static_cast<double>(inside.x), static_cast<double>(inside.y)});
   if (clicked) Call(click);

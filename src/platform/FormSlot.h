@@ -9,8 +9,9 @@
 
 namespace orvanta {
 
-/// A form by its name: loaded at its first use, and afresh at the first use after it was unloaded. It is made
-/// from its owner and, where several forms are of one class, from what tells them apart.
+/// A form by its name. It is loaded when it is first used, and again when it is first used after it was
+/// unloaded. It is constructed from its owner and, if several forms have the same class, from what
+/// distinguishes them.
 template <class FormType, class Owner, class... Design>
 class FormSlot {
  public:

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// All of these are in whole pixels.
+/// Everything here is in whole pixels.
 struct Point {
   int x = 0;
   int y = 0;
@@ -22,7 +22,7 @@ struct Size {
   bool operator==(const Size&) const = default;
 };
 
-/// A rectangle that holds `left` and `top` and ends before `Right()` and `Bottom()`.
+/// A rectangle that includes `left` and `top` and excludes `Right()` and `Bottom()`.
 struct Rect {
   int left = 0;
   int top = 0;
@@ -37,7 +37,7 @@ struct Rect {
   bool operator==(const Rect&) const = default;
 };
 
-/// The part that both cover; empty if there is none.
+/// The part that both cover; empty if they do not overlap.
 inline Rect Intersection(const Rect& a, const Rect& b) {
   const int left = std::max(a.left, b.left);
   const int top = std::max(a.top, b.top);
@@ -45,7 +45,7 @@ inline Rect Intersection(const Rect& a, const Rect& b) {
           std::max(0, std::min(a.Bottom(), b.Bottom()) - top)};
 }
 
-/// The smallest rectangle that covers both; an empty one counts for nothing.
+/// The smallest rectangle that covers both; an empty one is ignored.
 inline Rect Union(const Rect& a, const Rect& b) {
   if (a.Empty()) return b;
   if (b.Empty()) return a;

@@ -19,17 +19,17 @@ struct ProgramEnd {};
 /// used.
 enum class ShowMode { Normal = 1 };
 
-/// A file to be opened by the platform. `status` tells what became of `name` on the disc.
+/// A file for the platform to open. `status` is the result of looking up `name` on the disc.
 struct StartRequest {
   enum class Status {
     Found,
-    FileMissing,    ///< the folder is there, the file is not
-    FolderMissing,  ///< a folder on the way, or the drive, is not there
+    FileMissing,    ///< the folder exists, the file does not
+    FolderMissing,  ///< a folder on the way, or the drive, does not exist
   };
   Status status = Status::FileMissing;
-  std::string name{};            ///< as the catalogue has it; an address (http:, mailto:) is told by it alone
-  std::filesystem::path file{};  ///< on the host, if found
-  std::string parameters{};      ///< a command line, split as Windows programs split theirs
+  std::string name{};            ///< as written in the catalogue; an address (http:, mailto:) has only this
+  std::filesystem::path file{};  ///< the file on the host, if found
+  std::string parameters{};      ///< a command line, to be split as Windows programs do
   ShowMode show = ShowMode::Normal;
 };
 
@@ -43,18 +43,19 @@ struct ScreenMetrics {
 
 class ControlFilesHost;
 
-/// Everything that the shell asks of the system that it runs on.
+/// Everything that the shell needs from the system that it runs on.
 class Host : public EventSource {
  public:
   Host() : loop_(*this) {}
   virtual ~Host() = default;
   EventLoop& Loop() { return loop_; }
 
-  /// The folder of the running program: a path of the disc's drive, and where that drive's root lies.
+  /// The folder of the running program, as a path of the disc's drive, and the folder of the host that is the
+  /// root of that drive.
   virtual std::string AppPath() const = 0;
   virtual std::filesystem::path DriveRoot() const = 0;
   virtual bool PrevInstance() const = 0;
-  /// The registry of components, null where the system has none.
+  /// The registry of components; null if the system has none.
   virtual ControlFilesHost* ControlFiles() { return nullptr; }
 
   /// In pixels.
@@ -64,13 +65,14 @@ class Host : public EventSource {
             .Height = ScreenSize().height * 1.0 * kTwipsPerPixel};
   }
   virtual Point CursorPos() const = 0;
-  /// The form that is the active window, null while another program has it.
+  /// The form whose window is active; null while another program is.
   virtual Form* ActiveForm() const = 0;
   virtual std::unique_ptr<FormWindow> MakeWindow(Form& form, WindowKind kind) = 0;
-  /// Blocks until the user has closed the box; ticks go on. Style 16 is the critical icon. `text` is UTF-8.
+  /// Blocks until the user has closed the box; ticks go on. Style 16 shows the critical icon. `text` is
+  /// UTF-8.
   virtual void MsgBox(const std::string& text, int style, const std::string& title) = 0;
 
-  /// Blocks the program; nothing is delivered meanwhile.
+  /// Blocks the program; meanwhile nothing is delivered.
   virtual void Sleep(Milliseconds duration) = 0;
 
   /// Null if the file cannot be read as a picture.
@@ -81,7 +83,8 @@ class Host : public EventSource {
   virtual bool IsSoundCardEnabled() = 0;
   virtual std::unique_ptr<MoviePlayer> MakePlayer(MovieKind kind) = 0;
 
-  /// Starts without waiting: above 32 for success, else a code from 0 to 32 that names the failure.
+  /// Starts the file without waiting. The result is above 32 for success; a code from 0 to 32 names the
+  /// failure.
   virtual int StartFile(const StartRequest& request) = 0;
 
  private:

@@ -9,7 +9,7 @@
 
 namespace orvanta {
 
-/// Pictures of a form, numbered from 1, some of them with a text key.
+/// The pictures of a form, numbered from 1; some have a text key as well.
 class ImageList {
  public:
   void Add(PicturePtr picture, std::string key = {}) {
@@ -17,7 +17,7 @@ class ImageList {
   }
   int Count() const { return static_cast<int>(entries_.size()); }
 
-  /// The entry by number or by key; the empty picture if there is none.
+  /// The picture with a number or key; the empty picture if there is none.
   PicturePtr operator()(int number) const {
     return number >= 1 && number <= Count() ? entries_[static_cast<std::size_t>(number) - 1].picture
                                             : nullptr;

@@ -10,7 +10,7 @@ namespace orvanta {
 
 namespace {
 
-/// `inner`, which is not empty, as large as it fits into `outer` at its own proportions, in the middle.
+/// `inner`, which is not empty, enlarged or reduced to fit `outer` in its own proportions, and centred.
 Rect Fitted(Size inner, const Rect& outer) {
   const auto scaled = [](double side, int numerator, int denominator) {
     return std::max(1, static_cast<int>(std::nearbyint(side * numerator / denominator)));
@@ -51,7 +51,7 @@ AccessibleNode MovieScreen::Accessible() const {
 }
 
 void MovieScreen::Form_Click() {
-  // A copy, since the handler takes this window down.
+  // A copy, since the handler destroys this window.
   if (const auto handler = movie_.ScreenClick) handler();
 }
 

@@ -6,7 +6,7 @@ namespace orvanta {
 
 class ActiveMovie;
 
-/// The whole screen while it shows a film: black, with the present picture as large as it fits.
+/// A film that fills the screen: the current picture as large as possible, on black.
 class MovieScreen : public Form {
  public:
   MovieScreen(Form& owner, const ActiveMovie& movie);

@@ -6,7 +6,7 @@
 
 namespace orvanta {
 
-/// A loaded picture at its real size. Only the host that made it can paint it.
+/// A loaded picture at its own size. Only the host that loaded it can paint it.
 class Picture {
  public:
   virtual ~Picture() = default;

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// Whoever has properties is told of each change of one, after it.
+/// An owner of properties, which is told after each change of one.
 class PropertyOwner {
  public:
   virtual void PropertyChanged(const void* property) = 0;
@@ -13,8 +13,8 @@ class PropertyOwner {
   ~PropertyOwner() = default;
 };
 
-/// A value that is assigned and read like a field and tells its owner when it has changed. Assigning the
-/// value that it has already changes nothing.
+/// A value that is assigned and read like a field and tells its owner when it has changed. Assigning the same
+/// value again changes nothing.
 template <class T>
 class Property {
  public:
@@ -32,7 +32,7 @@ class Property {
   operator const T&() const { return value_; }
   const T& operator()() const { return value_; }
 
-  /// For the owner itself: the owner is not told.
+  /// Changes the value without telling the owner; for the owner itself.
   void SetQuietly(T value) { value_ = std::move(value); }
 
  private:

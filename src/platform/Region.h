@@ -7,16 +7,16 @@
 
 namespace orvanta {
 
-/// A set of pixels, as runs of whole rows.
+/// A set of pixels, stored as runs in rows.
 class Region {
  public:
   Region() = default;
 
-  /// The pixels inside a closed outline, by the alternate fill mode: a pixel belongs to it when its corner
-  /// (x, y) lies inside; a left or upper edge counts as inside, a right or lower one does not.
+  /// The pixels inside a closed outline, by the alternate fill mode: a pixel belongs to it if its corner (x,
+  /// y) lies inside. Left and upper edges count as inside, right and lower ones do not.
   static Region Polygon(std::span<const Point> outline);
   static Region Rectangle(const Rect& area);
-  /// The pixels inside the ellipse that `box` holds, by the same corner as for a polygon.
+  /// The pixels inside the ellipse that fits into `box`, decided by the same corner as for a polygon.
   static Region Ellipse(const Rect& box);
 
   Region United(const Region& other) const;
@@ -28,15 +28,15 @@ class Region {
 
  private:
   struct Run {
-    int left, right;  // right is excluded
+    int left, right;  // right is exclusive
   };
   struct Row {
     int y;
-    std::vector<Run> runs;  // apart from each other, left to right
+    std::vector<Run> runs;  // not touching each other, from left to right
   };
   static void Tidy(std::vector<Run>& runs);
 
-  std::vector<Row> rows_;  // top to bottom, none without a run
+  std::vector<Row> rows_;  // from top to bottom, none of them empty
 };
 
 }  // namespace orvanta

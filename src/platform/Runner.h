@@ -10,18 +10,19 @@ namespace orvanta {
 
 /// What runs a program on this machine.
 struct Runner {
-  /// "wine", "dosbox", or a script's interpreter; empty if the system itself runs the file, or if it is not a
-  /// program.
+  /// "wine", "dosbox" or the interpreter of a script; empty if the system itself runs the file, and for a
+  /// file that is not a program.
   std::string name{};
-  /// Where the runner is; empty without a name, and if it is missing.
+  /// Where the runner is; empty if there is no name, or if the runner is missing.
   std::filesystem::path path{};
-  /// What must be installed first: "wine", "wine32" (the half of Wine that runs programs of 16 and 32 bits),
-  /// "dosbox", an interpreter or a loader. Empty if nothing is missing.
+  /// What has to be installed first: "wine", "wine32" (the part of Wine that runs programs of 16 and 32
+  /// bits), "dosbox", an interpreter or a loader. Empty if nothing is missing.
   std::string missing{};
 };
 
-/// `searchPath` is as in `$PATH`. The 32-bit half of Wine is looked for where Debian, Fedora, Arch and Wine's
-/// own packages put it, beside the `wine` that is found; elsewhere it counts as missing.
+/// `searchPath` is written as in `$PATH`. The 32-bit part of Wine is looked for beside the `wine` that is
+/// found, in the folders where the packages of Debian, Fedora, Arch and Wine itself put it; anywhere else it
+/// counts as missing.
 Runner FindRunner(const FileFacts& facts, std::string_view searchPath);
 
 }  // namespace orvanta

@@ -7,8 +7,8 @@
 
 namespace orvanta {
 
-/// Ticks while it is enabled, whenever the event loop runs. Enabling it begins a new interval; ticks that
-/// come late merge into one.
+/// Ticks while it is enabled and the event loop runs. Enabling it starts a new interval. Late ticks merge
+/// into one.
 class Timer : public PropertyOwner {
  public:
   /// `interval` in milliseconds, at least 1.
@@ -19,10 +19,10 @@ class Timer : public PropertyOwner {
 
   Property<bool> Enabled;
 
-  /// When the next tick is due, `kNever` while disabled.
+  /// When the next tick is due; `kNever` while disabled.
   Milliseconds Due() const { return due_; }
   Form& OwnerForm() const { return form_; }
-  /// Begins the next interval, then calls the handler.
+  /// Starts the next interval, then calls the handler.
   void Tick(Milliseconds now);
   void PropertyChanged(const void* property) override;
 

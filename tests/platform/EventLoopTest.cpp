@@ -7,7 +7,7 @@
 namespace orvanta::test {
 namespace {
 
-/// A form of 200 by 200 pixels with a picture that covers it and a clock.
+/// A form of 200 by 200 pixels with a clock and a picture that covers it.
 struct Window : Form {
   explicit Window(HeadlessHost& host)
       : Form(host, {.name = "Window", .width = 3000, .height = 3000, .centred = false}) {
@@ -37,11 +37,11 @@ TEST_F(Looping, APumpDeliversOnlyWhatWasDueWhenItBegan) {
   };
   host.Click({5, 5});
   Pump();
-  EXPECT_EQ(clicks, 1) << "the click that a click brings waits";
-  EXPECT_EQ(form.ticks, Times{}) << "and so does the tick that fell due meanwhile";
+  EXPECT_EQ(clicks, 1) << "a click made by a click handler has to wait";
+  EXPECT_EQ(form.ticks, Times{}) << "and so does a tick that became due meanwhile";
   Pump();
   EXPECT_EQ(clicks, 2);
-  EXPECT_EQ(form.ticks, Times{400}) << "seven late ticks are one";
+  EXPECT_EQ(form.ticks, Times{400}) << "seven late ticks merge into one";
 }
 
 TEST_F(Looping, TicksKeepTheirPaceAndOneThatPumpsIsReenteredAtItsNextInterval) {
@@ -63,7 +63,7 @@ TEST_F(Looping, TicksKeepTheirPaceAndOneThatPumpsIsReenteredAtItsNextInterval) {
   pumping.Enabled = form.timer.Enabled = true;
   host.RunFor(50);
   EXPECT_EQ(deepest, 3);
-  EXPECT_EQ(form.ticks, (Times{150, 200, 720, 770, 840, 900, 960})) << "a nested pump has delivered each";
+  EXPECT_EQ(form.ticks, (Times{150, 200, 720, 770, 840, 900, 960})) << "each was delivered by a nested pump";
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// What kind of program a file is, what it needs, and how texts become the arguments of one.
+// What kind of program a file is, what it needs, and how a text is split into arguments.
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@ namespace orvanta::test {
 using Words = std::vector<std::string>;
 using enum FileKind;
 
-// Writes a number of two or four bytes into `image`, lowest byte first.
+// Writes a number of two or four bytes into `image`, low byte first.
 static std::string With(std::string image, std::size_t at, std::uint32_t value, std::size_t bytes = 2) {
   std::string number;
   for (; number.size() < bytes; value >>= 8) number += static_cast<char>(value & 0xFF);
@@ -28,7 +28,7 @@ static FileFacts Facts(const std::string& name, const std::string& content, bool
                  name, executable);
 }
 
-TEST(FileKind, IsToldByContentBeforeNameAndByTheBitOnlyForNativeOnes) {
+TEST(FileKind, DependsOnContentBeforeNameAndOnTheBitForNativeProgramsAlone) {
   // 200 bytes on one page, with a header of 32.
   const std::string dos =
       With(With(With(With("MZ" + std::string(198, '\0'), 2, 200), 4, 1), 8, 2), 0x18, 0x1C);
@@ -37,7 +37,7 @@ TEST(FileKind, IsToldByContentBeforeNameAndByTheBitOnlyForNativeOnes) {
   const std::string windows = after({"PE\0\0", 4});
   // One section at the end of the file.
   const std::string sections = With(With(With(windows, 0x86, 1), 0xA8, 1, 4), 0xAC, 0xFF, 4);
-  // PKLITE and its like write a notice over the bytes where the place of a new header would stand.
+  // PKLITE and similar packers write a notice where the position of a new header would be.
   const std::string packed =
       With(dos, 0x18, 0x52).replace(0x1E, 40, "PKLITE Copr. 1990-91 PKWARE Inc. All Rig");
   const std::map<FileKind, Words> programs{
@@ -89,7 +89,7 @@ TEST(FileKind, NamesWhatAProgramNeedsAndFindsOutWhetherThisMachineHasIt) {
   EXPECT_EQ(missing(native), "");
 }
 
-// Paths with backslashes at their end are where splitters go wrong.
+// Paths with backslashes at their end are what splitters get wrong.
 TEST(CommandLine, IsSplitAsWindowsDoes) {
   for (const auto& [line, words] : std::vector<std::pair<std::string, Words>>{
            {"  /s\t/demo  a\nb", {"/s", "/demo", "a\nb"}},

@@ -8,7 +8,7 @@
 namespace orvanta::test {
 namespace {
 
-/// From the bottom to the top: `low`, the boxes, `high` and a frame that holds `inner`.
+/// From bottom to top: `low`, the boxes, `high`, and a frame that contains `inner`.
 struct Board : Form {
   explicit Board(HeadlessHost& host)
       : Form(host, {.name = "Board", .width = 3000, .height = 3000, .centred = false}) {
@@ -53,20 +53,20 @@ TEST_F(OnTheBoard, TheTopmostControlThatTakesTheMouseIsClicked) {
   EXPECT_EQ(Clicked({45, 45}), "boxes1") << "a disabled control lets the mouse through";
   board.boxes(1).Visible = false;
   EXPECT_EQ(Clicked({45, 45}), "boxes0");
-  EXPECT_EQ(Clicked({60, 60}), "low") << "the right and lower edge are outside";
+  EXPECT_EQ(Clicked({60, 60}), "low") << "the right and lower edges are outside";
   board.high.Enabled = true;
   board.boxes.LoadNext();
   Image& added = board.boxes(2);
   board.Watch(added);
   EXPECT_EQ(Clicked({15, 15}), "boxes0") << "not shown yet";
   added.Visible = true;
-  EXPECT_EQ(Clicked({15, 15}), "boxes2") << "above its array";
-  EXPECT_EQ(Clicked({45, 45}), "high") << "but under what the design put above that";
+  EXPECT_EQ(Clicked({15, 15}), "boxes2") << "a new element is above its array";
+  EXPECT_EQ(Clicked({45, 45}), "high") << "but below what the design put above the array";
   EXPECT_EQ(Clicked({125, 155}), "inner");
-  EXPECT_EQ(Clicked({115, 155}), "") << "its holder clips it";
+  EXPECT_EQ(Clicked({115, 155}), "") << "the frame clips it";
 }
 
-TEST_F(OnTheBoard, AReleaseThatWentToAnotherWindowDeafensNoControl) {
+TEST_F(OnTheBoard, AReleaseThatWentToAnotherWindowLeavesNoControlUnclickable) {
   std::string seen;
   board.low.MouseUp = [&](const MouseEvent&) { seen += "up "; };
   host.MoveMouse({5, 5});
@@ -80,16 +80,16 @@ TEST_F(OnTheBoard, AReleaseThatWentToAnotherWindowDeafensNoControl) {
   host.Press(kRightButton);
   host.Loop().Pump();
   host.ReleaseUntold(kRightButton);
-  EXPECT_EQ(Clicked({15, 15}), "boxes0") << "pressed without a move";
+  EXPECT_EQ(Clicked({15, 15}), "boxes0") << "pressed without a move before";
   host.MoveMouse({5, 5});
   host.Press();
   host.Loop().Pump();
   EXPECT_EQ(seen, "up ");
   const EventLoop::Modal modal(host.Loop(), nullptr);
-  EXPECT_EQ(seen, "up up ") << "a modal window ends the press as it begins";
+  EXPECT_EQ(seen, "up up ") << "a modal window ends the press when it opens";
 }
 
-TEST_F(OnTheBoard, ASecondPressOfADoubleClickAndAPressOnAHiddenFormGiveNoClick) {
+TEST_F(OnTheBoard, TheSecondPressOfADoubleClickAndAPressOnAHiddenFormAreNotClicks) {
   int clicks = 0;
   board.low.Click = [&] { ++clicks; };
   host.DoubleClick({5, 5});
@@ -106,10 +106,10 @@ TEST_F(OnTheBoard, ASecondPressOfADoubleClickAndAPressOnAHiddenFormGiveNoClick) 
   board.WindowState = Form::kNormal;
   host.Loop().Pump();
   EXPECT_EQ(clicks, 1);
-  EXPECT_EQ(Clicked({45, 45}), "high") << "the release has ended its press";
+  EXPECT_EQ(Clicked({45, 45}), "high") << "the release has ended the press";
 }
 
-// Else a drag would fall behind the mouse on a slow machine.
+// Otherwise a drag would lag behind the mouse on a slow machine.
 TEST_F(OnTheBoard, MovesOfTheMouseMergeBetweenPresses) {
   std::vector<double> seen;
   board.low.MouseMove = [&](const MouseEvent& e) { seen.push_back(e.X); };

@@ -1,4 +1,4 @@
-// What one program pixel is on today's screens.
+// How many screen pixels one program pixel becomes.
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 namespace orvanta {
 namespace {
 
-// Fault: a factor that leaves too little room, or a desktop of twice the resolution that counts for nothing.
+// Faults: a factor that leaves too little room; a desktop's double resolution that is ignored.
 TEST(Zoom, IsTheLargestThatLeavesRoom) {
   constexpr struct {
     Size screen;
@@ -23,7 +23,7 @@ TEST(Zoom, IsTheLargestThatLeavesRoom) {
     EXPECT_EQ(ZoomFor(screen, dotsPerInch), factor) << screen.width << " at " << dotsPerInch;
 }
 
-// Fault: a click on the first or last screen pixel of a button that falls beside it.
+// Fault: a click on the first or last screen pixel of a button that misses it.
 TEST(Zoom, EveryScreenPixelBelongsToTheProgramPixelThatCoversIt) {
   for (const Size shown : {Size{30, 20}, {60, 40}, {90, 60}, {91, 61}, {62, 41}}) {
     const WindowZoom zoom{{30, 20}, shown};
@@ -36,10 +36,10 @@ TEST(Zoom, EveryScreenPixelBelongsToTheProgramPixelThatCoversIt) {
       EXPECT_EQ(zoom.Covering(square), (Rect{x, x, 1, 1}));
     }
   }
-  EXPECT_EQ((WindowZoom{{}, {}}.ToProgram({7, -7})), (Point{7, -7})) << "a window without an area";
+  EXPECT_EQ((WindowZoom{{}, {}}.ToProgram({7, -7})), (Point{7, -7})) << "for a window without an area";
 }
 
-// Faults: a second screen's place that is scaled, a strip that ends before the screen does.
+// Faults: scaling the position of a second screen; a strip that ends before the screen does.
 TEST(Zoom, PlacesCountFromTheScreenAndReachItsEdge) {
   const ScreenZoom zoom{{1920, 100, 3841, 2163}, 2};
   EXPECT_EQ(zoom.ProgramSize(), (Size{1920, 1081}));
