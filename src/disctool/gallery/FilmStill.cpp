@@ -9,13 +9,13 @@
 namespace orvanta {
 namespace {
 
-// From GstPlayFlags, which has no header of its own.
+// A value of GstPlayFlags, which is not declared in any header.
 constexpr guint kPlayVideo = 0x1;
 
 constexpr GstClockTime kPatience = 5 * GST_SECOND;
 constexpr gint64 kPlace = 3 * GST_SECOND;
 
-/// A pipeline that has come to rest with a picture in its sink.
+/// Whether the pipeline has paused with a picture in its sink.
 bool Settled(GstElement* pipeline) {
   return gst_element_get_state(pipeline, nullptr, nullptr, kPatience) == GST_STATE_CHANGE_SUCCESS;
 }
@@ -34,7 +34,7 @@ void Show(GstElement* playbin) {
 
 PicturePtr FilmStill(const std::filesystem::path& film) {
   if (!gst_is_initialized() && !gst_init_check(nullptr, nullptr, nullptr)) return nullptr;
-  // Opening a FIFO waits for a writer, and a device may have no end.
+  // Opening a FIFO would wait for a writer, and a device may be endless.
   std::error_code noFile;
   if (!std::filesystem::is_regular_file(film, noFile)) return nullptr;
   const std::string uri = FindMediaSource(film).uri;

@@ -6,8 +6,9 @@
 
 namespace orvanta {
 
-/// A picture out of a film: that of its third second, since many begin in the dark, or of the middle of a
-/// shorter one. Null for what is no film, and for one that GStreamer has no picture of in five seconds.
+/// A picture from a film: the one at the third second, since many films begin in the dark, or in the middle
+/// of a shorter film. Null if the file is not a film, or if GStreamer has not decoded a picture in five
+/// seconds.
 PicturePtr FilmStill(const std::filesystem::path& film);
 
 }  // namespace orvanta

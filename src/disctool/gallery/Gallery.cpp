@@ -12,10 +12,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Renewed with whatever changes the pictures of an unchanged disc.
+/// Raised whenever the pictures of an unchanged disc change.
 constexpr const char* kVersion = "1";
 
-/// Where the sections of the tree's nodes begin in the disc's files.
+/// Finds the node to which a line in the disc's files belongs.
 class SectionPlaces {
  public:
   SectionPlaces(const Catalogue& catalogue, const MenuTree& tree) {
@@ -27,7 +27,7 @@ class SectionPlaces {
     }
   }
 
-  /// The node in whose section a place lies; null if it is another section.
+  /// The node in whose section the line is; null if it is in another section.
   const MenuNode* NodeAt(const DiscPlace& place) const {
     const auto file = begins_.find(place.file);
     if (file == begins_.end()) return nullptr;

@@ -11,15 +11,16 @@ namespace orvanta {
 
 struct MadeGallery {
   GalleryContents contents;
-  std::string problem;  ///< what went wrong, empty if nothing did
+  std::string problem;  ///< what went wrong; empty on success
 };
 
-/// Pictures every view of a disc, as the shell paints it, into a folder, with a page that shows them beside
-/// the disc's texts and findings. A node of the tree is pictured once, however many ways lead to it; of more
-/// than 10,000 nodes the first ones. Needs a `QGuiApplication`, on any platform.
+/// Takes screenshots of every view of a disc, as the shell paints it, and makes a page that shows them with
+/// the disc's texts and findings. Each node of the menu tree is shown once, however many ways lead to it. If
+/// there are more than 10,000 nodes, the rest is left out. Needs a `QGuiApplication` with any platform
+/// plugin.
 ///
-/// The folder is new, empty or an earlier gallery, which is renewed; one that was interrupted goes on where
-/// it stood. Equal discs and findings give equal files.
+/// The folder must be new, empty or an earlier gallery, which is renewed; an interrupted gallery is
+/// continued. The same disc and findings always give the same files.
 MadeGallery MakeGallery(const std::filesystem::path& disc, const std::filesystem::path& folder,
                         const Findings& findings, const Progress& progress);
 

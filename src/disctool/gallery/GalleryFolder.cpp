@@ -16,10 +16,10 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kFirstWords = "orvanta-gallery 1 ";
-/// The ending of a file that is being written; an interrupted run leaves some.
+/// The extension of a file that is still being written; an interrupted run leaves such files.
 constexpr std::string_view kPart = ".part";
 
-/// A line of the list. Names of the gallery's pictures have no blanks.
+/// A line of the list. The names of the gallery's pictures have no blanks.
 std::string Line(const GalleryPicture& picture) {
   return picture.file + ' ' + std::to_string(picture.size.width) + ' ' + std::to_string(picture.size.height) +
          (picture.ground.empty() ? "" : ' ' + picture.ground) + '\n';
@@ -32,7 +32,7 @@ bool Parse(const std::string& line, GalleryPicture& picture) {
   return true;
 }
 
-/// The list may have come from anywhere: nothing above the gallery's folder is touched.
+/// The list may have been tampered with: nothing outside of the gallery's folder may be touched.
 bool StaysInside(const std::string& file) {
   const fs::path path(file);
   return path.is_relative() && std::ranges::none_of(path, [](const fs::path& part) { return part == ".."; });
@@ -64,7 +64,7 @@ std::string GalleryFolder::Open(const std::string& source) {
   return WriteSiteFile(ListFile(), list);
 }
 
-/// False if the list is one of another source, or damaged.
+/// False if the list belongs to another source or is damaged.
 bool GalleryFolder::ReadList(const std::string& source) {
   std::istringstream list(TextOfFile(ListFile()));
   std::string line;
@@ -73,7 +73,7 @@ bool GalleryFolder::ReadList(const std::string& source) {
   std::error_code error;
   while (std::getline(list, line)) {
     GalleryPicture picture;
-    // The last line of an interrupted run may be cut.
+    // The last line of an interrupted run may be incomplete.
     if (!Parse(line, picture) || !StaysInside(picture.file)) continue;
     if (fs::is_regular_file(folder_ / picture.file, error)) earlier_[picture.file] = picture;
   }
@@ -107,7 +107,7 @@ void GalleryFolder::Written(const std::string& file) {
 
 bool GalleryFolder::Copy(const fs::path& from, const std::string& name) {
   std::error_code error;
-  // A FIFO would be waited for.
+  // Copying a FIFO would wait for a writer.
   if (!fs::is_regular_file(from, error)) return false;
   if (!Earlier(name)) {
     const fs::path part = folder_ / (name + std::string(kPart));

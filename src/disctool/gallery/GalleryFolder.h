@@ -9,33 +9,33 @@
 
 namespace orvanta {
 
-/// The folder that a gallery is made in. A list in it says which files are the gallery's own, so that an
-/// interrupted gallery goes on where it stood, an old one is renewed, and a folder of other things is
-/// refused.
+/// The folder of a gallery. A list in it names the gallery's own files, so that an interrupted gallery is
+/// continued, an old one is renewed, and a folder with other content is refused.
 class GalleryFolder {
  public:
   explicit GalleryFolder(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
-  /// Makes or takes over the folder. Files of a gallery of something else than `source` are removed. Gives
-  /// what is in the way, empty if nothing is.
+  /// Creates or takes over the folder. The files of a gallery of another source are removed. Returns what is
+  /// wrong with the folder; empty if nothing is.
   std::string Open(const std::string& source);
 
   /// A picture of the same source that an earlier run has written; null if there is none.
   const GalleryPicture* Earlier(const std::string& file) const;
-  /// What a picture that is about to be written will be.
+  /// Announces a picture that is about to be written.
   void Expect(const GalleryPicture& picture);
-  /// Notes that the file is complete. Any thread.
+  /// Records that the file is complete. May be called on any thread.
   void Written(const std::string& file);
 
-  /// Copies a file of the disc to `name`. False if that did not work.
+  /// Copies a file of the disc to `name`. False if that fails.
   bool Copy(const std::filesystem::path& from, const std::string& name);
-  /// Writes a text file beside the list, if it is not there with this text already. Gives what went wrong.
+  /// Writes a text file beside the list, unless it exists with this content. Returns what went wrong; empty
+  /// on success.
   std::string WriteText(const std::string& file, const std::string& text);
-  /// Drops files of earlier runs that the gallery no longer has, and lists the rest in order. Gives what went
-  /// wrong.
+  /// Removes files of earlier runs that the gallery does not have any more, and writes the list in order.
+  /// Returns what went wrong; empty on success.
   std::string Finish();
 
-  /// A text that changes with any file of the folder `disc` and with `settings`.
+  /// A text that changes whenever a file of the folder `disc` or `settings` changes.
   static std::string Fingerprint(const std::filesystem::path& disc, const std::string& settings);
 
   const std::filesystem::path& Path() const { return folder_; }

@@ -10,7 +10,8 @@ namespace orvanta {
 
 namespace {
 
-/// Shows a still of a film. Sounds it leaves alone: nobody listens, and a voice would only be waited for.
+/// Shows one picture of a film. It ignores sounds: nobody hears them, and the walk would have to wait for
+/// their end.
 class StillPlayer : public MoviePlayer {
  public:
   explicit StillPlayer(MovieKind kind) : kind_(kind) {}

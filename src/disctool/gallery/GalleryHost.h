@@ -7,8 +7,8 @@
 
 namespace orvanta {
 
-/// A host on a virtual clock whose windows can be pictured: it reads pictures and fonts with Qt, as the
-/// desktop's does. Needs a `QGuiApplication`, on any platform.
+/// A host with a virtual clock that can take screenshots of its windows. It reads pictures and fonts with Qt,
+/// as the desktop host does. Needs a `QGuiApplication` with any platform plugin.
 class GalleryHost : public HeadlessHost {
  public:
   using HeadlessHost::HeadlessHost;
@@ -16,12 +16,12 @@ class GalleryHost : public HeadlessHost {
   PicturePtr LoadPicture(const std::filesystem::path& file) override;
   void AddFont(const std::filesystem::path& file) override { fonts_.Add(file); }
   void RemoveFont(const std::filesystem::path& file) override { fonts_.Remove(file); }
-  /// Plays nothing; a film stands still, with one of its pictures.
+  /// The player plays nothing; a film shows one picture.
   std::unique_ptr<MoviePlayer> MakePlayer(MovieKind kind) override;
 
   /// The pixels of a picture of this host.
   static QImage ImageOf(const Picture& picture);
-  /// The form as it would be painted now; what its outline cuts off is transparent.
+  /// A screenshot of the form; what its outline cuts off is transparent.
   QImage PictureOf(const Form& form) const;
 
  private:

@@ -9,7 +9,7 @@ namespace {
 
 std::string Id(std::size_t number) { return "e" + std::to_string(number); }
 
-/// The element around HTML, with `attributes` as they are to stand.
+/// An element with `attributes` and the content `html`, both already escaped.
 std::string Element(const std::string& name, const std::string& attributes, const std::string& html) {
   return "<" + name + (attributes.empty() ? "" : " " + attributes) + ">" + html + "</" + name + ">\n";
 }
@@ -65,7 +65,7 @@ class Page {
     return Link(number) + " <small>" + HtmlText(At(number).kind) + "</small>";
   }
 
-  /// The tree as lists in lists, without recursion: a disc decides how deep it is.
+  /// The tree as nested lists. It does not recurse, since the disc decides how deep the tree is.
   std::string Outline() const {
     struct Step {
       std::size_t entry, next;
@@ -85,7 +85,7 @@ class Page {
       }
       const std::size_t item = items[step.next++];
       html += "<li>" + LinkWithKind(item);
-      // Browsers stop nesting at some 500 elements; what lies deeper is reached from its own section.
+      // Browsers do not nest more than about 500 elements; deeper items are reached from their own sections.
       constexpr std::size_t kDeepest = 40;
       if (listed[item] || At(item).items.empty() || way.size() == kDeepest) {
         html += "</li>\n";
@@ -159,7 +159,7 @@ class Page {
   }
 
   const GalleryContents& contents_;
-  std::vector<std::size_t> parents_;  // the first menu that leads to an entry
+  std::vector<std::size_t> parents_;  // for each entry, the first menu that leads to it
 };
 
 }  // namespace

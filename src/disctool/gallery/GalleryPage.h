@@ -11,34 +11,34 @@ namespace orvanta {
 
 /// A picture of a gallery.
 struct GalleryPicture {
-  std::string file;    ///< from the gallery's folder on
-  std::string ground;  ///< the picture that it lies on; empty if it stands by itself
+  std::string file;    ///< relative to the gallery's folder
+  std::string ground;  ///< the picture that it is laid on; empty if it is complete by itself
   Size size;           ///< in pixels
-  std::string text;    ///< says what is seen, for those who do not see it
+  std::string text;    ///< alternative text that describes the picture
 };
 
-/// What a gallery shows of a node of the menu tree, or of a window beside the tree. Texts are UTF-8.
+/// What a gallery shows for a node of the menu tree, or for a window outside the tree. Texts are UTF-8.
 struct GalleryEntry {
   std::string title;
-  std::string kind;  ///< in words; empty for what is no node of the tree
+  std::string kind;  ///< in words; empty outside the tree
   std::vector<GalleryPicture> views, shots;
-  std::vector<std::size_t> items;  ///< entries that this one leads to, in its order
+  std::vector<std::size_t> items;  ///< the entries that this one leads to, in the menu's order
   std::string description, requirements, starts;
-  std::string sound;  ///< a file that browsers play; empty if there is none
+  std::string sound;  ///< a file that browsers can play; empty if there is none
   std::vector<std::string> findings;
 };
 
 /// What a gallery's page shows.
 struct GalleryContents {
   std::string title;
-  std::vector<GalleryEntry> entries;  ///< what lies beside the tree, then the tree
+  std::vector<GalleryEntry> entries;  ///< the windows outside the tree, then the tree
   std::size_t root = 0;               ///< the entry of the first menu
-  std::vector<std::string> findings;  ///< of the disc as a whole
-  std::string remark;                 ///< what the page leaves out; empty if nothing
+  std::vector<std::string> findings;  ///< those that concern the whole disc
+  std::string remark;                 ///< what the page leaves out; empty if it is complete
 };
 
-/// The page of a gallery, in the disc's language. It needs `gallery.css` beside it, and `gallery.js` to
-/// search. An entry that is met twice is shown once and linked to.
+/// The page of a gallery, in the disc's language. It needs `gallery.css` beside it, and `gallery.js` for the
+/// search. An entry that occurs more than once is shown once and linked to.
 std::string GalleryPage(const GalleryContents& contents);
 
 /// "program" and the like, in the disc's language.

@@ -18,7 +18,7 @@ GalleryWalk::GalleryWalk(const std::filesystem::path& disc, const Catalogue& cat
         folder_.Written(file.lexically_relative(folder_.Path()).string());
       }),
       visited_(tree.nodes.size()) {
-  // A disc of thousands of entries takes hours of the virtual clock.
+  // A disc with thousands of entries takes hours on the virtual clock.
   host_.deadline = kNever;
 }
 
@@ -78,7 +78,7 @@ void GalleryWalk::Save(const Form& form, std::string text) {
                         QImage(QString::fromStdString((folder_.Path() / picture.file).string())));
   } else {
     QImage view = host_.PictureOf(form);
-    // A window without an area shows nothing.
+    // A window without an area has nothing to show.
     if (view.isNull()) return;
     picture.size = {view.width(), view.height()};
     auto [image, ground] = layers_.Split(picture.file, std::move(view), !Current().views.empty());
@@ -88,7 +88,7 @@ void GalleryWalk::Save(const Form& form, std::string text) {
   Current().views.push_back(std::move(picture));
 }
 
-/// A view of the main window; further ones of an entry are what scrolling brings to sight.
+/// Saves a view of the main window. Further views of the same entry show what scrolling reveals.
 void GalleryWalk::SaveView() {
   const GalleryEntry& entry = Current();
   std::string text = entry.title;
@@ -97,7 +97,8 @@ void GalleryWalk::SaveView() {
   Save(*shell_.MainForm, std::move(text));
 }
 
-/// Depth first, with a stack of its own: a disc decides how deep it goes. Nothing is entered twice.
+/// Walks depth first and does not recurse, since the disc decides how deep the tree is. No node is entered
+/// twice.
 void GalleryWalk::Tree() {
   struct Step {
     std::size_t node, next;
@@ -130,7 +131,7 @@ void GalleryWalk::Tree() {
   }
 }
 
-/// Clicks the label of a node. False if that leads nowhere: the node is inert, or the path is full.
+/// Clicks the label of a node. False if that leads nowhere, because the node is inert or the path is full.
 bool GalleryWalk::Enter(std::size_t node, std::size_t number) {
   if (tree_.nodes[node].kind == NodeKind::Inert) {
     visited_[node] = true;

@@ -16,19 +16,19 @@
 
 namespace orvanta {
 
-/// Goes through a disc as a user would, and pictures what it sees.
+/// Walks through a disc as a user would and takes screenshots on the way.
 class GalleryWalk {
  public:
-  /// Of a larger tree only so many nodes are visited.
+  /// The most nodes that are visited; the rest of a larger tree is left out.
   static constexpr std::size_t kMostNodes = 10'000;
 
   GalleryWalk(const std::filesystem::path& disc, const Catalogue& catalogue, const MenuTree& tree,
               GalleryFolder& folder, const Progress& progress);
 
-  /// Gives what went wrong, empty if nothing did.
+  /// Returns what went wrong; empty on success.
   std::string Go();
 
-  GalleryContents contents;  ///< all but the title and the findings
+  GalleryContents contents;  ///< everything except the title and the findings
 
  private:
   void StartScreen();
@@ -60,11 +60,11 @@ class GalleryWalk {
   const MenuTree& tree_;
   PictureLayers layers_;
   PictureWriter writer_;
-  std::map<std::filesystem::path, GalleryPicture> shots_;  // by the file of the disc
+  std::map<std::filesystem::path, GalleryPicture> shots_;  // by file of the disc
   std::vector<bool> visited_;
   std::size_t visits_ = 0;
-  std::size_t current_ = 0;   // the entry that the next picture belongs to
-  std::size_t pictures_ = 0;  // of the current entry
+  std::size_t current_ = 0;   // the entry of the next picture
+  std::size_t pictures_ = 0;  // number of pictures of the current entry
 };
 
 }  // namespace orvanta

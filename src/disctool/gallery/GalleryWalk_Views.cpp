@@ -1,4 +1,4 @@
-// What there is to see at each place of the walk.
+// What is visible at each place of the walk.
 
 #include <algorithm>
 
@@ -10,15 +10,15 @@ namespace orvanta {
 namespace {
 
 constexpr int kLabelHeight = 26, kShotHeight = 82;
-/// The cinema waits for a second and then places the film.
+/// The cinema waits for a second and then places the film; in milliseconds.
 constexpr Milliseconds kCinemaTime = 3000;
-/// Two looks of the shell at where the mouse is.
+/// Long enough for two ticks, which look where the mouse is; in milliseconds.
 constexpr Milliseconds kGlance = 100;
 
 }  // namespace
 
 void GalleryWalk::StartScreen() {
-  // As on a machine with sound, but without waiting for the voice.
+  // As on a machine with a sound card, but without waiting for the voice.
   shell_.modMain.Main();
   if (const Form* screen = shell_.frmReklama.Loaded(); screen && screen->Visible) {
     const std::string title = AddEntry("Ekran startowy").title;
@@ -42,7 +42,7 @@ void GalleryWalk::Page(Image& page, BarButton button, const char* title) {
   SaveView();
   Scroll(false, static_cast<int>(main.picTlo.Height()));
   page.Click();
-  // A button goes out when the mouse leaves it.
+  // A button looks normal again when the mouse leaves it.
   host_.MoveMouse({});
   host_.RunFor(kGlance);
 }
@@ -60,7 +60,7 @@ void GalleryWalk::Menu() {
   Scroll(false, static_cast<int>(main.picTlo.Height - strip) - kLabelHeight);
 }
 
-/// Drags the knob down, each time by as much as brings `view` further pixels of the content to sight.
+/// Drags the knob down in steps, each of which reveals `view` further pixels of the content.
 void GalleryWalk::Scroll(bool shots, int view) {
   MainForm& main = *shell_.MainForm;
   Slider& slider = main.slider;
@@ -75,7 +75,8 @@ void GalleryWalk::Scroll(bool shots, int view) {
   const auto step = static_cast<std::int32_t>(std::min(wanted, 1e9));
   while (slider.SuwakY < slider.YMax) {
     drag(kDown, step);
-    // A hand is never as sudden: a list that jumps to where the last one stood would not be moved.
+    // Move by one pixel first, as a hand would: a knob that jumps to where the last list stood does not
+    // scroll the new one.
     drag(kUp, 1);
     drag(kDown, 1);
     SaveView();
@@ -93,7 +94,7 @@ void GalleryWalk::Texts(const MenuNode& node) {
     entry.starts += " " + parameters.value;
 }
 
-/// The strip as it scrolls, then each screenshot at its real size.
+/// Saves the strip of screenshots as it scrolls, and then each screenshot at its own size.
 void GalleryWalk::Shots(const MenuNode& node) {
   Scroll(true, static_cast<int>(shell_.MainForm->picShotTlo.Height()) - kShotHeight);
   for (int number = 1; number <= node.shots; ++number) {
@@ -117,7 +118,7 @@ void GalleryWalk::Shots(const MenuNode& node) {
   }
 }
 
-/// Copied where every browser plays it.
+/// Copies the sound if every browser can play it.
 void GalleryWalk::Sound(const MenuNode& node) {
   const std::filesystem::path file = shell_.HostFile(catalogue_.Find(node.name, "Parameters").value);
   const std::string ending = file.extension().string();
@@ -127,7 +128,7 @@ void GalleryWalk::Sound(const MenuNode& node) {
   }
 }
 
-/// The window comes to sight inside the click that opens it.
+/// The cinema appears inside the click that opens it.
 void GalleryWalk::Cinema() {
   bool failed = false;
   host_.After(kCinemaTime, [&] {

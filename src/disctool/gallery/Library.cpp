@@ -12,10 +12,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Kept beside each gallery, so that the library's page can be made again without its disc.
+/// Kept beside each gallery, so that the page of the library can be made again without the disc.
 constexpr const char *kCard = "card.html", *kIndex = "search.json";
 
-/// Makes or renews the gallery of one disc. Gives what went wrong.
+/// Makes or renews the gallery of one disc. Returns what went wrong; empty on success.
 std::string Shelve(LibraryShelf& shelf, const fs::path& disc, const GalleryMaker& make) {
   const std::string stamp = LibraryShelf::StampOf(disc);
   const std::size_t place = shelf.PlaceOf(disc);

@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* kFirstLine = "orvanta-library 1";
 
-/// A name for a folder and an address: letters, digits and hyphens.
+/// A name for the folder and the address of a disc: letters, digits and hyphens.
 std::string Slug(const fs::path& disc) {
   fs::path name = disc.filename().empty() ? disc.parent_path().filename() : disc.filename();
   std::error_code error;
@@ -71,7 +71,7 @@ std::size_t LibraryShelf::PlaceOf(const fs::path& disc) {
 std::string LibraryShelf::Save() const {
   std::string list(kFirstLine);
   list += '\n';
-  // A path may hold anything but a zero.
+  // A path may contain any character except NUL.
   for (const Disc& disc : discs_) list += disc.folder + '\t' + disc.stamp + '\t' + disc.source + '\0' + '\n';
   return WriteSiteFile(ListFile(), list);
 }

@@ -7,29 +7,30 @@
 
 namespace orvanta {
 
-/// The discs of a library and the folders of their galleries, as the list in the library's folder has them.
+/// The discs of a library and the folders of their galleries, as stored in the list in the library's folder.
 class LibraryShelf {
  public:
   struct Disc {
-    std::string folder;  ///< of its gallery, from the library's folder on
-    std::string source;  ///< the absolute path that it was named by
-    std::string stamp;   ///< changes with the disc; empty until its gallery is complete
+    std::string folder;  ///< the folder of its gallery, relative to the library's folder
+    std::string source;  ///< its absolute path
+    std::string stamp;   ///< changes when the disc does; empty until its gallery is complete
   };
 
   explicit LibraryShelf(std::filesystem::path library) : library_(std::move(library)) {}
 
-  /// Takes over the library's folder, or makes it. Gives what is in the way, empty if nothing is.
+  /// Takes over the folder of the library, or creates it. Returns what is wrong with the folder; empty if
+  /// nothing is.
   std::string Open();
-  /// The place of a disc, old or new.
+  /// The index of a disc, which is added if it is new.
   std::size_t PlaceOf(const std::filesystem::path& disc);
   Disc& At(std::size_t place) { return discs_[place]; }
   const std::vector<Disc>& Discs() const { return discs_; }
   std::filesystem::path FolderOf(std::size_t place) const { return library_ / discs_[place].folder; }
-  /// Gives what went wrong, empty if nothing did.
+  /// Returns what went wrong; empty on success.
   std::string Save() const;
 
-  /// A text that changes when a disc does: of a folder with any of its files, of an image with its size or
-  /// time.
+  /// A text that changes when a disc does: for a folder, when any of its files does; for an image, when its
+  /// size or time does.
   static std::string StampOf(const std::filesystem::path& disc);
 
  private:

@@ -9,25 +9,26 @@
 namespace orvanta {
 namespace {
 
-/// Each takes 1.3 MB at the size of the main window.
+/// Each takes 1.3 MB of memory at the size of the main window.
 constexpr std::size_t kMostGrounds = 8;
-/// A view that differs in more than one pixel of so many is a ground of its own, or in more than one of
-/// `kHalf` if what differs has few enough colours for a palette, which makes a file of a third.
+/// A view becomes a ground of its own if more than one pixel in `kAlike` differs from its best ground. If the
+/// pixels that differ have few enough colours for a palette, which makes the file much smaller, the limit is
+/// one in `kHalf`.
 constexpr qsizetype kAlike = 4, kHalf = 2;
 
 std::span<const QRgb> Line(const QImage& image, int y) {
   return {reinterpret_cast<const QRgb*>(image.constScanLine(y)), static_cast<std::size_t>(image.width())};
 }
 
-/// Marks the tiles of a picture that differ from its ground.
+/// The tiles of a picture that differ from its ground.
 class Tiles {
  public:
   explicit Tiles(QSize pixels)
       : columns_((pixels.width() - 1) / kTile + 1),
         differ_(static_cast<std::size_t>(columns_) * Rows(pixels)) {}
 
-  /// Marks the tile of a pixel, and the next one if the pixel lies near its edge: a browser that shows a
-  /// picture smaller mixes neighbours, and those of a kept pixel must not be the transparent ones.
+  /// Marks the tile of a pixel, and the next tile if the pixel is near its edge: a browser that shrinks a
+  /// picture mixes neighbouring pixels, and those of a kept pixel must not be transparent.
   void Mark(int x, int y, QSize pixels) {
     for (const int row :
          {std::max(y - kMargin, 0) / kTile, std::min(y + kMargin, pixels.height() - 1) / kTile})
@@ -78,7 +79,7 @@ std::optional<qsizetype> PixelsThatDiffer(const QImage& ground, const QImage& vi
     const auto below = Line(ground, y), above = Line(view, y);
     for (std::size_t x = 0; x < above.size(); ++x) {
       if (above[x] == below[x]) continue;
-      // Something half transparent would let the ground through.
+      // The ground would show through a pixel that is partly transparent.
       if (qAlpha(above[x]) != 255) return std::nullopt;
       ++differing;
     }

@@ -7,22 +7,22 @@
 
 namespace orvanta {
 
-/// Stores views that have most of their pixels in common once: the first of a kind becomes the *ground* of
-/// those like it, of which only the parts that differ are kept.
+/// Stores what similar views have in common only once: the first of them becomes the *ground* of the others,
+/// of which only the parts that differ are stored.
 class PictureLayers {
  public:
   struct Layered {
-    QImage picture;      ///< of the view's size; where there is a ground, what equals it is transparent
-    std::string ground;  ///< the name of the picture to lay it on; empty if it stands by itself
+    QImage picture;      ///< as large as the view; transparent where it equals the ground
+    std::string ground;  ///< the name of the picture to lay it on; empty if it is complete by itself
   };
 
-  /// Takes a view in `Format_ARGB32_Premultiplied`. `name` is what later views call it by. A scrolled view
-  /// becomes no ground lightly: nothing else looks like it.
+  /// Takes a view in `Format_ARGB32_Premultiplied` with the name by which later views refer to it. A scrolled
+  /// view rarely becomes a ground, since no other view looks like it.
   Layered Split(const std::string& name, QImage view, bool scrolled);
 
-  /// Makes a picture that was stored before known as a ground.
+  /// Adds a picture that was stored earlier to the grounds.
   void AddGround(std::string name, QImage view);
-  /// Whether that still changes anything: a few grounds are enough.
+  /// Whether `AddGround` would still have an effect: only a few grounds are kept.
   bool WantsGrounds() const;
 
  private:
@@ -34,8 +34,8 @@ class PictureLayers {
   std::vector<Ground> grounds_;
 };
 
-/// Counts the pixels of `view` that differ from `ground`; nothing if `view` cannot be laid on it, since the
-/// sizes differ or `view` is transparent where `ground` is not.
+/// The number of pixels in `view` that differ from `ground`; nothing if `view` cannot be laid on it because
+/// the sizes differ, or because `view` is transparent where `ground` is not.
 std::optional<qsizetype> PixelsThatDiffer(const QImage& ground, const QImage& view);
 
 }  // namespace orvanta

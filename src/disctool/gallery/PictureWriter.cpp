@@ -12,12 +12,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Gives each colour of a picture a number, in the order of their first pixels.
+/// Numbers the colours of a picture in the order in which they first occur.
 class Palette {
  public:
-  /// Nothing for the 257th colour.
+  /// Nothing if this is the 257th colour.
   std::optional<std::uint8_t> NumberOf(QRgb colour) {
-    // Neighbours are often alike.
+    // Neighbouring pixels often have the same colour.
     if (colour == last_ && !colours_.empty()) return lastNumber_;
     const auto [at, isNew] = numbers_.try_emplace(colour, static_cast<std::uint8_t>(colours_.size()));
     if (isNew) {
@@ -38,7 +38,7 @@ class Palette {
   std::uint8_t lastNumber_ = 0;
 };
 
-/// Why the file could not be written; empty if it was.
+/// Returns why the file could not be written; empty on success.
 std::string WritePng(const fs::path& file, const QImage& picture) {
   fs::path part = file;
   part += ".part";
@@ -57,7 +57,7 @@ std::string WritePng(const fs::path& file, const QImage& picture) {
 
 QImage WithPalette(const QImage& picture) {
   if (picture.format() == QImage::Format_Indexed8) return picture;
-  // Palettes and PNG files hold colours that are not multiplied by their alpha.
+  // Palettes and PNG files store colours that are not premultiplied.
   const QImage plain = picture.convertToFormat(QImage::Format_ARGB32);
   QImage indexed(plain.size(), QImage::Format_Indexed8);
   Palette palette;

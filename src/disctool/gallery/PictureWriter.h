@@ -13,21 +13,21 @@
 
 namespace orvanta {
 
-/// Writes pictures as PNG files on all cores while the next ones are painted. A picture of at most 256
-/// colours is written with a palette. Equal pictures give equal bytes.
+/// Writes pictures as PNG files on all cores, while the next ones are painted. A picture with at most 256
+/// colours is written with a palette. Equal pictures give equal files.
 class PictureWriter {
  public:
-  /// `written` is called for each file that is complete, one call at a time, on any thread.
+  /// `written` is called for each complete file: one call at a time, on any thread.
   explicit PictureWriter(std::function<void(const std::filesystem::path& file)> written);
   PictureWriter(const PictureWriter&) = delete;
   PictureWriter& operator=(const PictureWriter&) = delete;
-  /// Waits for what is being written; what has not begun is dropped.
+  /// Waits for the files that are being written and drops those that have not been started.
   ~PictureWriter();
 
-  /// Waits while as many pictures as there are cores, and as many again, are not written yet. A file comes
-  /// into being complete or not at all. False if an earlier file could not be written, and nothing more is.
+  /// Waits while two pictures per core are still unwritten. A file appears complete or not at all. False if
+  /// an earlier file could not be written; then nothing more is written.
   bool Write(std::filesystem::path file, QImage picture);
-  /// Waits until everything is written. Gives what went wrong, empty if nothing did.
+  /// Waits until everything is written. Returns what went wrong; empty on success.
   std::string Finish();
 
  private:
@@ -48,7 +48,8 @@ class PictureWriter {
   std::vector<std::thread> threads_;
 };
 
-/// The picture with a palette if it has at most 256 colours, else as it is. No pixel changes.
+/// The picture with a palette if it has at most 256 colours, otherwise unchanged. No pixel changes its
+/// colour.
 QImage WithPalette(const QImage& picture);
 
 }  // namespace orvanta

@@ -8,7 +8,7 @@ namespace {
 
 constexpr char kExtension = '\x21', kPicture = '\x2C';
 constexpr std::size_t kScreenEnd = 13, kPictureHeader = 10;
-/// A block of data has a byte for its length.
+/// The length of a block of data is one byte.
 constexpr std::size_t kLongestBlock = 255;
 
 unsigned Byte(std::string_view bytes, std::size_t at) { return static_cast<unsigned char>(bytes[at]); }
@@ -17,12 +17,12 @@ int Number(std::string_view bytes, std::size_t at) {
   return static_cast<int>(Byte(bytes, at) | Byte(bytes, at + 1) << 8);
 }
 
-/// The length of the colour table that the flags announce.
+/// The length in bytes of the colour table, according to the flags.
 std::size_t TableLength(unsigned flags) {
   return (flags & 0x80) == 0 ? 0 : std::size_t{3} << ((flags & 7) + 1);
 }
 
-/// Behind the blocks that begin at `at`; nothing if the file ends in them.
+/// The position after the blocks that begin at `at`; nothing if the file ends inside them.
 std::optional<std::size_t> BehindBlocks(std::string_view bytes, std::size_t at) {
   while (at < bytes.size()) {
     const unsigned length = Byte(bytes, at);
@@ -32,14 +32,14 @@ std::optional<std::size_t> BehindBlocks(std::string_view bytes, std::size_t at) 
   return std::nullopt;
 }
 
-/// Packs codes of growing width, low bit first, as the data of a picture.
+/// Packs codes of increasing width, low bit first, into the data of a picture.
 class CodeWriter {
  public:
   void Put(unsigned code, unsigned width) {
     bits_ |= code << used_;
     for (used_ += width; used_ >= 8; used_ -= 8, bits_ >>= 8) data_ += static_cast<char>(bits_ & 0xFF);
   }
-  /// The data in blocks, and the block without length that ends them.
+  /// The data in blocks, followed by the empty block that ends them.
   std::string Blocks() {
     if (used_ > 0) data_ += static_cast<char>(bits_ & 0xFF);
     std::string blocks;
@@ -59,7 +59,7 @@ class CodeWriter {
 std::string Compressed(std::span<const std::uint8_t> pixels) {
   constexpr unsigned kDepth = 8, kClear = 1u << kDepth, kEnd = kClear + 1, kMostCodes = 4096;
   CodeWriter out;
-  std::unordered_map<unsigned, unsigned> known;  // code and pixel behind it to the code of both
+  std::unordered_map<unsigned, unsigned> known;  // maps a code and the pixel after it to their common code
   unsigned width = kDepth + 1, next = kEnd + 1;
   out.Put(kClear, width);
   unsigned code = pixels.empty() ? 0 : pixels[0];
@@ -76,7 +76,7 @@ std::string Compressed(std::span<const std::uint8_t> pixels) {
       width = kDepth + 1;
       next = kEnd + 1;
     } else {
-      // The reader learns each code one step later, so the width grows behind the first code that needs it.
+      // A decoder learns each code one step later, so the width increases after the first code that needs it.
       if (next == 1u << width) ++width;
       known.emplace(both, next++);
     }
@@ -100,7 +100,7 @@ std::optional<Size> WholeGifSize(std::string_view bytes) {
   std::optional<std::size_t> at = kScreenEnd + TableLength(Byte(bytes, 10));
   while (at && *at < bytes.size() && bytes[*at] == kExtension) at = BehindBlocks(bytes, *at + 2);
   if (!at || *at + kPictureHeader >= bytes.size() || bytes[*at] != kPicture) return std::nullopt;
-  // A byte for the width of the codes stands before the blocks.
+  // The byte before the blocks is the width of the codes.
   at = BehindBlocks(bytes, *at + kPictureHeader + TableLength(Byte(bytes, *at + 9)) + 1);
   return at && !screen.Empty() ? std::optional(screen) : std::nullopt;
 }

@@ -12,14 +12,14 @@
 
 namespace orvanta {
 
-/// The size of a GIF file whose first picture is whole; nothing if the file is none or ends too early.
-/// Whether the picture's data make sense is not looked at. After GIF89a (CompuServe, 1990).
+/// The size of a GIF file whose first picture is complete; nothing if it is not a GIF file or ends too early.
+/// The compressed data are not checked. Follows GIF89a (CompuServe, 1990).
 std::optional<Size> WholeGifSize(std::string_view bytes);
 
 using GifColour = std::array<std::uint8_t, 3>;  // red, green, blue
 
-/// A GIF file of one picture. `pixels` are rows from the top of indices into `colours`, of which there are 1
-/// to 256.
+/// A GIF file with one picture. `pixels` are its rows from top to bottom, as indices into `colours`, of which
+/// there are 1 to 256.
 std::string GifFile(Size size, std::span<const std::uint8_t> pixels, const std::vector<GifColour>& colours);
 
 }  // namespace orvanta

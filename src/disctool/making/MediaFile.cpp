@@ -16,7 +16,7 @@ std::string Number(std::size_t number, int bytes) {
 std::string Long(std::size_t number) { return Number(number, 4); }
 std::string Short(std::size_t number) { return Number(number, 2); }
 
-/// A chunk begins at an even place.
+/// Chunks begin at even positions.
 std::string Chunk(const std::string& name, const std::string& content) {
   return name + Long(content.size()) + content + std::string(content.size() % 2, '\0');
 }

@@ -8,10 +8,10 @@
 
 namespace orvanta {
 
-/// A WAV file of one channel of 16-bit samples from -1 to 1.
+/// A mono WAV file with 16-bit samples, made of samples from -1 to 1.
 std::string WavFile(std::span<const float> samples, int samplesASecond);
 
-/// An AVI file of pictures that are JPEG files (the format of "AVI RIFF File Reference", Microsoft).
+/// An AVI file made of JPEG files (format: "AVI RIFF File Reference", Microsoft).
 std::string AviFile(Size size, const std::vector<std::string>& pictures, int picturesASecond);
 
 }  // namespace orvanta

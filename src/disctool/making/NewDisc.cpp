@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 
 constexpr int kSamplesASecond = 22050;
 
-/// Files of the disc as they come; the first that cannot be written ends it.
+/// Writes the files of the disc; after the first failure it writes nothing more.
 class Writer {
  public:
   explicit Writer(fs::path folder) : folder_(std::move(folder)) {}
@@ -47,7 +47,7 @@ class Writer {
   const fs::path folder_;
 };
 
-/// The 256 colours that a picture has most of.
+/// The 256 most frequent colours of a picture.
 QList<QRgb> Palette(const QImage& picture) {
   std::map<QRgb, int> counts;
   for (int y = 0; y < picture.height(); ++y)
@@ -74,7 +74,7 @@ std::string Gif(const QImage& picture) {
   return GifFile({indexed.width(), indexed.height()}, pixels, colours);
 }
 
-/// Tones of a bell, each half a second after the one before, in hertz.
+/// Tones of a bell, each starting half a second after the previous one. `tones` are in hertz.
 std::string Chime(const std::vector<float>& tones) {
   constexpr std::size_t kStep = kSamplesASecond / 2;
   std::vector<float> samples(kStep * (tones.size() + 1));
@@ -88,7 +88,7 @@ std::string Chime(const std::vector<float>& tones) {
   return WavFile(samples, kSamplesASecond);
 }
 
-/// A ball that goes round.
+/// A ball that moves in a circle.
 std::string Film() {
   constexpr int kPictures = 40, kPicturesASecond = 10;
   constexpr QSize kSize(320, 240);

@@ -6,7 +6,7 @@
 namespace orvanta {
 
 /// Writes a small complete disc into a new or empty folder, with art to paint over. Needs a
-/// `QGuiApplication`. Gives what went wrong, empty if nothing did.
+/// `QGuiApplication`. Returns what went wrong; empty on success.
 std::string MakeNewDisc(const std::filesystem::path& folder);
 
 }  // namespace orvanta

@@ -37,7 +37,7 @@ void Letter(QImage& image, const QRect& area, const QString& text, int size, con
   painter.drawText(area, static_cast<int>(alignment) | Qt::TextWordWrap, text);
 }
 
-/// The main window: an edge along its outline, and frames around what lies in it.
+/// The main window: an edge along its outline, and frames around its parts.
 QImage Main() {
   QImage image = Sheet(667, 496, kShell.lighter(130), kShell);
   const Region outline = BuildFormRegion();
@@ -67,7 +67,7 @@ QImage Scene(int width, int height, const QString& text) {
   return image;
 }
 
-/// One look of a button: 0 at rest, 1 under the cursor, 2 pressed.
+/// A button as it looks at rest (0), under the cursor (1) or pressed (2).
 QImage Button(const QString& sign, int width, int look) {
   const QColor face = look == 2 ? kEdge : kDeep;
   QImage image = Sheet(width, 22, face.lighter(140), face);
@@ -109,14 +109,14 @@ QImage Line() {
 std::map<std::string, QImage> NewDiscArt() {
   std::map<std::string, QImage> art;
   art["main"] = Main();
-  // The menu's back and top marks stand below the strip too.
+  // The marks for "back" and "to the first menu" are also below the strip.
   art["area"] = Sheet(472, 306, kDeep.lighter(130), kDeep);
   art["line"] = Line();
   QPainter(&art["main"]).drawImage(95, 151, art["line"]);
   art["slider"] = Sheet(24, 255, kDeep, kDeep.darker(150));
   art["knob"] = Sheet(24, 30, kEdge.lighter(130), kEdge);
   art["strip"] = Sheet(4, 4, kShell.lighter(120), kShell);
-  // Taller than the menu area, to have something to scroll.
+  // Taller than the menu area, so that there is something to scroll.
   art["help"] = Page(520, QStringLiteral("Pomoc"),
                      QStringLiteral("Wybierz pozycję z menu.\n\nStrzałka w lewo wraca o jeden "
                                     "poziom, strzałka w górę do początku.\n\nKliknij stronę, "

@@ -6,7 +6,7 @@
 
 namespace orvanta {
 
-/// The pictures of a new disc by the names of their files, without ".gif".
+/// The pictures of a new disc, by their file names without ".gif".
 std::map<std::string, QImage> NewDiscArt();
 
 }  // namespace orvanta

@@ -1,7 +1,7 @@
-// Searches the page. Without it everything is there and nothing is hidden.
+// The search of the page. Without this script everything is shown.
 "use strict";
 (() => {
-  // Letters without their marks, so that "zolw" finds "żółw".
+  // Removes the marks of letters, so that "zolw" finds "żółw".
   const plain = (text) => text.toLowerCase().replace(/ł/g, "l").normalize("NFD").replace(/[\u0300-\u036f]/g, "");
   const sections = [...document.querySelectorAll("main > section")];
   const texts = sections.map((section) => plain(section.textContent));
@@ -22,7 +22,7 @@
   form.hidden = false;
   form.addEventListener("submit", (event) => event.preventDefault());
   words.addEventListener("input", search);
-  // A link must land even where the search has hidden its goal.
+  // A link must work even if the search has hidden its target.
   window.addEventListener("hashchange", () => {
     const goal = document.getElementById(location.hash.slice(1));
     if (!goal || !goal.hidden) return;

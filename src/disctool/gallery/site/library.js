@@ -1,7 +1,7 @@
-// Searches all discs of the library. Without it the covers lead to every disc.
+// The search of all discs of the library. Without this script the covers still lead to every disc.
 "use strict";
 (() => {
-  // Letters without their marks, so that "zolw" finds "żółw".
+  // Removes the marks of letters, so that "zolw" finds "żółw".
   const plain = (text) => text.toLowerCase().replace(/ł/g, "l").normalize("NFD").replace(/[\u0300-\u036f]/g, "");
   const mostShown = 200;
   const texts = entries.map(([, , title, kind, text]) => plain(`${title} ${kind} ${text}`));
