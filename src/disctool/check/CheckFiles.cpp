@@ -6,6 +6,7 @@
 #include "config/NumberedKey.h"
 #include "config/Windows1250.h"
 #include "disctool/check/CheckJob.h"
+#include "disctool/disc/EntryTarget.h"
 
 namespace orvanta {
 namespace {
@@ -82,18 +83,6 @@ bool LiesOnDisc(CheckJob& job, const NamedFile& file) {
     return false;
   }
   return true;
-}
-
-/// With the disc's drive in front, as `DiscFiles` wants it.
-std::string OnDrive(const std::string& path) {
-  const bool hasDrive = path.size() >= 2 && path[1] == ':';
-  return hasDrive ? path : std::string(1, kDrive) + ":" + path;
-}
-
-bool IsAddress(const std::string& value) {
-  for (const char* scheme : {"http:", "https:", "mailto:"})
-    if (EqualNoCase(value.substr(0, std::string(scheme).size()), scheme)) return true;
-  return false;
 }
 
 /// A sound with a drive is taken as it is, any other lies in its folder.

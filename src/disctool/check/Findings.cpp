@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <tuple>
 
+#include "disctool/JsonObject.h"
 #include "disctool/OutputText.h"
 
 namespace orvanta {
@@ -36,18 +37,14 @@ std::string FindingsText(const Findings& findings) {
 }
 
 std::string FindingsJson(const Findings& findings) {
-  std::string text = "{\"errors\": " + std::to_string(findings.Errors()) +
-                     ", \"warnings\": " + std::to_string(findings.Warnings()) + ", \"findings\": [";
-  bool first = true;
+  std::vector<std::string> list;
   for (const Finding& finding : findings.List()) {
-    text += first ? "\n" : ",\n";
-    first = false;
-    text += "  {\"file\": " + JsonText(finding.place.file.native()) +
-            ", \"line\": " + std::to_string(finding.place.line);
-    text.append(", \"severity\": \"").append(NameOf(finding.severity));
-    text.append("\", \"id\": \"").append(finding.id).append("\", \"text\": ") += JsonText(finding.text) + "}";
+    JsonObject json;
+    json.Text("file", finding.place.file.native()).Number("line", finding.place.line);
+    json.Text("severity", NameOf(finding.severity)).Text("id", finding.id);
+    list.push_back(json.Text("text", finding.text).Done());
   }
-  return text + "\n]}\n";
+  return JsonArray(list);
 }
 
 }  // namespace orvanta

@@ -42,7 +42,7 @@ class Findings {
 
 /// `file:line: error: text`, a line each, like a compiler's.
 std::string FindingsText(const Findings& findings);
-/// `{"errors", "warnings", "findings": [{"file", "line", "severity", "id", "text"}]}`
+/// `[{"file", "line", "severity", "id", "text"}]` in one line.
 std::string FindingsJson(const Findings& findings);
 
 }  // namespace orvanta

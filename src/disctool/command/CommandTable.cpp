@@ -9,6 +9,10 @@ namespace {
 
 constexpr OptionInfo kJson{"json", "", Translatable("Write JSON for other programs.")};
 
+constexpr OptionInfo kFrom{"from", "FILE",
+                           Translatable("Take more discs from a list, one a line or ended by NUL bytes; "
+                                        "- is the standard input.")};
+
 constexpr OptionInfo kOpenOptions[] = {
     {"zoom", "N|auto",
      Translatable("Show everything N times as large, from 1 to 8. The default, auto, suits the screen.")},
@@ -16,8 +20,15 @@ constexpr OptionInfo kOpenOptions[] = {
      Translatable("Remove the unpacked copies of images first. Without DISC, do nothing else.")}};
 constexpr ExampleInfo kOpenExamples[] = {{"orvanta-disc open disc.iso", Translatable("Opens an image.")}};
 
+constexpr OptionInfo kInfoOptions[] = {kJson, kFrom};
+constexpr ExampleInfo kInfoExamples[] = {
+    {"orvanta-disc info disc.iso", Translatable("Shows a disc at a glance.")},
+    {"find discs -name '*.iso' -print0 | orvanta-disc info --json --from -",
+     Translatable("Writes a line of JSON for each image in a folder.")}};
+
 constexpr OptionInfo kCheckOptions[] = {
     kJson,
+    kFrom,
     {"strict", "", Translatable("Count warnings as errors in the exit status.")},
     {"explain", "ID", Translatable("Explain a kind of finding by its id, as --json writes it.")}};
 constexpr ExampleInfo kCheckExamples[] = {
@@ -25,8 +36,17 @@ constexpr ExampleInfo kCheckExamples[] = {
     {"orvanta-disc check --strict my-disc && make-image my-disc",
      Translatable("Goes on only with a disc without a finding.")}};
 
-constexpr OptionInfo kTreeOptions[] = {kJson};
+constexpr OptionInfo kTreeOptions[] = {kJson, kFrom};
 constexpr ExampleInfo kTreeExamples[] = {{"orvanta-disc tree disc.iso", Translatable("Lists the menus.")}};
+
+constexpr OptionInfo kFindOptions[] = {kJson, kFrom};
+constexpr ExampleInfo kFindExamples[] = {
+    {"orvanta-disc find 'atlas zolw' *.iso",
+     Translatable("Finds what has both words, be they written with Polish letters or without.")}};
+
+constexpr OptionInfo kDiffOptions[] = {kJson};
+constexpr ExampleInfo kDiffExamples[] = {
+    {"orvanta-disc diff first.iso second.iso", Translatable("Shows what changed between two pressings.")}};
 
 constexpr ExampleInfo kGalleryExamples[] = {
     {"orvanta-disc gallery disc.iso pictures",
@@ -48,14 +68,29 @@ constexpr CommandInfo kCommands[] = {
                   "user's cache once and used again until it changes. Without a terminal, as from a file "
                   "manager, windows show the progress and any problem."),
      kOpenOptions, kOpenExamples},
-    {"check", "DISC", Translatable("List everything that is wrong with a disc"),
-     Translatable("Lists everything that is wrong with a disc, one finding per line, as FILE:LINE: "
-                  "error|warning: TEXT. Line 0 stands for the whole file."),
+    {"info", "DISC...", Translatable("Show discs at a glance"),
+     Translatable(
+         "Shows the title, label, dates and size of each disc, its entries by kind, its programs with "
+         "what runs them on this machine, and how much is wrong with it."),
+     kInfoOptions, kInfoExamples},
+    {"check", "DISC...", Translatable("List everything that is wrong with discs"),
+     Translatable("Lists everything that is wrong with each disc, one finding per line, as FILE:LINE: "
+                  "error|warning: TEXT. Without a line the whole file is meant."),
      kCheckOptions, kCheckExamples},
-    {"tree", "DISC", Translatable("Show the menu tree"),
+    {"tree", "DISC...", Translatable("Show the menu tree"),
      Translatable("Lists the menu tree with the kind of each item: menu, program, music, film, or inert for "
                   "an item that does nothing."),
      kTreeOptions, kTreeExamples},
+    {"find", "WORDS DISC...", Translatable("Find entries on discs"),
+     Translatable("Lists the menus and entries of each disc whose name, description, requirements or program "
+                  "have all the words, with their way through the menus. Capitals and the marks of letters "
+                  "do not matter."),
+     kFindOptions, kFindExamples},
+    {"diff", "A B", Translatable("Show what changed from one disc to another"),
+     Translatable("Lists what differs between two discs or two states of one: settings, menus, texts and "
+                  "files. + is new in B, - is only in A, ~ has changed. Pictures are compared by their "
+                  "pixels."),
+     kDiffOptions, kDiffExamples},
     {"gallery",
      "DISC OUT",
      Translatable("Make a page with screenshots of every view"),

@@ -2,29 +2,29 @@
 
 #include <ostream>
 
+#include "disctool/JsonObject.h"
 #include "disctool/OutputText.h"
 #include "disctool/check/Check.h"
 #include "disctool/disc/MenuTree.h"
 
 namespace orvanta {
 
-ExitStatus CheckCommand(const DiscTree& disc, DiscProbe& probe, const CheckOptions& options,
-                        std::ostream& out) {
+DiscReport CheckReport(const DiscTree& disc, DiscProbe& probe, const CheckOptions& options) {
   const Findings findings = CheckDisc(disc, probe);
-  out << (options.json ? FindingsJson(findings) : FindingsText(findings));
   const std::size_t faults = options.strict ? findings.List().size() : findings.Errors();
-  return faults == 0 ? kGood : kFaults;
+  if (!options.json) return {FindingsText(findings), {}, faults > 0};
+  JsonObject json = JsonLine(disc.Name().native());
+  json.Number("errors", findings.Errors()).Number("warnings", findings.Warnings());
+  return {json.Value("findings", FindingsJson(findings)).Done() + "\n", {}, faults > 0};
 }
 
-ExitStatus TreeCommand(const DiscTree& disc, bool json, std::ostream& out, std::ostream& err) {
+DiscReport TreeReport(const DiscTree& disc, bool json, bool heading) {
   const Catalogue catalogue(disc);
-  if (catalogue.Empty()) {
-    err << "orvanta-disc: " << Printable(NoDiscIn(disc.Name())) << '\n';
-    return kFaults;
-  }
+  if (catalogue.Empty()) return {{}, NoDiscIn(disc.Name())};
   const MenuTree tree = ReadMenuTree(catalogue);
-  out << (json ? MenuTreeJson(tree) : MenuTreeText(tree));
-  return kGood;
+  const std::string& name = disc.Name().native();
+  if (json) return {JsonLine(name).Value("nodes", MenuTreeJson(tree)).Done() + "\n"};
+  return {(heading ? Printable(name) + ":\n" : "") + MenuTreeText(tree)};
 }
 
 ExitStatus GetCommand(const DiscTree& disc, std::string_view section, std::string_view key,

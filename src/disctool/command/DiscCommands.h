@@ -1,6 +1,7 @@
 #pragma once
 
 #include <iosfwd>
+#include <string>
 #include <string_view>
 
 namespace orvanta {
@@ -8,19 +9,31 @@ namespace orvanta {
 class DiscProbe;
 class DiscTree;
 
-/// What a command of the tool ends with.
-enum ExitStatus : int { kGood = 0, kFaults = 1, kMisuse = 2 };
+/// What a command of the tool ends with. A command over many discs may end with the sum of `kFaults` and
+/// `kUnread`.
+enum ExitStatus : int {
+  kGood = 0,
+  kFaults = 1,  ///< something is wrong with a disc, or nothing was found
+  kMisuse = 2,
+  kUnread = 4  ///< a disc could not be read
+};
+
+/// What a command has to say of one disc.
+struct DiscReport {
+  std::string text{};     ///< for the standard output
+  std::string problem{};  ///< why the disc could not be read; empty if it could
+  bool faults = false;    ///< something is wrong with the disc, or nothing was found on it
+};
 
 struct CheckOptions {
   bool json = false;
   bool strict = false;  ///< warnings count as faults
 };
 
-/// Writes everything that is wrong with a disc. Faults if there is an error.
-ExitStatus CheckCommand(const DiscTree& disc, DiscProbe& probe, const CheckOptions& options,
-                        std::ostream& out);
-/// Writes the menu tree. Faults if there is no disc.
-ExitStatus TreeCommand(const DiscTree& disc, bool json, std::ostream& out, std::ostream& err);
+/// Everything that is wrong with a disc. Faults if there is an error.
+DiscReport CheckReport(const DiscTree& disc, DiscProbe& probe, const CheckOptions& options);
+/// The menu tree; `heading` puts the disc's name above it.
+DiscReport TreeReport(const DiscTree& disc, bool json, bool heading);
 /// Writes the value of a key as the shell looks it up. Faults if it is empty or missing.
 ExitStatus GetCommand(const DiscTree& disc, std::string_view section, std::string_view key,
                       std::ostream& out);

@@ -64,7 +64,8 @@ std::string ExitStatus() {
   };
   return Section(Translated("EXIT STATUS")) + row("0", Translated("Everything is well.")) +
          row("1", Translated("Something is wrong with a disc, or nothing was found.")) +
-         row("2", Translated("The arguments make no sense."));
+         row("2", Translated("The arguments make no sense.")) +
+         row("4", Translated("A disc could not be read; 5 if something is wrong with another one, too."));
 }
 
 std::string ToolPage(std::string_view version) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 
@@ -16,6 +17,9 @@ class DiscProbe {
   virtual bool IsFont(const std::filesystem::path& file) = 0;
   /// The player can open the file; as a film it must have pictures.
   virtual bool CanPlay(const std::filesystem::path& file, bool film) = 0;
+  /// How many pixels of two pictures differ; nothing unless both can be read and are of one size.
+  virtual std::optional<std::uintmax_t> DifferentPixels(const std::filesystem::path& a,
+                                                        const std::filesystem::path& b) = 0;
 };
 
 }  // namespace orvanta

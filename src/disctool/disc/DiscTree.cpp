@@ -1,5 +1,7 @@
 #include "disctool/disc/DiscTree.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <fstream>
 #include <system_error>
@@ -31,18 +33,17 @@ std::string DiscTree::EntryNoCase(const fs::path& folder, const std::string& nam
 }
 
 DiscTree::Entry FolderTree::Look(const std::string& path) const {
+  struct stat status {};
+  if (stat(Place(path).c_str(), &status) != 0) return {};
+  if (S_ISDIR(status.st_mode)) return {Kind::Folder};
+  if (!S_ISREG(status.st_mode)) return {Kind::Other};
+  return {Kind::File, static_cast<std::uintmax_t>(status.st_size), status.st_mtime,
+          (status.st_mode & (S_IXUSR | S_IXGRP | S_IXOTH)) != 0};
+}
+
+bool FolderTree::IsLink(const std::string& path) const {
   std::error_code error;
-  const fs::path place = Place(path);
-  switch (fs::status(place, error).type()) {
-    case fs::file_type::regular: {
-      const std::uintmax_t size = fs::file_size(place, error);
-      return {Kind::File, error ? 0 : size};
-    }
-    case fs::file_type::directory: return {Kind::Folder};
-    case fs::file_type::none:
-    case fs::file_type::not_found: return {};
-    default: return {Kind::Other};
-  }
+  return fs::is_symlink(Place(path), error);
 }
 
 std::vector<std::string> FolderTree::List(const std::string& folder) const {

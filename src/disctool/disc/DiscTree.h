@@ -29,7 +29,9 @@ class DiscTree : public PathLookup {
   };
   struct Entry {
     Kind kind = Kind::Missing;
-    std::uintmax_t size = 0;  ///< of a file, in bytes
+    std::uintmax_t size = 0;    ///< of a file, in bytes
+    std::int64_t modified = 0;  ///< of a file, in seconds since 1970 in UTC; 0 if the disc does not say
+    bool executable = false;    ///< a file that somebody may run
   };
   static constexpr std::uintmax_t kAll = std::numeric_limits<std::uintmax_t>::max();
 
@@ -40,6 +42,10 @@ class DiscTree : public PathLookup {
 
   /// Links are followed.
   virtual Entry Look(const std::string& path) const = 0;
+  /// Whether the entry is a link to another place.
+  virtual bool IsLink(const std::string&) const { return false; }
+  /// The label of an image's volume; empty without one.
+  virtual std::string Label() const { return {}; }
   /// The names in a folder, in any order; none if it cannot be read.
   virtual std::vector<std::string> List(const std::string& folder) const = 0;
   /// Up to `most` bytes from the place `from` on, fewer at the file's end. Nothing if that is not a file or
@@ -72,6 +78,7 @@ class FolderTree : public DiscTree {
   using DiscTree::DiscTree;
 
   Entry Look(const std::string& path) const override;
+  bool IsLink(const std::string& path) const override;
   std::vector<std::string> List(const std::string& folder) const override;
   std::optional<std::string> Read(const std::string& path, std::uintmax_t from = 0,
                                   std::uintmax_t most = kAll) const override;

@@ -4,7 +4,9 @@
 
 #include "config/NumberedKey.h"
 #include "config/Windows1250.h"
+#include "disctool/JsonObject.h"
 #include "disctool/OutputText.h"
+#include "disctool/Translation.h"
 
 namespace orvanta {
 namespace {
@@ -58,15 +60,15 @@ class Builder {
 
 }  // namespace
 
-std::string_view NameOf(NodeKind kind) {
+const char* NameOf(NodeKind kind) {
   switch (kind) {
-    case NodeKind::Menu: return "menu";
-    case NodeKind::Program: return "program";
-    case NodeKind::Music: return "music";
-    case NodeKind::Film: return "film";
+    case NodeKind::Menu: return Translatable("menu");
+    case NodeKind::Program: return Translatable("program");
+    case NodeKind::Music: return Translatable("music");
+    case NodeKind::Film: return Translatable("film");
     case NodeKind::Inert: break;
   }
-  return "inert";
+  return Translatable("inert");
 }
 
 const MenuNode* MenuTree::Find(std::string_view section) const {
@@ -93,7 +95,7 @@ std::string MenuTreeText(const MenuTree& tree) {
     const MenuNode& node = tree.nodes[step.node];
     const bool again = node.kind == NodeKind::Menu && listed[step.node];
     text.append(2 * std::min(step.depth, kDeepestIndent), ' ') += Printable(node.name);
-    text.append(" [").append(NameOf(node.kind)).append(again ? ", see above]\n" : "]\n");
+    text += " [" + Translated(NameOf(node.kind)) + (again ? Translated(", see above") : "") + "]\n";
     if (listed[step.node]) continue;
     listed[step.node] = true;
     for (auto item = node.items.rbegin(); item != node.items.rend(); ++item)
@@ -103,17 +105,15 @@ std::string MenuTreeText(const MenuTree& tree) {
 }
 
 std::string MenuTreeJson(const MenuTree& tree) {
-  std::string text = "{\"nodes\": [";
-  for (std::size_t i = 0; i < tree.nodes.size(); ++i) {
-    const MenuNode& node = tree.nodes[i];
-    text += i == 0 ? "\n" : ",\n";
-    text += "  {\"id\": " + std::to_string(i) + ", \"name\": " + JsonText(node.name);
-    text.append(", \"kind\": \"").append(NameOf(node.kind)).append("\", \"items\": [");
-    for (std::size_t k = 0; k < node.items.size(); ++k)
-      text.append(k == 0 ? "" : ", ").append(std::to_string(node.items[k].node));
-    text += "]}";
+  std::vector<std::string> nodes;
+  for (const MenuNode& node : tree.nodes) {
+    std::vector<std::string> items;
+    for (const MenuItem& item : node.items) items.push_back(std::to_string(item.node));
+    JsonObject json;
+    json.Number("id", nodes.size()).Text("name", node.name).Text("kind", NameOf(node.kind));
+    nodes.push_back(json.Value("items", JsonArray(items)).Done());
   }
-  return text + "\n]}\n";
+  return JsonArray(nodes);
 }
 
 }  // namespace orvanta

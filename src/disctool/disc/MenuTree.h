@@ -10,8 +10,10 @@ namespace orvanta {
 
 enum class NodeKind { Menu, Program, Music, Film, Inert };
 
-/// "menu", "program", "music", "film" or "inert".
-std::string_view NameOf(NodeKind kind);
+inline constexpr std::size_t kNodeKinds = 5;
+
+/// "menu", "program", "music", "film" or "inert"; `Translated` knows these words.
+const char* NameOf(NodeKind kind);
 
 struct MenuItem {
   std::size_t node = 0;
@@ -40,9 +42,9 @@ struct MenuTree {
 
 MenuTree ReadMenuTree(const Catalogue& catalogue);
 
-/// One line a node, indented; a menu's items are listed where it is met first.
+/// One line a node, indented, in the user's language; a menu's items are listed where it is met first.
 std::string MenuTreeText(const MenuTree& tree);
-/// `{"nodes": [{"id", "name", "kind", "items"}]}`; items are ids, and 0 is the root.
+/// `[{"id", "name", "kind", "items"}]` in one line; items are ids, and 0 is the root.
 std::string MenuTreeJson(const MenuTree& tree);
 
 }  // namespace orvanta

@@ -31,6 +31,12 @@ std::string BytesOf(const std::filesystem::path& name) {
   return file.open(QIODevice::ReadOnly) ? file.read(kLargestPicture).toStdString() : std::string();
 }
 
+QImage Pixels(const std::filesystem::path& file) {
+  QImageReader reader(QString::fromStdString(file.string()));
+  reader.setDecideFormatFromContent(true);
+  return reader.read().convertToFormat(QImage::Format_ARGB32);
+}
+
 using Streams = std::unique_ptr<GList, FreeStreams>;
 
 }  // namespace
@@ -64,6 +70,19 @@ bool DesktopProbe::CanPlay(const std::filesystem::path& file, bool film) {
   const Streams video(gst_discoverer_info_get_video_streams(info.get()));
   const Streams audio(gst_discoverer_info_get_audio_streams(info.get()));
   return video || (audio && !film);
+}
+
+std::optional<std::uintmax_t> DesktopProbe::DifferentPixels(const std::filesystem::path& a,
+                                                            const std::filesystem::path& b) {
+  const QImage left = Pixels(a), right = Pixels(b);
+  if (left.isNull() || left.size() != right.size()) return std::nullopt;
+  std::uintmax_t count = 0;
+  for (int y = 0; y < left.height(); ++y) {
+    const auto* was = reinterpret_cast<const QRgb*>(left.constScanLine(y));
+    const auto* is = reinterpret_cast<const QRgb*>(right.constScanLine(y));
+    for (int x = 0; x < left.width(); ++x) count += was[x] != is[x] ? 1U : 0U;
+  }
+  return count;
 }
 
 }  // namespace orvanta

@@ -12,6 +12,8 @@ class DesktopProbe : public DiscProbe {
   bool IsFont(const std::filesystem::path& file) override;
   /// Plays nothing. A file that keeps GStreamer busy for five seconds cannot be played.
   bool CanPlay(const std::filesystem::path& file, bool film) override;
+  std::optional<std::uintmax_t> DifferentPixels(const std::filesystem::path& a,
+                                                const std::filesystem::path& b) override;
 };
 
 }  // namespace orvanta

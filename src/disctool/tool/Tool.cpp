@@ -1,14 +1,11 @@
 #include "disctool/tool/Tool.h"
 
-#include <unistd.h>
-
 #include <QGuiApplication>
 #include <algorithm>
 #include <iostream>
 #include <optional>
 
 #include "disctool/OutputText.h"
-#include "disctool/Progress.h"
 #include "disctool/Translation.h"
 #include "disctool/check/Check.h"
 #include "disctool/check/FindingTable.h"
@@ -19,8 +16,10 @@
 #include "disctool/gallery/Library.h"
 #include "disctool/image/DiscCache.h"
 #include "disctool/making/NewDisc.h"
+#include "disctool/tool/CommandSupport.h"
 #include "disctool/tool/DesktopProbe.h"
 #include "disctool/tool/OpenCommand.h"
+#include "disctool/tool/ReportCommands.h"
 
 namespace orvanta {
 
@@ -36,23 +35,6 @@ int Misuse(const Request& request) {
   return kMisuse;
 }
 
-/// Reports a problem; an empty one is none.
-int Outcome(const std::string& problem) {
-  if (problem.empty()) return kGood;
-  std::cerr << "orvanta-disc: " << Printable(problem) << '\n';
-  return kFaults;
-}
-
-/// Calls `work` with a progress bar where somebody can see one.
-template <class Work>
-auto WithProgress(const std::string& title, Work work) {
-  std::optional<ProgressBar> bar;
-  if (isatty(STDERR_FILENO) != 0) bar.emplace(std::cerr, title);
-  return work([&bar](std::uintmax_t done, std::uintmax_t all) {
-    if (bar) bar->Show(done, all);
-  });
-}
-
 /// Calls `work` with the folder of the disc that the user has named; an image is unpacked for it.
 template <class Work>
 int WithDisc(const Request& request, Work work) {
@@ -60,16 +42,6 @@ int WithDisc(const Request& request, Work work) {
     return DiscCache().Open(request.words.at(0), progress);
   });
   return disc.problem.empty() ? work(disc.folder) : Outcome(disc.problem);
-}
-
-/// Qt's opinions on the machine are no part of what a command has to say.
-void Silent(QtMsgType, const QMessageLogContext&, const QString&) {}
-
-/// Before Qt starts: pictures and fonts need no display.
-int& PreparedForNoDisplay(int& argc) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  qInstallMessageHandler(Silent);
-  return argc;
 }
 
 int Open(const Request& request, int& argc, char** argv) {
@@ -92,17 +64,7 @@ int Written(Request request, const std::string& text) {
 
 int Check(const Request& request, int& argc, char** argv) {
   if (request.Has("explain")) return Written(request, Explanation(request.Option("explain")));
-  return WithDisc(request, [&](const fs::path& folder) -> int {
-    const QGuiApplication application(PreparedForNoDisplay(argc), argv);
-    DesktopProbe probe;
-    return CheckCommand(FolderTree(folder), probe, {request.Has("json"), request.Has("strict")}, std::cout);
-  });
-}
-
-int Tree(const Request& request, int&, char**) {
-  return WithDisc(request, [&](const fs::path& folder) -> int {
-    return TreeCommand(FolderTree(folder), request.Has("json"), std::cout, std::cerr);
-  });
+  return RunCheck(request, argc, argv);
 }
 
 int Gallery(const Request& request, int& argc, char** argv) {
@@ -151,8 +113,9 @@ struct Runner {
   int (*run)(const Request& request, int& argc, char** argv);
 };
 /// One for each command of the table.
-constexpr Runner kRunners[] = {{"open", Open},       {"check", Check}, {"tree", Tree}, {"gallery", Gallery},
-                               {"library", Library}, {"get", Get},     {"new", New}};
+constexpr Runner kRunners[] = {
+    {"open", Open},    {"info", RunInfo},    {"check", Check},     {"tree", RunTree}, {"find", RunFind},
+    {"diff", RunDiff}, {"gallery", Gallery}, {"library", Library}, {"get", Get},      {"new", New}};
 
 int Dispatch(const Request& request, int& argc, char** argv) {
   if (!request.problem.empty()) return Misuse(request);

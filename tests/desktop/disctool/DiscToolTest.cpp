@@ -56,12 +56,13 @@ TEST_F(DiscTool, TellsMisuseFromFaults) {
        {std::string(), std::string("bogus"), std::string("tree"), "tree " + folder + " x",
         "tree --strict " + folder, "get " + folder + " GLOBAL"})
     EXPECT_EQ(Run(misuse), 2) << misuse;
-  EXPECT_EQ(Run("tree /nowhere"), 1);
+  EXPECT_EQ(Run("tree /nowhere"), 4);
   EXPECT_EQ(Run("tree " + folder + " >/dev/full"), 1) << "what was not written is no success";
   EXPECT_EQ(Run("get " + folder + " HEADLINE Caption"), 0);
   EXPECT_EQ(output, "Płyta próbna\n");
   EXPECT_EQ(Run("--help"), 0);
-  for (const char* command : {"open", "check", "tree", "gallery", "library", "get", "new"})
+  for (const char* command :
+       {"open", "info", "check", "tree", "find", "diff", "gallery", "library", "get", "new"})
     EXPECT_TRUE(Told(std::string("\n  ") + command + " "));
   EXPECT_EQ(Run("open " + folder, "-u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM"), 1);
   EXPECT_TRUE(Told("no display"));

@@ -34,9 +34,9 @@ TEST(Catalogue, FindsWhatTheShellFindsInWildTexts) {
 }
 
 std::string Tree(const TestDisc& disc, bool json = false) {
-  std::ostringstream out, err;
-  EXPECT_EQ(TreeCommand(FolderTree(disc.Folder()), json, out, err), kGood) << err.str();
-  return out.str();
+  const DiscReport report = TreeReport(FolderTree(disc.Folder()), json, false);
+  EXPECT_EQ(report.problem, "");
+  return report.text;
 }
 
 TEST(Commands, ListTheTreeFindValuesAndTellFaults) {
@@ -50,12 +50,11 @@ TEST(Commands, ListTheTreeFindValuesAndTellFaults) {
   Muzyka [music]
   Film [film]
 )");
-  EXPECT_TRUE(Tree(disc, true).starts_with(R"({"nodes": [
-  {"id": 0, "name": "MAINMENU", "kind": "menu", "items": [1, 2, 3]},
-)"));
-  std::ostringstream out, err;
-  EXPECT_EQ(TreeCommand(FolderTree(disc.Data()), false, out, err), kFaults);
-  EXPECT_NE(err.str().find("no disc"), std::string::npos);
+  EXPECT_NE(Tree(disc, true)
+                .find(R"(, "nodes": [{"id": 0, "name": "MAINMENU", "kind": "menu", "items": [1, 2, 3]}, )"),
+            std::string::npos);
+  std::ostringstream out;
+  EXPECT_NE(TreeReport(FolderTree(disc.Data()), false, false).problem.find("no disc"), std::string::npos);
   EXPECT_EQ(GetCommand(FolderTree(disc.Folder()), "headline", "CAPTION", out), kGood);
   EXPECT_EQ(GetCommand(FolderTree(disc.Folder()), "Gra", "Execute", out), kGood);
   EXPECT_EQ(GetCommand(FolderTree(disc.Folder()), "Gra", "Parameters", out), kFaults);
@@ -65,14 +64,17 @@ TEST(Commands, ListTheTreeFindValuesAndTellFaults) {
 TEST(Commands, TakeWarningsForFaultsOnlyIfAskedTo) {
   GoodDisc disc;
   FirstBytesProbe probe;
-  std::ostringstream out, json;
+  const auto check = [&](const CheckOptions& options) {
+    return CheckReport(FolderTree(disc.Folder()), probe, options);
+  };
   disc.Set("GLOBAL", "S2_Top", "1.5");
-  EXPECT_EQ(CheckCommand(FolderTree(disc.Folder()), probe, {}, out), kGood);
-  EXPECT_EQ(CheckCommand(FolderTree(disc.Folder()), probe, {.strict = true}, out), kFaults);
+  EXPECT_FALSE(check({}).faults);
+  EXPECT_TRUE(check({.strict = true}).faults);
   disc.Remove("GLOBAL", "S2_Top");
-  EXPECT_EQ(CheckCommand(FolderTree(disc.Folder()), probe, {.json = true}, json), kFaults);
-  EXPECT_TRUE(json.str().starts_with(R"({"errors": 1, "warnings": 0, "findings": [)")) << json.str();
-  EXPECT_NE(json.str().find(R"("severity": "error", "id": "missing-key", "text": "S2_Top of)"),
+  const DiscReport json = check({.json = true});
+  EXPECT_TRUE(json.faults);
+  EXPECT_NE(json.text.find(R"(, "errors": 1, "warnings": 0, "findings": [)"), std::string::npos);
+  EXPECT_NE(json.text.find(R"("severity": "error", "id": "missing-key", "text": "S2_Top of)"),
             std::string::npos);
 }
 
@@ -80,13 +82,13 @@ TEST(Commands, TakeWarningsForFaultsOnlyIfAskedTo) {
 TEST(Commands, TakeAHugeAndHostileDiscInStride) {
   GoodDisc disc;
   FirstBytesProbe probe;
-  std::ostringstream text, out;
+  std::ostringstream text;
   text << "[MAINMENU]\nMenu1=n0\n" << disc.MenuIni();
   for (int i = 0; i < 40000; ++i)
     text << "[n" << i << "]\nMenu1=n" << i + 1 << "\nMenu2=n" << i + 1 << "\nMenu3=n" << i / 2 << "\n";
   disc.File("Data/Menu.ini", text.str());
   const std::clock_t begin = std::clock();
-  EXPECT_EQ(CheckCommand(FolderTree(disc.Folder()), probe, {}, out), kFaults);
+  EXPECT_TRUE(CheckReport(FolderTree(disc.Folder()), probe, {}).faults);
   EXPECT_GT(Tree(disc).size(), 1000U);
   // The bound is two seconds; the sanitizers take several times as long.
   EXPECT_LT(static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC, 10);

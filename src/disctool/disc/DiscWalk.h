@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "disctool/disc/DiscTree.h"
+
+namespace orvanta {
+
+struct DiscFile {
+  std::string path;  ///< as `DiscTree` names it
+  DiscTree::Entry entry;
+};
+
+/// Every file of a disc, sorted by the bytes of the path. Folders that are links are passed over: they may
+/// lead in circles. So are folders more than 64 levels deep, far beyond what any disc has.
+std::vector<DiscFile> FilesOf(const DiscTree& disc);
+
+}  // namespace orvanta

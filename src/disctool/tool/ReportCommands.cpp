@@ -1,0 +1,133 @@
+#include "disctool/tool/ReportCommands.h"
+
+#include <gst/gst.h>
+
+#include <QGuiApplication>
+#include <atomic>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <optional>
+
+#include "disctool/Translation.h"
+#include "disctool/command/DiffCommand.h"
+#include "disctool/command/FindCommand.h"
+#include "disctool/command/InfoCommand.h"
+#include "disctool/command/ManyDiscs.h"
+#include "disctool/image/DiscCache.h"
+#include "disctool/tool/CommandSupport.h"
+#include "disctool/tool/DesktopProbe.h"
+
+namespace orvanta {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Adds the names in the list that the user gave with `--from`. Gives what went wrong, empty if nothing did.
+std::string AddListed(const Request& request, std::vector<std::string>& discs) {
+  if (!request.Has("from")) return {};
+  const std::string list = request.Option("from");
+  std::ifstream file;
+  if (list != "-") file.open(list, std::ios::binary);
+  std::istream& in = list == "-" ? std::cin : file;
+  const std::string text{std::istreambuf_iterator<char>(in), {}};
+  if (!in || (list != "-" && fs::is_directory(list)))
+    return list + ": " + std::strerror(errno ? errno : EISDIR);
+  for (std::string& name : NamesInList(text)) discs.push_back(std::move(name));
+  return {};
+}
+
+/// A disc for reading: a folder as it is, an image unpacked.
+struct ReadableDisc {
+  explicit ReadableDisc(const std::string& named) {
+    std::error_code error;
+    if (!fs::is_directory(named, error)) {
+      opened = DiscCache().Open(named, [](std::uintmax_t, std::uintmax_t) {});
+      problem = opened.problem;
+    }
+    if (problem.empty()) tree.emplace(opened.folder.empty() ? fs::path(named) : opened.folder);
+  }
+
+  OpenedDisc opened;
+  std::optional<FolderTree> tree;
+  std::string problem;
+};
+
+/// Lets `ask` report on every disc that the user named from the argument `first` on.
+template <class Ask>
+int Report(const Request& request, std::size_t first, const Ask& ask) {
+  std::vector<std::string> discs(request.words.begin() + static_cast<std::ptrdiff_t>(first),
+                                 request.words.end());
+  if (const std::string problem = AddListed(request, discs); !problem.empty()) return Outcome(problem);
+  const bool many = discs.size() > 1;
+  ManyDiscs run{.discs = std::move(discs),
+                .json = request.Has("json"),
+                .workers = 0,
+                .out = std::cout,
+                .err = std::cerr};
+  return ReportDiscs(run, [&](const std::string& named) -> DiscReport {
+    const ReadableDisc disc(named);
+    return disc.problem.empty() ? ask(*disc.tree, many) : DiscReport{{}, disc.problem};
+  });
+}
+
+/// Qt and GStreamer, made ready before threads use them.
+class ProbeReady {
+ public:
+  ProbeReady(int& argc, char** argv) : application_(PreparedForNoDisplay(argc), argv) {
+    gst_init_check(nullptr, nullptr, nullptr);
+  }
+  DesktopProbe probe;
+
+ private:
+  const QGuiApplication application_;
+};
+
+}  // namespace
+
+int RunInfo(const Request& request, int& argc, char** argv) {
+  ProbeReady ready(argc, argv);
+  const char* path = std::getenv("PATH");
+  const std::string searchPath = path ? path : "";
+  return Report(request, 0, [&](const DiscTree& disc, bool) {
+    return InfoReport(disc, ready.probe, request.Has("json"), searchPath);
+  });
+}
+
+int RunCheck(const Request& request, int& argc, char** argv) {
+  ProbeReady ready(argc, argv);
+  const CheckOptions options{request.Has("json"), request.Has("strict")};
+  return Report(request, 0,
+                [&](const DiscTree& disc, bool) { return CheckReport(disc, ready.probe, options); });
+}
+
+int RunTree(const Request& request, int&, char**) {
+  return Report(request, 0,
+                [&](const DiscTree& disc, bool many) { return TreeReport(disc, request.Has("json"), many); });
+}
+
+int RunFind(const Request& request, int&, char**) {
+  std::atomic<bool> found = false;
+  const int status = Report(request, 1, [&](const DiscTree& disc, bool) {
+    DiscReport report = FindReport(disc, request.words[0], request.Has("json"));
+    found = found || (report.problem.empty() && !report.faults);
+    report.faults = false;
+    return report;
+  });
+  return found ? status : status | kFaults;
+}
+
+int RunDiff(const Request& request, int& argc, char** argv) {
+  ProbeReady ready(argc, argv);
+  ManyDiscs run{.discs = {request.words[1]}, .json = request.Has("json"), .out = std::cout, .err = std::cerr};
+  return ReportDiscs(run, [&](const std::string&) -> DiscReport {
+    const ReadableDisc before(request.words[0]), after(request.words[1]);
+    for (const ReadableDisc* disc : {&before, &after})
+      if (!disc->problem.empty()) return {{}, disc->problem};
+    return DiffReport(*before.tree, *after.tree, ready.probe, request.Has("json"));
+  });
+}
+
+}  // namespace orvanta
