@@ -91,9 +91,9 @@ TEST_F(EntryMusic, GivesUpOnAFileThatDoesNotOpenAfterTwoSeconds) {
 
 struct Cinema : Story {
   frmKino& Kino() { return *user.shell.frmKino; }
-  HeadlessWindow* WholeScreen() {
-    HeadlessWindow* top = user.host.windows.back();
-    return top->kind == WindowKind::FullScreen && top->visible ? top : nullptr;
+  const HeadlessWindow* WholeScreen() {
+    const StackedWindow& top = *user.host.windows.back();
+    return top.kind == WindowKind::FullScreen && top.visible ? &user.host.WindowOf(top.form) : nullptr;
   }
   std::string Look() override {
     EXPECT_EQ(Kino().ButtonM(KinoButton::Window).Visible(), WholeScreen() != nullptr);

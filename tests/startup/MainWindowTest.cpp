@@ -16,7 +16,7 @@ struct MainWindow : Story {
         {s.frmDociagGora.Loaded(), "Gora "},     {s.frmDociagPrawo1.Loaded(), "Prawo1 "},
         {s.frmDociagPrawo2.Loaded(), "Prawo2 "}, {s.frmDociagPrawo3.Loaded(), "Prawo3 "}};
     std::string names;
-    for (const HeadlessWindow* window : user.host.windows) {
+    for (const StackedWindow* window : user.host.windows) {
       for (const auto& [form, name] : forms)
         if (form == &window->form && window->visible && !window->minimised) names += name;
     }

@@ -1,6 +1,5 @@
 // The scripted screen reader.
 
-#include <algorithm>
 #include <ranges>
 
 #include "platform/headless/HeadlessHost.h"
@@ -18,18 +17,8 @@ const AccessibleNode* FindByName(const AccessibleNode& tree, const std::string& 
 
 }  // namespace
 
-std::vector<AccessibleNode> HeadlessHost::AccessibleWindows() const {
-  std::vector<AccessibleNode> trees;
-  for (const HeadlessWindow* window : windows | std::views::reverse) {
-    if (!window->visible || window->minimised) continue;
-    trees.push_back(window->form.Accessible());
-    if (trees.back().role == AccessibleRole::Decoration) trees.pop_back();
-  }
-  return trees;
-}
-
 void HeadlessHost::Assist(const std::string& name, FormEvent::Kind kind, double value) {
-  for (const HeadlessWindow* window : windows | std::views::reverse) {
+  for (const StackedWindow* window : windows | std::views::reverse) {
     if (!window->visible) continue;
     const AccessibleNode tree = window->form.Accessible();
     const AccessibleNode* node = FindByName(tree, name);

@@ -17,7 +17,7 @@ void HeadlessHost::TakeInput() {
     script_.erase(script_.begin());
     action();
   }
-  for (HeadlessWindow* window : windows) window->PaintDirty();
+  PaintWindows();
 }
 
 void HeadlessHost::WaitForInput(Milliseconds until) {
@@ -34,6 +34,18 @@ void HeadlessHost::Sleep(Milliseconds duration) {
   sleeps.push_back({now_, duration});
   if (OnSleep) OnSleep();
   Advance(now_ + std::max<Milliseconds>(0, duration));
+}
+
+void HeadlessHost::Click(Point at) {
+  MoveMouse(at);
+  Press();
+  Release();
+}
+
+void HeadlessHost::DoubleClick(Point at) {
+  Click(at);
+  PressAgain();
+  Release();
 }
 
 void HeadlessHost::RunFor(Milliseconds duration) {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Host.h"
+#include "platform/StackingHost.h"
 #include "platform/headless/HeadlessWindow.h"
 
 namespace orvanta {
@@ -19,7 +19,7 @@ struct VirtualTimeOut : std::runtime_error {
 
 /// A host without a screen: a clock that moves only when the program waits or sleeps, a mouse that follows a
 /// script, and plain lists of what it was asked for.
-class HeadlessHost : public Host {
+class HeadlessHost : public StackingHost {
  public:
   explicit HeadlessHost(std::filesystem::path discFolder) : driveRoot(std::move(discFolder)) {}
 
@@ -40,8 +40,6 @@ class HeadlessHost : public Host {
   Milliseconds deadline = 3600 * 1000;
 
   // What happened.
-  std::vector<HeadlessWindow*> windows;  ///< from the bottom of the screen to its top
-  Form* active = nullptr;
   struct Message {
     std::string text;
     int style;
@@ -62,23 +60,11 @@ class HeadlessHost : public Host {
   std::vector<Pause> sleeps;
   std::function<void()> OnSleep;  ///< called as a sleep begins, to see what stands on the screen during it
 
-  // The script. Places are pixels of the screen, which the mouse does not leave.
+  // The script.
   void At(Milliseconds time, std::function<void()> action);
   void After(Milliseconds delay, std::function<void()> action) { At(now_ + delay, std::move(action)); }
-  void MoveMouse(Point to);
-  void Press(int button = kLeftButton);
-  void Release(int button = kLeftButton);
-  /// A release of which no form is told, as desktops withhold that of a window that a modal one blocks.
-  void ReleaseUntold(int button = kLeftButton);
   void Click(Point at);
   void DoubleClick(Point at);
-  void ActivateOther() { SetActive(nullptr); }
-  void Activate(Form& form);
-  void Minimise(Form& form);
-  void Restore(Form& form);
-  void RequestClose(Form& form) { Loop().Post({FormEvent::Kind::Close, &form}); }
-  /// What a screen reader is told of the windows on the screen, from the top one down.
-  std::vector<AccessibleNode> AccessibleWindows() const;
   /// A screen reader presses what it knows by this name. Nothing happens if there is no such thing.
   void Invoke(const std::string& name) { Assist(name, FormEvent::Kind::Invoke); }
   /// It sets the value of what it knows by this name.
@@ -90,10 +76,9 @@ class HeadlessHost : public Host {
   /// Lets the program run for so long.
   void RunFor(Milliseconds duration);
 
-  HeadlessWindow& WindowOf(const Form& form) const;
-  /// For the windows: order and activation.
-  void PutOnTop(HeadlessWindow& window, bool activate);
-  void Lost(HeadlessWindow& window);
+  HeadlessWindow& WindowOf(const Form& form) const {
+    return static_cast<HeadlessWindow&>(StackingHost::WindowOf(form));
+  }
 
   Milliseconds Now() override { return now_; }
   void TakeInput() override;
@@ -102,8 +87,6 @@ class HeadlessHost : public Host {
   std::filesystem::path DriveRoot() const override { return driveRoot; }
   bool PrevInstance() const override { return false; }
   Size ScreenSize() const override { return screen; }
-  Point CursorPos() const override { return mouse_; }
-  Form* ActiveForm() const override { return active; }
   std::unique_ptr<FormWindow> MakeWindow(Form& form, WindowKind kind) override;
   void MsgBox(const std::string& text, int style, const std::string& title) override;
   void Sleep(Milliseconds duration) override;
@@ -119,19 +102,12 @@ class HeadlessHost : public Host {
   int StartFile(const StartRequest& request) override;
 
  private:
-  void SetActive(Form* form);
-  HeadlessWindow* UnderMouse() const;
   void Advance(Milliseconds to);
-  void Press(int button, FormEvent::Kind kind);
   void Assist(const std::string& name, FormEvent::Kind kind, double value = 0);
-  void PostMouse(FormEvent::Kind kind, int button = 0);
 
   Milliseconds now_ = 0;
   std::multimap<Milliseconds, std::function<void()>> script_;
-  Point mouse_;
-  int held_ = 0;
   int soundServer_ = 0;
-  Form* capture_ = nullptr;
 };
 
 }  // namespace orvanta

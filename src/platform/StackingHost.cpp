@@ -1,101 +1,102 @@
-// The scripted mouse and the order and activation of windows.
+#include "platform/StackingHost.h"
 
 #include <algorithm>
-
-#include "platform/headless/HeadlessHost.h"
+#include <ranges>
+#include <stdexcept>
 
 namespace orvanta {
 
-HeadlessWindow& HeadlessHost::WindowOf(const Form& form) const {
-  for (HeadlessWindow* window : windows) {
+StackedWindow& StackingHost::WindowOf(const Form& form) const {
+  for (StackedWindow* window : windows) {
     if (&window->form == &form) return *window;
   }
   throw std::logic_error("no window for this form");
 }
 
-HeadlessWindow* HeadlessHost::UnderMouse() const {
+StackedWindow* StackingHost::UnderMouse() const {
   for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
     if ((*window)->Covers(mouse_)) return *window;
   }
   return nullptr;
 }
 
-void HeadlessHost::PostMouse(FormEvent::Kind kind, int button) {
+void StackingHost::PostMouse(FormEvent::Kind kind, int button) {
   Form* form = capture_;
   if (!form) {
-    if (HeadlessWindow* window = UnderMouse()) form = &window->form;
+    if (StackedWindow* window = UnderMouse()) form = &window->form;
   }
   if (!form) return;
   const Rect place = WindowOf(*form).place;
   Loop().Post({kind, form, mouse_ - Point{place.left, place.top}, button, held_});
 }
 
-void HeadlessHost::MoveMouse(Point to) {
+void StackingHost::MoveMouse(Point to) {
+  const Size screen = ScreenSize();
   mouse_ = {std::clamp(to.x, 0, screen.width - 1), std::clamp(to.y, 0, screen.height - 1)};
   PostMouse(FormEvent::Kind::MouseMove);
 }
 
-void HeadlessHost::Press(int button) { Press(button, FormEvent::Kind::MousePress); }
-
-void HeadlessHost::Press(int button, FormEvent::Kind kind) {
+void StackingHost::Press(int button, FormEvent::Kind kind) {
   held_ |= button;
-  HeadlessWindow* window = UnderMouse();
+  StackedWindow* window = UnderMouse();
   if (!capture_) capture_ = window ? &window->form : nullptr;
   if (window) PutOnTop(*window, true);
   if (!window && !capture_) SetActive(nullptr);
   PostMouse(kind, button);
 }
 
-void HeadlessHost::Release(int button) {
+void StackingHost::Release(int button) {
   held_ &= ~button;
   PostMouse(FormEvent::Kind::MouseRelease, button);
   if (held_ == 0) capture_ = nullptr;
 }
 
-void HeadlessHost::ReleaseUntold(int button) {
+void StackingHost::ReleaseUntold(int button) {
   held_ &= ~button;
   if (held_ == 0) capture_ = nullptr;
 }
 
-void HeadlessHost::Click(Point at) {
-  MoveMouse(at);
-  Press();
-  Release();
-}
+void StackingHost::Activate(Form& form) { PutOnTop(WindowOf(form), true); }
 
-void HeadlessHost::DoubleClick(Point at) {
-  Click(at);
-  Press(kLeftButton, FormEvent::Kind::MouseSecondPress);
-  Release();
-}
-
-void HeadlessHost::Activate(Form& form) { PutOnTop(WindowOf(form), true); }
-
-void HeadlessHost::Minimise(Form& form) {
-  HeadlessWindow& window = WindowOf(form);
+void StackingHost::Minimise(Form& form) {
+  StackedWindow& window = WindowOf(form);
   window.minimised = true;
   Lost(window);
   Loop().Post({FormEvent::Kind::Minimise, &form});
 }
 
-void HeadlessHost::Restore(Form& form) {
-  HeadlessWindow& window = WindowOf(form);
+void StackingHost::Restore(Form& form) {
+  StackedWindow& window = WindowOf(form);
   window.minimised = false;
   Loop().Post({FormEvent::Kind::Restore, &form});
   PutOnTop(window, true);
 }
 
-void HeadlessHost::PutOnTop(HeadlessWindow& window, bool activate) {
+std::vector<AccessibleNode> StackingHost::AccessibleWindows() const {
+  std::vector<AccessibleNode> trees;
+  for (const StackedWindow* window : windows | std::views::reverse) {
+    if (!window->visible || window->minimised) continue;
+    trees.push_back(window->form.Accessible());
+    if (trees.back().role == AccessibleRole::Decoration) trees.pop_back();
+  }
+  return trees;
+}
+
+void StackingHost::PaintWindows() {
+  for (StackedWindow* window : windows) window->PaintDirty();
+}
+
+void StackingHost::PutOnTop(StackedWindow& window, bool activate) {
   std::erase(windows, &window);
   windows.push_back(&window);
   // A window stands before its owner and takes the activation in its place.
-  for (HeadlessWindow* owned : windows) {
+  for (StackedWindow* owned : windows) {
     if (owned->owner == &window.form && owned->visible) return PutOnTop(*owned, activate);
   }
   if (activate && window.visible && !window.minimised) SetActive(&window.form);
 }
 
-void HeadlessHost::Lost(HeadlessWindow& window) {
+void StackingHost::Lost(StackedWindow& window) {
   if (capture_ == &window.form) capture_ = nullptr;
   if (active != &window.form) return;
   // The activation falls to the owner of a modal window, else to the topmost window of the program.
@@ -106,7 +107,7 @@ void HeadlessHost::Lost(HeadlessWindow& window) {
   SetActive(window.minimised ? nullptr : next);
 }
 
-void HeadlessHost::SetActive(Form* form) {
+void StackingHost::SetActive(Form* form) {
   if (active == form) return;
   active = form;
   if (form) Loop().Post({FormEvent::Kind::Activate, form});
