@@ -12,7 +12,7 @@
 
 namespace orvanta {
 
-/// Thrown to end the program at once, with all its windows. Whoever runs the shell catches it.
+/// Thrown where a host ends the program by unwinding. Whoever runs the shell catches it.
 struct ProgramEnd {};
 
 /// How the first window of a started program is to appear. Where the window manager decides that, it is not
@@ -49,6 +49,9 @@ class Host : public EventSource {
   Host() : loop_(*this) {}
   virtual ~Host() = default;
   EventLoop& Loop() { return loop_; }
+
+  /// Ends the program at once, with all its windows.
+  [[noreturn]] virtual void EndProgram() { throw ProgramEnd{}; }
 
   /// The folder of the running program, as a path of the disc's drive, and the folder of the host that is the
   /// root of that drive.

@@ -43,7 +43,7 @@ void MainForm::Form_Unload() {
   if (!shell_.modMain.SmallScreen) {
     for (Shell::StripSlot* strip : shell_.Strips()) strip->Unload();
   }
-  throw ProgramEnd{};
+  shell_.host.EndProgram();
 }
 
 }  // namespace orvanta

@@ -7,7 +7,7 @@ namespace orvanta {
 
 void modMain::Main() {
   Host& host = shell_.host;
-  if (host.PrevInstance()) throw ProgramEnd{};
+  if (host.PrevInstance()) host.EndProgram();
   CheckScreenSize();
   ShowPicOpen = false;
   ItemSoundHold = false;
