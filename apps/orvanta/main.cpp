@@ -5,7 +5,7 @@
 
 #include "config/DiscDrive.h"
 #include "platform/desktop/DesktopHost.h"
-#include "platform/desktop/ProgramFolder.h"
+#include "platform/desktop/ShellFolder.h"
 #include "startup/Shell.h"
 
 namespace {
@@ -27,7 +27,7 @@ std::string MissingDisc(const std::filesystem::path& folder) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const std::filesystem::path folder = orvanta::ProgramFolder(argc > 0 ? argv[0] : "");
+  const std::filesystem::path folder = orvanta::ShellFolder(argc > 0 ? argv[0] : "");
   orvanta::DesktopHost host(argc, argv, folder);
   if (const std::string message = MissingDisc(folder); !message.empty()) {
     constexpr int kCriticalBox = 16;

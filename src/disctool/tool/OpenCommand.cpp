@@ -18,8 +18,8 @@
 #include "disctool/disc/Catalogue.h"
 #include "disctool/image/DiscCache.h"
 #include "platform/desktop/DesktopHost.h"
-#include "platform/desktop/window/ProgramIcon.h"
 #include "platform/desktop/window/QtScaling.h"
+#include "platform/desktop/window/ShellIcon.h"
 #include "startup/Shell.h"
 
 namespace orvanta {
@@ -52,7 +52,7 @@ class ProgressWindow {
   void Open() {
     SwitchOffQtScaling();
     application_.emplace(argc_, argv_);
-    QApplication::setWindowIcon(ProgramIcon());
+    QApplication::setWindowIcon(ShellIcon());
     bar_.emplace(QString::fromStdString(Translated("Unpacking the disc...")),
                  QString::fromStdString(Translated("Cancel")), 0, kSteps);
     bar_->setWindowTitle("Orvanta Shell");
@@ -102,7 +102,7 @@ std::string OpenInWindows(const std::filesystem::path& disc, std::optional<int> 
   if (problem.empty() || !HasDisplay()) return problem;
   SwitchOffQtScaling();
   const QApplication application(argc, argv);
-  QApplication::setWindowIcon(ProgramIcon());
+  QApplication::setWindowIcon(ShellIcon());
   QMessageBox box(QMessageBox::Critical, "Orvanta Shell", QString::fromStdString(Printable(problem)));
   box.setTextFormat(Qt::PlainText);
   MakeReadable(box, ZoomOfScreen(*box.screen(), zoom));

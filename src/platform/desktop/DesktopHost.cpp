@@ -10,9 +10,9 @@
 #include "platform/desktop/media/GstPlayer.h"
 #include "platform/desktop/media/SoundCard.h"
 #include "platform/desktop/window/DesktopWindow.h"
-#include "platform/desktop/window/ProgramIcon.h"
 #include "platform/desktop/window/QtPicture.h"
 #include "platform/desktop/window/QtScaling.h"
+#include "platform/desktop/window/ShellIcon.h"
 #include "platform/desktop/window/XWindow.h"
 
 namespace orvanta {
@@ -105,7 +105,7 @@ std::unique_ptr<FormWindow> DesktopHost::MakeWindow(Form& form, WindowKind kind)
 void DesktopHost::MsgBox(const std::string& text, int style, const std::string& title) {
   QMessageBox box(style == kCriticalIcon ? QMessageBox::Critical : QMessageBox::NoIcon, WindowTitle(title),
                   QString::fromStdString(text).remove(QLatin1Char('\r')), QMessageBox::Ok);
-  box.setWindowIcon(ProgramIcon());
+  box.setWindowIcon(ShellIcon());
   box.setTextFormat(Qt::PlainText);
   box.setWindowModality(Qt::ApplicationModal);
   MakeReadable(box, zoom_.factor);
@@ -127,6 +127,6 @@ bool DesktopHost::IsSoundCardEnabled() { return orvanta::IsSoundCardEnabled(); }
 
 std::unique_ptr<MoviePlayer> DesktopHost::MakePlayer(MovieKind kind) { return MakeGstPlayer(kind); }
 
-int DesktopHost::StartFile(const StartRequest& request) { return programs_.Start(request); }
+int DesktopHost::StartFile(const StartRequest& request) { return starter_.Start(request); }
 
 }  // namespace orvanta

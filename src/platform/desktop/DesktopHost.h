@@ -66,7 +66,7 @@ class DesktopHost : public Host {
   ScreenZoom LookAtScreen() const;
   void FollowScreen();
 
-  const FileStarter programs_;  // before Qt's variables are set: started programs get none of them
+  const FileStarter starter_;  // before Qt's variables are set: started programs get none of them
   QApplication application_;
   const std::filesystem::path discFolder_;
   const std::optional<InstanceLock> instance_;

@@ -7,7 +7,7 @@
 #include "platform/desktop/DesktopHost.h"
 #include "platform/desktop/window/Cursors.h"
 #include "platform/desktop/window/PainterCanvas.h"
-#include "platform/desktop/window/ProgramIcon.h"
+#include "platform/desktop/window/ShellIcon.h"
 #include "platform/desktop/window/XWindow.h"
 
 namespace orvanta {
@@ -111,7 +111,7 @@ void DesktopWindow::ShowNow() {
   if (kind_ == WindowKind::Plain || kind_ == WindowKind::Splash) {
     SkipTaskBar(*this);
   } else {
-    setWindowIcon(ProgramIcon());
+    setWindowIcon(ShellIcon());
   }
   // A window manager that frames the window takes it to the screen's corner for a moment.
   showing_ = true;

@@ -1,4 +1,4 @@
-#include "platform/desktop/ProgramFolder.h"
+#include "platform/desktop/ShellFolder.h"
 
 #include <cstdlib>
 #include <system_error>
@@ -25,8 +25,7 @@ fs::path RunningExecutable() {
 
 }  // namespace
 
-fs::path ProgramFolder(std::string_view startedAs, const fs::path& currentFolder,
-                       std::string_view searchPath) {
+fs::path ShellFolder(std::string_view startedAs, const fs::path& currentFolder, std::string_view searchPath) {
   std::error_code error;
   fs::path program = startedAs;
   if (startedAs.find('/') == std::string_view::npos)
@@ -36,10 +35,10 @@ fs::path ProgramFolder(std::string_view startedAs, const fs::path& currentFolder
   return Tidied(program).parent_path();
 }
 
-fs::path ProgramFolder(std::string_view startedAs) {
+fs::path ShellFolder(std::string_view startedAs) {
   std::error_code error;
   const char* searchPath = std::getenv("PATH");
-  return ProgramFolder(startedAs, fs::current_path(error), searchPath ? searchPath : "");
+  return ShellFolder(startedAs, fs::current_path(error), searchPath ? searchPath : "");
 }
 
 }  // namespace orvanta
