@@ -35,7 +35,7 @@ DiscDrive::DiscDrive(std::filesystem::path root, char letter) : root_(std::move(
 FoundPath DiscDrive::Find(std::string_view path, const PathLookup& files) const {
   if (path.empty()) return {FoundPath::Outcome::FileMissing};
   if (path.size() > kLongestPath || path.find('\0') != path.npos) return {};
-  const bool hasDrive = path.size() >= 2 && path[1] == ':';
+  const bool hasDrive = HasDrive(path);
   const bool rooted = IsSeparator(path[0]);
   if (hasDrive && !EqualNoCase(path.substr(0, 1), {&letter_, 1})) return {};
   if (rooted && path.size() >= 2 && IsSeparator(path[1])) return {};

@@ -7,6 +7,9 @@
 
 namespace orvanta {
 
+/// Whether the path begins with a drive: "D:\\x", and also "D:".
+inline bool HasDrive(std::string_view path) { return path.size() >= 2 && path[1] == ':'; }
+
 /// The only drive of a disc: a folder with a drive letter. No other drive exists.
 ///
 /// Names are UTF-8 and match whatever their case; an exact match is preferred. Symbolic links are followed,

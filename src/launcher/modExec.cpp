@@ -1,6 +1,7 @@
 #include "launcher/modExec.h"
 
 #include "launcher/ExecErrorText.h"
+#include "launcher/RequestFor.h"
 #include "startup/Shell.h"
 
 namespace orvanta {
@@ -8,15 +9,8 @@ namespace orvanta {
 namespace {
 
 constexpr int kCriticalBox = 16;
-
-StartRequest::Status StatusOf(FoundPath::Outcome outcome) {
-  switch (outcome) {
-    case FoundPath::Outcome::Found: return StartRequest::Status::Found;
-    case FoundPath::Outcome::FileMissing: return StartRequest::Status::FileMissing;
-    case FoundPath::Outcome::FolderMissing: break;
-  }
-  return StartRequest::Status::FolderMissing;
-}
+/// The greatest number with which the host reports a failure.
+constexpr int LastFailure = 32;
 
 }  // namespace
 
@@ -24,15 +18,14 @@ bool modExec::ExecItem(const std::string& entry) {
   const std::string file = shell_.ini.IniRead(entry, "Execute", kMenuFile);
   const std::string parameters = shell_.ini.IniRead(entry, "Parameters", kMenuFile);
   shell_.MainForm->MousePointer = Form::kHourglassPointer;
-  const FoundPath found = shell_.ini.Drive().Find(file);
-  const int result = shell_.host.StartFile({StatusOf(found.outcome), file, found.path, parameters});
-  if (result > 32) WaitForProgram();
+  const int start = shell_.host.StartFile(RequestFor(file, parameters, shell_.ini.Drive()));
+  const int result = WaitForProgram(start);
   shell_.MainForm->MousePointer = Form::kDefaultPointer;
   ExecError(result);
-  return result > 32;
+  return result > LastFailure;
 }
 
-void modExec::WaitForProgram() {
+int modExec::WaitForProgram(int start) {
   constexpr Milliseconds kPoll = 50;
   // The tick looks for the active window. But if Start was clicked while the music fades, the tick stands
   // still until this wait is over, so the wait has to look itself.
@@ -40,7 +33,12 @@ void modExec::WaitForProgram() {
     return shell_.MainForm->Timer1.Enabled ? shell_.modActiveWindow.AppActive
                                            : shell_.modActiveWindow.CheckActive();
   };
-  while (active()) shell_.host.Loop().PumpOrWait(shell_.host.Now() + kPoll);
+  int result = start;
+  while (result > LastFailure && active()) {
+    shell_.host.Loop().PumpOrWait(shell_.host.Now() + kPoll);
+    result = shell_.host.StartResult(start);
+  }
+  return result;
 }
 
 void modExec::ExecError(std::int32_t code) {

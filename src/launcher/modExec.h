@@ -13,13 +13,14 @@ class modExec {
   explicit modExec(Shell& shell) : shell_(shell) {}
 
   /// Opens the entry's file, then shows the hourglass until the started program becomes active; events are
-  /// delivered meanwhile. If the start fails, reports it at once and returns false.
+  /// delivered meanwhile. If the start fails, reports it as soon as that shows and returns false.
   bool ExecItem(const std::string& entry);
   /// Reports a failed start in a message box; does nothing if `code` is above 32 or below 0.
   void ExecError(std::int32_t code);
 
  private:
-  void WaitForProgram();
+  /// Gives what has become of the start by then.
+  int WaitForProgram(int start);
 
   Shell& shell_;
 };

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/EventLoop.h"
 #include "platform/FormWindow.h"
@@ -19,6 +20,12 @@ struct ProgramEnd {};
 /// used.
 enum class ShowMode { Normal = 1 };
 
+/// A word of a started program's command line.
+struct StartArgument {
+  std::string text;              ///< UTF-8, as written in the catalogue
+  std::filesystem::path file{};  ///< the file that it names on the disc, on the host; empty if there is none
+};
+
 /// A file for the platform to open. `status` is the result of looking up `name` on the disc.
 struct StartRequest {
   enum class Status {
@@ -29,7 +36,8 @@ struct StartRequest {
   Status status = Status::FileMissing;
   std::string name{};            ///< as written in the catalogue; an address (http:, mailto:) has only this
   std::filesystem::path file{};  ///< the file on the host, if found
-  std::string parameters{};      ///< a command line, to be split as Windows programs do
+  std::string parameters{};      ///< the command line as written in the catalogue
+  std::vector<StartArgument> arguments{};  ///< its words, split as Windows programs do
   ShowMode show = ShowMode::Normal;
 };
 
@@ -89,6 +97,9 @@ class Host : public EventSource {
   /// Starts the file without waiting. The result is above 32 for success; a code from 0 to 32 names the
   /// failure.
   virtual int StartFile(const StartRequest& request) = 0;
+  /// The result of a start by now: `start`, which `StartFile` returned for it, or the code of a failure that
+  /// showed only later.
+  virtual int StartResult(int start) { return start; }
 
  private:
   EventLoop loop_;

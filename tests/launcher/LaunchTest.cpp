@@ -27,6 +27,22 @@ TEST_F(Launch, HandsOverFileAndParametersAndWaitsForTheProgramsWindow) {
   EXPECT_TRUE(user.host.messages.empty());
 }
 
+TEST_F(Launch, FindsTheFilesOfTheDiscThatParametersName) {
+  disc.File("Docs/Czytaj to.txt", "Witaj!");
+  disc.Set("Gra", "Parameters",
+           "%:\\docs\\..\\DOCS\\none.txt \"D:\\DOCS\\czytaj TO.txt\" /D:\\docs C:\\docs docs d:");
+  user.Do("start, choose 0, after 3000 leave, click Start");
+  std::map<std::string, std::filesystem::path> named;
+  for (const auto& [text, file] : user.host.started.at(0).arguments) named[text] = file;
+  EXPECT_EQ(named, (std::map<std::string, std::filesystem::path>{
+                       {"D:\\docs\\..\\DOCS\\none.txt", ""},
+                       {"D:\\DOCS\\czytaj TO.txt", disc.Folder() / "Docs/Czytaj to.txt"},
+                       {"/D:\\docs", ""},
+                       {"C:\\docs", ""},
+                       {"docs", ""},
+                       {"d:", disc.Folder()}}));
+}
+
 TEST_F(Launch, HandsOverWhatExistsAndReportsEachFailureAtOnce) {
   using Status = StartRequest::Status;
   user.Do("start, choose 0");
@@ -43,6 +59,15 @@ TEST_F(Launch, HandsOverWhatExistsAndReportsEachFailureAtOnce) {
   user.host.startResult = -1;
   Tell({{"click Start", "1/4 active"}});
   EXPECT_EQ(user.host.messages.size(), 3U) << "this one is not reported";
+}
+
+// Fault: an hourglass that stands for ever after Wine has given up.
+TEST_F(Launch, TellsOfAStartThatFailsWhileItsWindowIsAwaited) {
+  user.Do("start, choose 0");
+  user.host.startFailsAt = user.host.Now() + 2000;
+  EXPECT_LE(Takes("click Start"), 2000 + 50);
+  EXPECT_EQ(user.host.messages.back().text, ExecErrorText(11).value());
+  EXPECT_FALSE(Hourglass());
 }
 
 TEST_F(Launch, LetsTheUserStartGoBackMinimiseAndLeaveWhileItWaits) {

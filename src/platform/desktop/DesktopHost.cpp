@@ -37,7 +37,8 @@ int& PreparedForQt(int& argc) {
 }  // namespace
 
 DesktopHost::DesktopHost(int& argc, char** argv, std::filesystem::path discFolder, std::optional<int> zoom)
-    : application_(PreparedForQt(argc), argv),
+    : starter_(discFolder),
+      application_(PreparedForQt(argc), argv),
       discFolder_(std::move(discFolder)),
       instance_(InstanceLock::Acquire(InstancePlaceFromEnvironment())),
       chosenZoom_(zoom),
@@ -126,7 +127,5 @@ PicturePtr DesktopHost::LoadPicture(const std::filesystem::path& file) { return 
 bool DesktopHost::IsSoundCardEnabled() { return orvanta::IsSoundCardEnabled(); }
 
 std::unique_ptr<MoviePlayer> DesktopHost::MakePlayer(MovieKind kind) { return MakeGstPlayer(kind); }
-
-int DesktopHost::StartFile(const StartRequest& request) { return starter_.Start(request); }
 
 }  // namespace orvanta

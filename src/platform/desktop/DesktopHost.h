@@ -60,13 +60,14 @@ class DesktopHost : public Host {
   void RemoveFont(const std::filesystem::path& file) override { fonts_.Remove(file); }
   bool IsSoundCardEnabled() override;
   std::unique_ptr<MoviePlayer> MakePlayer(MovieKind kind) override;
-  int StartFile(const StartRequest& request) override;
+  int StartFile(const StartRequest& request) override { return starter_.Start(request); }
+  int StartResult(int start) override { return starter_.Result(start); }
 
  private:
   ScreenZoom LookAtScreen() const;
   void FollowScreen();
 
-  const FileStarter starter_;  // before Qt's variables are set: started programs get none of them
+  FileStarter starter_;  // before Qt's variables are set: started programs get none of them
   QApplication application_;
   const std::filesystem::path discFolder_;
   const std::optional<InstanceLock> instance_;

@@ -28,6 +28,8 @@ class HeadlessHost : public StackingHost {
   Size screen{1024, 768};
   bool soundCard = true;
   int startResult = 33;
+  /// When a start turns out to have failed after all.
+  Milliseconds startFailsAt = std::numeric_limits<Milliseconds>::max();
   /// How long the user leaves a message box open; the loop is pumped meanwhile.
   Milliseconds messageHold = 0;
   struct Media {
@@ -100,6 +102,7 @@ class HeadlessHost : public StackingHost {
   bool IsSoundCardEnabled() override { return soundCard; }
   std::unique_ptr<MoviePlayer> MakePlayer(MovieKind kind) override;
   int StartFile(const StartRequest& request) override;
+  int StartResult(int start) override { return now_ < startFailsAt ? start : 11; }
 
  private:
   void Advance(Milliseconds to);

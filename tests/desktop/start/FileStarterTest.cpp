@@ -4,8 +4,11 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+#include <regex>
+
 #include "config/DiscDrive.h"
 #include "desktop/support/Processes.h"
+#include "platform/CommandLine.h"
 #include "platform/desktop/start/FileStarter.h"
 
 namespace orvanta::test {
@@ -35,15 +38,22 @@ struct Desktop : testing::Test {
       setenv("XDG_CONFIG_HOME", (root / "config").c_str(), 1);
       for (const char* none : {"XDG_DATA_DIRS", "XDG_CONFIG_DIRS"}) setenv(none, (root / "none").c_str(), 1);
       unsetenv("XDG_CURRENT_DESKTOP");
-      const FileStarter starter;
+      setenv("WINEPREFIX", winePrefix.c_str(), 1);
+      FileStarter starter(disc);
       setenv("OF_THE_SHELL", "set", 1);
       before();
-      return starter.Start(request);
+      const int number = starter.Start(request);
+      int result = number;
+      Soon([&] { return (result = starter.Result(number)) != number; }, patience);
+      return result;
     });
   }
   int start(
       const fs::path& file, const std::string& parameters = "", void (*before)() = [] {}) const {
-    return start(StartRequest{StartRequest::Status::Found, "D:\\file", file, parameters}, before);
+    StartRequest request{StartRequest::Status::Found, "D:\\file", file, parameters};
+    for (const std::string& word : SplitArguments(parameters))
+      request.arguments.push_back({word, HasDrive(word) ? DiscDrive(disc).Find(word).path : fs::path()});
+    return start(request, before);
   }
   int open(const std::string& address) const { return start(StartRequest{.name = address}); }
   /// A program, on the search path or elsewhere, that reports its name and its arguments.
@@ -69,6 +79,8 @@ struct Desktop : testing::Test {
   }
   const ScratchFolder scratch;
   const fs::path root = scratch.Path(), report = root / "report";
+  fs::path disc = root, winePrefix;
+  std::chrono::milliseconds patience{0};
 };
 
 TEST_F(Desktop, ProgramsThatCannotRunTellWhy) {
@@ -111,12 +123,64 @@ TEST_F(Desktop, ProgramsThatCannotRunTellWhy) {
 TEST_F(Desktop, ProgramsOfAllSystemsGetTheirArguments) {
   ExpectStarted(start(install("Gra o jaźń/start"), R"(/s "D:\Gry i zabawy" "" zażółć $HOME "a \"b\"")"),
                 R"(<start></s><D:\Gry i zabawy><><zażółć><$HOME><a "b">)");
+  const fs::path named = scratch.File("Docs/Czytaj to.txt", "");
+  ExpectStarted(start(install("start"), R"("D:\docs\CZYTAJ TO.TXT" D:\none)"), R"(<start><#><D:\none>)",
+                named);
   for (const char* runner : {"bin/wine", "bin/dosbox"}) install(runner);
-  const fs::path package = scratch.File("-setup.msi", "package"), dos = scratch.File("GRA.COM", "code");
-  ExpectStarted(start(package, "/q \"a b\""), "<wine><start></unix><#></q><a b>", package);
-  ExpectStarted(start(dos, " "), "<dosbox><#><-exit>", dos);
-  ExpectStarted(start(dos, "/s \"a b\""),
-                "<dosbox><-c><mount C \"#\"><-c><C:><-c><GRA.COM /s \"a b\"><-c><exit>", root);
+  const fs::path dos = scratch.File("GRA.COM", "code");
+  EXPECT_GT(start(dos, "D:\\docs\\*.txt"), 32);
+  EXPECT_TRUE(Soon([&] { return fs::exists(report); }));
+  EXPECT_TRUE(ContentOf(report).ends_with("<c:><-c><GRA.COM D:\\docs\\*.txt><-c><exit>"))
+      << ContentOf(report);
+}
+
+// Fault: an hourglass that stands for ever after Wine has given up.
+TEST_F(Desktop, AProgramThatGivesUpAtOnceHasNotStarted) {
+  patience = std::chrono::seconds(1);
+  for (const auto& [body, started] : {std::pair{"exit 1", false},
+                                      {"kill -9 $$", false},
+                                      {"exit 0", true},
+                                      {"/bin/sleep 0.8; exit 1", true}})
+    EXPECT_EQ(start(scratch.Script("p", body)) > 32, started) << body;
+  scratch.Script("bin/wine", "exit 1");
+  EXPECT_EQ(start(scratch.File("setup.msi", "package")), 11);
+}
+
+// Faults: the user's own prefix changed; a program whose disc is taken away by the start of another disc's.
+TEST_F(Desktop, WindowsProgramsHaveTheirDiscAsADrive) {
+  const fs::path gate = scratch.File("gate", ""), calls = root / "calls", prefix = root / "data/orvanta/wine";
+  scratch.Script("bin/wine", "for a in \"${WINEPREFIX##*/}\" \"$@\"; do printf '<%s>' \"$a\"; done >> '" +
+                                 calls.string() + "'; case $1 in start) while [ -e '" + gate.string() +
+                                 "' ]; do /bin/sleep 0.01; done; esac");
+  const fs::path file = scratch.File("1/a.msi", ""), other = scratch.File("2/b.msi", "");
+  scratch.File("1/Docs/Czytaj to.txt", "");
+  const auto hears = [&](const fs::path& of, const std::string& parameters, const std::string& heard) {
+    disc = of.parent_path();
+    fs::remove(calls);
+    EXPECT_GT(start(of, parameters), 32);
+    const std::string expected = "<start></unix><" + of.string() + ">" + heard;
+    EXPECT_TRUE(Soon([&] { return ContentOf(calls).ends_with(expected); })) << ContentOf(calls);
+  };
+  const auto drive = [&](const char* letter) { return fs::read_symlink(prefix / "dosdevices" / letter); };
+  hears(file, "\"d:\\docs\\czytaj TO.txt\" D:\\save.dat /D:", "<D:\\Docs\\Czytaj to.txt><D:\\save.dat></D:>");
+  EXPECT_TRUE(ContentOf(calls).starts_with("<wine><regedit></S><drives.reg><wine><start>")) << "filled first";
+  EXPECT_EQ(drive("d:"), disc);
+  hears(other, "D:\\save.dat", "<E:\\save.dat>");
+  hears(file, "D:", "<D:\\>");
+  EXPECT_EQ(drive("d:"), disc);
+  fs::remove(gate);
+  disc = other.parent_path();
+  EXPECT_TRUE(Soon([&] { return start(other) > 32 && drive("d:") == disc; })) << "free again";
+}
+
+TEST_F(Desktop, APrefixOfTheUsersStaysAsItIs) {
+  install("bin/wine");
+  winePrefix = root / "mine";
+  const fs::path package = scratch.File("-setup.msi", "package"), named = scratch.File("Docs/x.txt", "");
+  ExpectStarted(start(package, "/q D:\\docs\\X.TXT \"a b\""),
+                "<wine><start></unix><" + package.string() + "></q><Z:#><a b>",
+                std::regex_replace(named.string(), std::regex("/"), "\\"));
+  EXPECT_FALSE(fs::exists(root / "mine") || fs::exists(root / "data/orvanta"));
 }
 
 TEST_F(Desktop, DocumentsFoldersAndAddressesGoToTheUsersApplications) {

@@ -19,7 +19,7 @@ struct Started : testing::Test {
     fs::remove(report);
     arguments.insert(arguments.begin(),
                      scratch.Script("p", "{ " + body + "\necho end\n} > '" + report + "'"));
-    EXPECT_EQ(StartProcess(arguments, CurrentEnvironment()), 0);
+    EXPECT_EQ(StartProcess(arguments, CurrentEnvironment()).error, 0);
     EXPECT_TRUE(Soon([&] { return ContentOf(report).ends_with("end\n"); })) << "the program never reported";
     return ContentOf(report);
   }
@@ -43,9 +43,22 @@ TEST_F(Started, ProgramsAreIndependent) {
                std::to_string(getpid()) + " ] && echo alone");
   EXPECT_EQ(self, fs::current_path().string() + "\nalone\nend\n") << "not alone in its session and group";
   const auto begin = std::chrono::steady_clock::now();
-  EXPECT_EQ(StartProcess({"/bin/sleep", "5"}, {}), 0);
+  EXPECT_EQ(StartProcess({"/bin/sleep", "5"}, {}).error, 0);
   EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(4)) << "the start waits";
   EXPECT_TRUE(waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD) << "a child is left over";
+}
+
+// Fault: a lock of the shell that lives on in whoever watches its program, so that it cannot start again.
+TEST_F(Started, WhoWatchesAProgramHasNothingOfTheShellOpen) {
+  const fs::path lock = scratch.File("lock", "");
+  Descriptor held(open(lock.c_str(), O_RDWR));
+  ASSERT_EQ(flock(held.get(), LOCK_EX), 0);
+  const ProcessStart started =
+      StartProcess({"/bin/sleep", "5"}, CurrentEnvironment(), std::chrono::seconds(5));
+  EXPECT_EQ(started.error, 0);
+  held.reset();
+  const Descriptor again(open(lock.c_str(), O_RDWR));
+  EXPECT_TRUE(Soon([&] { return flock(again.get(), LOCK_EX | LOCK_NB) == 0; }, std::chrono::seconds(3)));
 }
 
 TEST_F(Started, SignalsAreDefaultAndNoneIsHeldBack) {
@@ -57,7 +70,7 @@ TEST_F(Started, SignalsAreDefaultAndNoneIsHeldBack) {
               sigemptyset(&some);
               for (const int number : {SIGTERM, SIGRTMAX}) sigaddset(&some, number);
               sigprocmask(SIG_BLOCK, &some, nullptr);
-              return StartProcess({"/bin/cp", "/proc/self/status", report}, {});
+              return StartProcess({"/bin/cp", "/proc/self/status", report}, {}).error;
             }),
             0);
   EXPECT_TRUE(Soon([&] { return ContentOf(report).find("ctxt") != std::string::npos; }));

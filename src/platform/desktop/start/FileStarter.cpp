@@ -8,31 +8,41 @@
 #include <array>
 #include <cerrno>
 #include <system_error>
+#include <utility>
 
-#include "platform/CommandLine.h"
+#include "platform/AsciiText.h"
+#include "platform/DosBox.h"
 #include "platform/FileKind.h"
 #include "platform/Runner.h"
 #include "platform/desktop/Descriptor.h"
 #include "platform/desktop/start/DefaultApplication.h"
+#include "platform/desktop/start/WineDisc.h"
 
 namespace orvanta {
 namespace {
 
 using Arguments = std::vector<std::string>;
+using std::chrono::milliseconds;
 
-bool SameLetter(char a, char b) {
-  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; };
-  return lower(a) == lower(b);
-}
+/// A program that ends with a failure in so short a time has not started.
+constexpr milliseconds Patience{500};
+/// The first program of a user waits until Wine has filled its prefix.
+constexpr milliseconds PatienceForPrefix{120'000};
 
 /// The scheme of an address that is opened as such; empty for everything else.
 std::string_view SchemeOf(std::string_view text) {
   constexpr std::array<std::string_view, 3> Schemes = {"http", "https", "mailto"};
   const std::string_view before = text.substr(0, text.find(':'));
   const auto known = std::ranges::find_if(Schemes, [&](std::string_view scheme) {
-    return before.size() < text.size() && std::ranges::equal(before, scheme, SameLetter);
+    return before.size() < text.size() && EqualNoCaseAscii(before, scheme);
   });
   return known == Schemes.end() ? std::string_view() : *known;
+}
+
+Arguments HostPaths(const std::vector<StartArgument>& arguments) {
+  Arguments paths;
+  for (const auto& [text, file] : arguments) paths.push_back(file.empty() ? text : file.string());
+  return paths;
 }
 
 Arguments Joined(Arguments first, const Arguments& second) {
@@ -40,18 +50,12 @@ Arguments Joined(Arguments first, const Arguments& second) {
   return first;
 }
 
-/// DOSBox takes a program's path, and the program's arguments only as a line for its own prompt.
-Arguments DosBoxArguments(const std::filesystem::path& file, std::string_view parameters) {
-  if (SplitArguments(parameters).empty()) return {file, "-exit"};
-  return {"-c", "mount C \"" + file.parent_path().string() + "\"",        "-c", "C:",
-          "-c", file.filename().string() + " " + std::string(parameters), "-c", "exit"};
-}
-
 }  // namespace
 
-FileStarter::FileStarter(std::vector<std::string> forPrograms) : environment(std::move(forPrograms)) {}
+FileStarter::FileStarter(std::filesystem::path disc, std::vector<std::string> forPrograms)
+    : disc_(std::move(disc)), environment_(std::move(forPrograms)) {}
 
-std::int32_t FileStarter::Start(const StartRequest& request) const {
+std::int32_t FileStarter::Start(const StartRequest& request) {
   const auto code = [&] {
     const std::string_view scheme = SchemeOf(request.name);
     if (!scheme.empty()) return OpenWithApplication(AddressTarget(scheme, request.name));
@@ -59,12 +63,22 @@ std::int32_t FileStarter::Start(const StartRequest& request) const {
     if (request.status == StartRequest::Status::FolderMissing) return StartCode::PathNotFound;
     std::error_code error;
     const std::filesystem::path path = std::filesystem::absolute(request.file, error);
-    return error ? CodeOfError(error.value()) : StartFound(path, request.parameters);
+    return error ? CodeOfError(error.value()) : StartFound(path, request);
   }();
-  return static_cast<std::int32_t>(code);
+  if (latest_.IsOver()) return static_cast<std::int32_t>(code);
+  watches_.emplace(++number_, std::exchange(latest_, {}));
+  return number_;
 }
 
-StartCode FileStarter::StartFound(const std::filesystem::path& file, std::string_view parameters) const {
+std::int32_t FileStarter::Result(std::int32_t start) {
+  const auto watch = watches_.find(start);
+  if (watch == watches_.end()) return start;
+  const bool failed = watch->second.HasFailed();
+  if (watch->second.IsOver()) watches_.erase(watch);
+  return failed ? static_cast<std::int32_t>(StartCode::BadProgram) : start;
+}
+
+StartCode FileStarter::StartFound(const std::filesystem::path& file, const StartRequest& request) {
   struct stat status {};
   if (stat(file.c_str(), &status) != 0) return CodeOfError(errno);
   if (S_ISDIR(status.st_mode)) return OpenFolder(file);
@@ -75,31 +89,45 @@ StartCode FileStarter::StartFound(const std::filesystem::path& file, std::string
   const bool executable = (status.st_mode & (S_IXUSR | S_IXGRP | S_IXOTH)) != 0;
   const FileFacts facts = FactsOf(BytesOfFile(file), file, executable);
   const Runner runner = FindRunner(facts, SearchPath());
+  const auto native = [&] {
+    return Run(Joined({file}, HostPaths(request.arguments)), environment_, Patience);
+  };
   switch (facts.kind) {
-    case FileKind::Native:
-      return runner.missing.empty() ? StartNative(file, parameters) : StartCode::LibraryNotFound;
-    case FileKind::Script:
-      return runner.missing.empty() ? StartNative(file, parameters) : StartCode::IncompleteAssociation;
+    case FileKind::Native: return runner.missing.empty() ? native() : StartCode::LibraryNotFound;
+    case FileKind::Script: return runner.missing.empty() ? native() : StartCode::IncompleteAssociation;
     case FileKind::Windows16:
     case FileKind::Windows32:
-    case FileKind::Windows64: return StartForeign(runner, Joined({file}, SplitArguments(parameters)));
-    case FileKind::WindowsFile:
-      return StartForeign(runner, Joined({"start", "/unix", file}, SplitArguments(parameters)));
-    case FileKind::Dos: return StartForeign(runner, DosBoxArguments(file, parameters));
+    case FileKind::Windows64: return StartWine(runner, {file}, request);
+    case FileKind::WindowsFile: return StartWine(runner, {"start", "/unix", file}, request);
+    case FileKind::Dos: return StartForeign(runner, DosBoxArguments(file, request, disc_));
     case FileKind::Broken: return StartCode::BadProgram;
     case FileKind::Document: break;
   }
   return OpenWithApplication(FileTarget(file));
 }
 
-StartCode FileStarter::StartNative(const std::filesystem::path& file, std::string_view parameters) const {
-  return CodeOfError(StartProcess(Joined({file}, SplitArguments(parameters)), environment));
+StartCode FileStarter::Run(const std::vector<std::string>& command,
+                           const std::vector<std::string>& environment, std::chrono::milliseconds watched) {
+  ProcessStart start = StartProcess(command, environment, watched);
+  latest_ = std::move(start.watch);
+  return CodeOfError(start.error);
 }
 
-StartCode FileStarter::StartForeign(const Runner& runner, const std::vector<std::string>& arguments) const {
+StartCode FileStarter::StartForeign(const Runner& runner, const std::vector<std::string>& arguments) {
   if (runner.path.empty()) return StartCode::NoAssociation;
-  const StartCode code = CodeOfError(StartProcess(Joined({runner.path}, arguments), environment));
+  const StartCode code = Run(Joined({runner.path}, arguments), environment_, Patience);
   // The file is there; what was not found is the runner.
+  return code == StartCode::FileNotFound ? StartCode::NoAssociation : code;
+}
+
+StartCode FileStarter::StartWine(const Runner& runner, std::vector<std::string> arguments,
+                                 const StartRequest& request) {
+  if (runner.path.empty()) return StartCode::NoAssociation;
+  const WineDisc disc(disc_, environment_);
+  if (disc.Error() != 0) return CodeOfError(disc.Error());
+  for (const StartArgument& argument : request.arguments) arguments.push_back(disc.Argument(argument));
+  const auto watched = disc.IsNew() ? PatienceForPrefix : Patience;
+  const StartCode code = Run(disc.Command(runner.path, arguments), disc.Environment(), watched);
   return code == StartCode::FileNotFound ? StartCode::NoAssociation : code;
 }
 
@@ -117,7 +145,7 @@ StartCode FileStarter::OpenWithApplication(const OpenTarget& target) const {
     case ApplicationCommand::State::Missing: return StartCode::IncompleteAssociation;
     case ApplicationCommand::State::Found: break;
   }
-  const StartCode code = CodeOfError(StartProcess(command.arguments, environment));
+  const StartCode code = CodeOfError(StartProcess(command.arguments, environment_).error);
   // The document is there; what was not found is the application.
   return code == StartCode::FileNotFound ? StartCode::IncompleteAssociation : code;
 }
@@ -126,8 +154,8 @@ std::string_view FileStarter::SearchPath() const {
   constexpr std::string_view Name = "PATH=";
   constexpr std::string_view Usual = "/usr/local/bin:/usr/bin:/bin";
   const auto path =
-      std::ranges::find_if(environment, [&](const auto& entry) { return entry.starts_with(Name); });
-  return path == environment.end() ? Usual : std::string_view(*path).substr(Name.size());
+      std::ranges::find_if(environment_, [&](const auto& entry) { return entry.starts_with(Name); });
+  return path == environment_.end() ? Usual : std::string_view(*path).substr(Name.size());
 }
 
 }  // namespace orvanta

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <linux/close_range.h>
+#include <poll.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -10,16 +11,14 @@
 #include <cerrno>
 #include <csignal>
 
-#include "platform/desktop/Descriptor.h"
-
 namespace orvanta {
 namespace {
 
 constexpr int FirstOwnDescriptor = 3;
 
-/// The way by which a child tells why it could not become the program. It is closed by the system when the
-/// program is loaded, so an end without a word is success.
-struct ReportPipe {
+/// A way to hear of a child. It is closed by the system when all who could write have ended or become another
+/// program.
+struct Pipe {
   Descriptor reading;
   Descriptor writing;
 };
@@ -27,10 +26,14 @@ struct ReportPipe {
 /// Everything that a child needs. It is made before the fork: another thread may hold the allocator's lock
 /// then, so the child may not allocate, nor call anything else that signal-safety(7) does not list.
 struct Plan {
-  int report;
+  int report;  ///< for the error that kept the program from being loaded
+  int end;     ///< for a failure of the program while it is watched
+  int rounds;  ///< of `Round` milliseconds, for which the program is watched
   char* const* arguments;
   char* const* environment;
 };
+
+constexpr int Round = 10;
 
 /// Holds back every signal of this thread, so that no handler of this program runs in its children.
 class BlockedSignals {
@@ -57,21 +60,25 @@ std::vector<char*> Pointers(std::vector<std::string>& texts) {
 }
 
 /// The child's end lies above the standard descriptors, which the child is going to replace.
-ReportPipe MakePipe(int& error) {
+Pipe MakePipe(int& error) {
   std::array<int, 2> ends{-1, -1};
   if (pipe2(ends.data(), O_CLOEXEC) != 0) {
     error = errno;
     return {};
   }
   const Descriptor writing(ends[1]);
-  ReportPipe made{Descriptor(ends[0]), Descriptor(fcntl(writing.get(), F_DUPFD_CLOEXEC, FirstOwnDescriptor))};
+  Pipe made{Descriptor(ends[0]), Descriptor(fcntl(writing.get(), F_DUPFD_CLOEXEC, FirstOwnDescriptor))};
   error = made.writing ? 0 : errno;
   return made;
 }
 
-[[noreturn]] void Fail(const Plan& plan, int error) {
+void Report(int pipe, int number) {
   // Nobody is left to hear of a failed write.
-  [[maybe_unused]] const ssize_t written = write(plan.report, &error, sizeof error);
+  [[maybe_unused]] const ssize_t written = write(pipe, &number, sizeof number);
+}
+
+[[noreturn]] void Fail(const Plan& plan, int error) {
+  Report(plan.report, error);
   _exit(EXIT_FAILURE);
 }
 
@@ -108,12 +115,43 @@ void ResetSignals() {
   Fail(plan, errno);
 }
 
-/// The child starts the program as its own child and goes at once, so the program falls to the system's first
-/// process, which collects it when it ends.
+/// The locks and connections of this program must not live on in whoever watches another.
+void CloseAllBut(int kept) {
+  const int lowest = dup2(kept, FirstOwnDescriptor);
+  if (close_range(static_cast<unsigned>(lowest) + 1, ~0U, 0) == 0) return;
+  rlimit limit{};
+  getrlimit(RLIMIT_NOFILE, &limit);
+  for (int number = lowest + 1; static_cast<rlim_t>(number) < limit.rlim_cur; ++number) close(number);
+}
+
+/// Waits for the program's end while it is watched, and reports a failure.
+[[noreturn]] void Watch(pid_t program, const Plan& plan) {
+  setsid();
+  ConnectToNothing();
+  CloseAllBut(plan.end);
+  for (int round = 0; round < plan.rounds; ++round) {
+    int status = 0;
+    if (waitpid(program, &status, WNOHANG) == program) {
+      if (status != 0) Report(FirstOwnDescriptor, status);
+      break;
+    }
+    poll(nullptr, 0, Round);
+  }
+  _exit(EXIT_SUCCESS);
+}
+
+/// The child starts the program as a child of its own and goes at once, or leaves somebody who goes soon.
+/// Then the program falls to the system's first process, which collects it when it ends.
 [[noreturn]] void StartAndLeave(const Plan& plan) {
+  if (plan.rounds > 0) {
+    const pid_t watcher = fork();
+    if (watcher < 0) Fail(plan, errno);
+    if (watcher > 0) _exit(EXIT_SUCCESS);
+  }
   const pid_t program = fork();
   if (program < 0) Fail(plan, errno);
   if (program == 0) BecomeProgram(plan);
+  if (plan.rounds > 0) Watch(program, plan);
   _exit(EXIT_SUCCESS);
 }
 
@@ -140,18 +178,35 @@ std::vector<std::string> CurrentEnvironment() {
   return variables;
 }
 
-int StartProcess(std::vector<std::string> arguments, std::vector<std::string> environment) {
+bool EndWatch::HasFailed() {
+  if (IsOver()) return failed_;
+  int status = 0;
+  const ssize_t got = read(reading_.get(), &status, sizeof status);
+  if (got < 0 && (errno == EAGAIN || errno == EINTR)) return false;
+  failed_ = got == sizeof status;
+  reading_.reset();
+  return failed_;
+}
+
+ProcessStart StartProcess(std::vector<std::string> arguments, std::vector<std::string> environment,
+                          std::chrono::milliseconds watched) {
   int error = 0;
-  ReportPipe pipe = MakePipe(error);
-  if (error != 0) return error;
+  Pipe report = MakePipe(error);
+  if (error != 0) return {error};
+  Pipe end = MakePipe(error);
+  if (error != 0) return {error};
+  fcntl(end.reading.get(), F_SETFL, O_NONBLOCK);
   const std::vector<char*> argumentPointers = Pointers(arguments);
   const std::vector<char*> environmentPointers = Pointers(environment);
   pid_t child = -1;
-  error = ForkAndLeave({pipe.writing.get(), argumentPointers.data(), environmentPointers.data()}, child);
-  if (error != 0) return error;
-  pipe.writing.reset();
+  error = ForkAndLeave({report.writing.get(), end.writing.get(), static_cast<int>(watched.count() / Round),
+                        argumentPointers.data(), environmentPointers.data()},
+                       child);
+  if (error != 0) return {error};
+  report.writing.reset();
   while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) continue;
-  return Reported(pipe.reading);
+  error = Reported(report.reading);
+  return {error, EndWatch(error == 0 ? std::move(end.reading) : Descriptor())};
 }
 
 }  // namespace orvanta
