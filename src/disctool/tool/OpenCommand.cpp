@@ -12,6 +12,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <optional>
+#include <system_error>
 
 #include "disctool/OutputText.h"
 #include "disctool/Translation.h"
@@ -84,7 +85,11 @@ std::string Open(const std::filesystem::path& named, std::optional<int> zoom, in
 std::string RunShell(const std::filesystem::path& disc, std::optional<int> zoom, int& argc, char** argv) {
   if (Catalogue(FolderTree(disc)).Empty()) return NoDiscIn(disc);
   if (!HasDisplay()) return Translated("there is no display to open a window on");
-  DesktopHost host(argc, argv, disc, zoom);
+  std::error_code error;
+  const std::filesystem::path root = std::filesystem::absolute(disc, error);
+  std::filesystem::current_path(root, error);
+  if (error) return disc.string() + ": " + error.message();
+  DesktopHost host(argc, argv, root, zoom);
   if (host.PrevInstance()) return Translated("the shell is running already on this display");
   Shell shell(host);
   shell.Run();
