@@ -51,7 +51,7 @@ void ActiveMovie::FullScreenMode(bool on) {
     return;
   }
   screen_->Visible = false;
-  screen_->TheHost().Loop().Bury(std::move(screen_));
+  screen_->TheHost().Loop().DeleteLater(std::move(screen_));
 }
 
 void ActiveMovie::FrameChanged() {

@@ -16,7 +16,7 @@ EventLoop::Modal::Modal(EventLoop& loop, Form* form) : loop_(loop), form_(form) 
 EventLoop::Delivery::~Delivery() {
   if (--loop_.depth_ > 0) return;
   // A form's end may bury another (the whole-screen window of a film), so the list is taken first.
-  while (!loop_.graveyard_.empty()) std::exchange(loop_.graveyard_, {}).clear();
+  while (!loop_.deletedLater_.empty()) std::exchange(loop_.deletedLater_, {}).clear();
 }
 
 EventLoop::EventLoop(EventSource& source) : source_(source) {}
@@ -85,10 +85,10 @@ void EventLoop::Forget(const Form& form) {
   std::erase_if(timers_, [&](const Timer* timer) { return &timer->OwnerForm() == &form; });
 }
 
-void EventLoop::Bury(std::unique_ptr<Form> form) {
+void EventLoop::DeleteLater(std::unique_ptr<Form> form) {
   // Outside of deliveries nobody needs the form any more, and it must not outlive the host of its window.
   Delivery delivery(*this);
-  graveyard_.push_back(std::move(form));
+  deletedLater_.push_back(std::move(form));
 }
 
 }  // namespace orvanta

@@ -87,7 +87,7 @@ class EventLoop {
   /// Drops the queued events of a form that is about to be destroyed.
   void Forget(const Form& form);
   /// Destroys an unloaded form once the outermost delivery has ended, since its own handlers may be running.
-  void Bury(std::unique_ptr<Form> form);
+  void DeleteLater(std::unique_ptr<Form> form);
 
  private:
   struct Queued {
@@ -104,7 +104,7 @@ class EventLoop {
   std::vector<Timer*> timers_;  // in the order of their creation
   std::vector<Form*> forms_;
   std::vector<const Modal*> modal_;
-  std::vector<std::unique_ptr<Form>> graveyard_;
+  std::vector<std::unique_ptr<Form>> deletedLater_;
   int depth_ = 0;
 };
 

@@ -34,7 +34,7 @@ class FormSlot {
     if (!form_) {
       form_ = std::apply(
           [this](const Design&... design) { return std::make_unique<FormType>(owner_, design...); }, design_);
-      form_->Released = [this] { form_->TheHost().Loop().Bury(std::move(form_)); };
+      form_->Released = [this] { form_->TheHost().Loop().DeleteLater(std::move(form_)); };
       form_->Form_Load();
     }
     return *form_;

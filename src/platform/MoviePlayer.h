@@ -27,6 +27,9 @@ class MoviePlayer {
 
   /// Loads `file` instead of the current one and plays it from the beginning. If it cannot be played, the
   /// state becomes `Stopped`, or stays `NoFile` if there was no file before.
+  ///
+  /// Does not wait for the file. The first call after it that needs the file (all but the volume, the play
+  /// count and the frame) may wait until the first data is there, at most until 250 ms after `Open`.
   virtual void Open(const std::filesystem::path& file) = 0;
   /// Plays on from the current position; after the end, from the beginning.
   virtual void Run() = 0;

@@ -12,12 +12,12 @@ namespace {
 // A value of GstPlayFlags, which is not declared in any header.
 constexpr guint kPlayVideo = 0x1;
 
-constexpr GstClockTime kPatience = 5 * GST_SECOND;
+constexpr GstClockTime kTimeout = 5 * GST_SECOND;
 constexpr gint64 kPlace = 3 * GST_SECOND;
 
 /// Whether the pipeline has paused with a picture in its sink.
 bool Settled(GstElement* pipeline) {
-  return gst_element_get_state(pipeline, nullptr, nullptr, kPatience) == GST_STATE_CHANGE_SUCCESS;
+  return gst_element_get_state(pipeline, nullptr, nullptr, kTimeout) == GST_STATE_CHANGE_SUCCESS;
 }
 
 void Show(GstElement* playbin) {
@@ -39,8 +39,8 @@ PicturePtr FilmStill(const std::filesystem::path& film) {
   if (!std::filesystem::is_regular_file(film, noFile)) return nullptr;
   const std::string uri = FindMediaSource(film).uri;
   const GstHandle<GstElement> playbin = MakeElement("playbin");
-  FrameBell unheard{[] {}};
-  const auto frames = std::make_shared<FrameBox>(unheard);
+  FrameNotifier unheard{[] {}};
+  const auto frames = std::make_shared<FrameMailbox>(unheard);
   const GstHandle<GstElement> sink = MakeFilmSink(frames), silence = MakeElement("fakesink");
   if (uri.empty() || !playbin || !sink || !silence) return nullptr;
   g_object_set(playbin.get(), "uri", uri.c_str(), "flags", kPlayVideo, "video-sink", sink.get(), "audio-sink",

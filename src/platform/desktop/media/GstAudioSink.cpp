@@ -19,7 +19,7 @@ GstHandle<GstElement> MakeDevice(SoundOutput output) {
   GstHandle<GstElement> device;
   if (output == SoundOutput::Pulse) device = MakeElement("pulsesink");
   if (output == SoundOutput::Alsa) device = MakeElement("alsasink");
-  if (!device) return MakeBlindSink();
+  if (!device) return MakeNullSink();
   g_object_set(device.get(), "buffer-time", kBufferTime, "latency-time", kLatencyTime, nullptr);
   return device;
 }

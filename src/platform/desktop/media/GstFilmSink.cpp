@@ -46,7 +46,7 @@ PicturePtr Wrap(GstHandle<GstSample> sample) {
 
 GstFlowReturn Deliver(GstSample* sample, gpointer frames) {
   if (PicturePtr picture = Wrap(GstHandle<GstSample>(sample)))
-    (*static_cast<FrameBoxPtr*>(frames))->Put(std::move(picture));
+    (*static_cast<FrameMailboxPtr*>(frames))->Put(std::move(picture));
   return GST_FLOW_OK;
 }
 
@@ -59,11 +59,13 @@ GstFlowReturn OnPreroll(GstAppSink* sink, gpointer frames) {
   return Deliver(gst_app_sink_pull_preroll(sink), frames);
 }
 
-void ReleaseFrames(gpointer frames) { std::unique_ptr<FrameBoxPtr>(static_cast<FrameBoxPtr*>(frames)); }
+void ReleaseFrames(gpointer frames) {
+  std::unique_ptr<FrameMailboxPtr>(static_cast<FrameMailboxPtr*>(frames));
+}
 
 }  // namespace
 
-GstHandle<GstElement> MakeFilmSink(FrameBoxPtr frames) {
+GstHandle<GstElement> MakeFilmSink(FrameMailboxPtr frames) {
   GstHandle<GstElement> element = MakeElement("appsink");
   if (!element) return element;
   const GstHandle<GstCaps> caps(gst_caps_new_simple("video/x-raw", "format", G_TYPE_STRING, "BGRx", nullptr));
@@ -72,12 +74,12 @@ GstHandle<GstElement> MakeFilmSink(FrameBoxPtr frames) {
   GstAppSinkCallbacks callbacks{};
   callbacks.new_preroll = OnPreroll;
   callbacks.new_sample = OnSample;
-  auto owned = std::make_unique<FrameBoxPtr>(std::move(frames));
+  auto owned = std::make_unique<FrameMailboxPtr>(std::move(frames));
   gst_app_sink_set_callbacks(GST_APP_SINK(element.get()), &callbacks, owned.release(), ReleaseFrames);
   return element;
 }
 
-GstHandle<GstElement> MakeBlindSink() {
+GstHandle<GstElement> MakeNullSink() {
   GstHandle<GstElement> element = MakeElement("fakesink");
   if (element) g_object_set(element.get(), "sync", TRUE, "enable-last-sample", FALSE, nullptr);
   return element;

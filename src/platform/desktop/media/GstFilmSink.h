@@ -1,14 +1,14 @@
 #pragma once
 
-#include "platform/desktop/media/FrameBox.h"
+#include "platform/desktop/media/FrameMailbox.h"
 #include "platform/desktop/media/GstHandles.h"
 
 namespace orvanta {
 
 /// The end of a film's pipeline: every picture goes into `frames` at the moment it is due, without a copy.
-GstHandle<GstElement> MakeFilmSink(FrameBoxPtr frames);
+GstHandle<GstElement> MakeFilmSink(FrameMailboxPtr frames);
 
-/// The end of the picture branch of a pipeline that only sounds.
-GstHandle<GstElement> MakeBlindSink();
+/// Takes buffers at the moment they are due and discards them.
+GstHandle<GstElement> MakeNullSink();
 
 }  // namespace orvanta

@@ -9,15 +9,15 @@
 namespace orvanta {
 namespace {
 
-constexpr std::chrono::milliseconds kAnswerPatience{15};
-constexpr std::chrono::milliseconds kClosePatience{1000};
+constexpr std::chrono::milliseconds kAnswerTimeout{15};
+constexpr std::chrono::milliseconds kCloseTimeout{1000};
 
 }  // namespace
 
 /// What the two threads have in common. It outlives the playback if its thread hangs.
 struct GstPlayback::Shared {
   JobQueue jobs;
-  NewsBox news;
+  BusEvents events;
   std::unique_ptr<GstTransport> transport;  // only its play count is for the program's thread
 
   std::mutex mutex;  // guards all below
@@ -34,7 +34,7 @@ struct GstPlayback::Shared {
   void PlayIfWanted();
   void GoTo(double seconds);
   void FinishOrder(unsigned number);
-  void Heed();
+  void HandleBusEvents();
   void AnswerTimes();
 };
 
@@ -44,7 +44,7 @@ void GstPlayback::Shared::Load(const std::filesystem::path& file) {
   if (loads) PlayIfWanted();
   const std::scoped_lock lock(mutex);
   loaded = loads;
-  failed = !transport->Alive();
+  failed = transport->Failed();
   times.length = first.length;
   changed.notify_all();
 }
@@ -64,14 +64,14 @@ void GstPlayback::Shared::GoTo(double seconds) {
 void GstPlayback::Shared::FinishOrder(unsigned number) {
   const std::scoped_lock lock(mutex);
   done = number;
-  failed = !transport->Alive();
+  failed = transport->Failed();
 }
 
 /// Something has come up in the player: the end of the file or its loss.
-void GstPlayback::Shared::Heed() {
-  const bool ended = transport->HeedNews();
+void GstPlayback::Shared::HandleBusEvents() {
+  const bool ended = transport->HandleBusEvents();
   const std::scoped_lock lock(mutex);
-  failed = !transport->Alive();
+  failed = transport->Failed();
   if (ended && done == ordered) state = MovieState::Stopped;
 }
 
@@ -84,13 +84,13 @@ void GstPlayback::Shared::AnswerTimes() {
 }
 
 GstPlayback::GstPlayback(MovieKind kind, const std::filesystem::path& file, const Settings& settings,
-                         FrameBoxPtr frames)
+                         FrameMailboxPtr frames)
     : shared_(std::make_shared<Shared>()) {
   const std::weak_ptr<Shared> weak = shared_;
-  const auto onNews = [weak] {
-    if (const auto shared = weak.lock()) shared->jobs.Post([shared] { shared->Heed(); });
+  const auto onBusEvent = [weak] {
+    if (const auto shared = weak.lock()) shared->jobs.Post([shared] { shared->HandleBusEvents(); });
   };
-  shared_->transport = std::make_unique<GstTransport>(kind, std::move(frames), shared_->news, onNews);
+  shared_->transport = std::make_unique<GstTransport>(kind, std::move(frames), shared_->events, onBusEvent);
   shared_->transport->SetPlayCount(settings.playCount);
   shared_->transport->SetVolume(settings.volume);
   shared_->jobs.Post([shared = shared_, file] { shared->Load(file); });
@@ -98,17 +98,17 @@ GstPlayback::GstPlayback(MovieKind kind, const std::filesystem::path& file, cons
 }
 
 GstPlayback::~GstPlayback() {
-  shared_->news.Add({.abandoned = true});
+  shared_->events.Add({.abandoned = true});
   shared_->jobs.Close([shared = shared_] { shared->transport.reset(); });
-  if (shared_->jobs.WaitServed(kClosePatience))
+  if (shared_->jobs.WaitServed(kCloseTimeout))
     thread_.join();
   else
     thread_.detach();
 }
 
-void GstPlayback::AwaitFirstData(std::chrono::milliseconds patience) const {
+void GstPlayback::AwaitFirstData(std::chrono::milliseconds timeout) const {
   std::unique_lock lock(shared_->mutex);
-  shared_->changed.wait_for(lock, patience, [this] { return shared_->loaded || shared_->failed; });
+  shared_->changed.wait_for(lock, timeout, [this] { return shared_->loaded || shared_->failed; });
 }
 
 void GstPlayback::Order(std::optional<MovieState> outcome, std::function<void()> job) {
@@ -183,7 +183,7 @@ void GstPlayback::RefreshTimes() {
   if (!shared_->loaded || shared_->failed || shared_->timesAsked) return;
   shared_->timesAsked = true;
   shared_->jobs.Post([shared = shared_] { shared->AnswerTimes(); });
-  shared_->changed.wait_for(lock, kAnswerPatience, [this] { return !shared_->timesAsked; });
+  shared_->changed.wait_for(lock, kAnswerTimeout, [this] { return !shared_->timesAsked; });
 }
 
 }  // namespace orvanta

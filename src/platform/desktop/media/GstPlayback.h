@@ -8,7 +8,7 @@
 #include <thread>
 
 #include "platform/MoviePlayer.h"
-#include "platform/desktop/media/FrameBox.h"
+#include "platform/desktop/media/FrameMailbox.h"
 
 namespace orvanta {
 
@@ -25,14 +25,14 @@ class GstPlayback {
 
   /// Loads `file` and plays it.
   GstPlayback(MovieKind kind, const std::filesystem::path& file, const Settings& settings,
-              FrameBoxPtr frames);
+              FrameMailboxPtr frames);
   /// Waits for the end of it all, but at most a second: a thread that hangs is left to itself.
   ~GstPlayback();
   GstPlayback(const GstPlayback&) = delete;
   GstPlayback& operator=(const GstPlayback&) = delete;
 
   /// Returns as soon as the first data is there, or it is clear that none will come, or the time is up.
-  void AwaitFirstData(std::chrono::milliseconds patience) const;
+  void AwaitFirstData(std::chrono::milliseconds timeout) const;
 
   void Run();
   void Pause();

@@ -13,11 +13,11 @@ namespace {
 constexpr guint kPlayVideo = 0x1;
 constexpr guint kPlayAudio = 0x2;
 
-// A slow drive may take its time over the first data; nobody waits for it but the player's own thread.
-constexpr std::chrono::hours kPrerollPatience{1};
-constexpr std::chrono::seconds kSeekPatience{2};
-constexpr std::chrono::milliseconds kLookRound{250};
-constexpr GstClockTime kSettlePatience = GST_SECOND;
+// A slow drive may take its time over the first data; only the player's own thread waits for it.
+constexpr std::chrono::hours kPrerollTimeout{1};
+constexpr std::chrono::seconds kSeekTimeout{2};
+constexpr std::chrono::milliseconds kPollInterval{250};
+constexpr GstClockTime kSettleTimeout = GST_SECOND;
 
 std::optional<double> Seconds(gboolean known, gint64 nanoseconds) {
   if (!known || nanoseconds < 0) return std::nullopt;
@@ -44,20 +44,20 @@ bool TasksRun(GstElement* bin) {
 
 }  // namespace
 
-GstPlaybin::GstPlaybin(MovieKind kind, SoundOutput output, FrameBoxPtr frames, NewsBox& news,
+GstPlaybin::GstPlaybin(MovieKind kind, SoundOutput output, FrameMailboxPtr frames, BusEvents& events,
                        Listener listener)
     : kind_(kind),
-      news_(news),
+      events_(events),
       listener_(std::move(listener)),
       sound_(output),
       playbin_(MakeElement("playbin")) {
   if (!Build(std::move(frames))) playbin_.reset();
 }
 
-bool GstPlaybin::Build(FrameBoxPtr frames) {
+bool GstPlaybin::Build(FrameMailboxPtr frames) {
   // A player of sound keeps the branch for pictures: without it, files that carry one take a second to start.
   const GstHandle<GstElement> pictures =
-      kind_ == MovieKind::Film ? MakeFilmSink(std::move(frames)) : MakeBlindSink();
+      kind_ == MovieKind::Film ? MakeFilmSink(std::move(frames)) : MakeNullSink();
   if (!playbin_ || !pictures || !sound_.Element()) return false;
   g_object_set(playbin_.get(), "flags", kPlayVideo | kPlayAudio, "audio-sink", sound_.Element(), "video-sink",
                pictures.get(), nullptr);
@@ -81,13 +81,13 @@ void GstPlaybin::SetSource(MediaSource source) {
 
 void GstPlaybin::Ready() {
   gst_element_set_state(playbin_.get(), GST_STATE_READY);
-  news_.Take();
+  events_.Take();
 }
 
 bool GstPlaybin::Preroll() {
-  if (!playbin_ || source_.uri.empty() || news_.Take().abandoned) return false;
+  if (!playbin_ || source_.uri.empty() || events_.Take().abandoned) return false;
   const auto change = gst_element_set_state(playbin_.get(), GST_STATE_PAUSED);
-  if (change == GST_STATE_CHANGE_ASYNC) return AwaitData(kPrerollPatience);
+  if (change == GST_STATE_CHANGE_ASYNC) return AwaitData(kPrerollTimeout);
   return change != GST_STATE_CHANGE_FAILURE;
 }
 
@@ -96,13 +96,13 @@ void GstPlaybin::Play() { gst_element_set_state(playbin_.get(), GST_STATE_PLAYIN
 void GstPlaybin::Pause() { gst_element_set_state(playbin_.get(), GST_STATE_PAUSED); }
 
 bool GstPlaybin::Seek(double seconds) {
-  news_.Take();  // an end that was reported before the move is none any more
+  events_.Take();  // an end reported before the seek no longer counts
   const auto flags = static_cast<GstSeekFlags>(GST_SEEK_FLAG_FLUSH | GST_SEEK_FLAG_ACCURATE);
   const auto place = static_cast<gint64>(seconds * static_cast<double>(GST_SECOND));
   if (!gst_element_seek_simple(playbin_.get(), GST_FORMAT_TIME, flags, place)) return false;
-  const bool there = AwaitData(kSeekPatience);
+  const bool there = AwaitData(kSeekTimeout);
   // A pause that overtakes the return to playing would take the old place's time for the new one's.
-  gst_element_get_state(playbin_.get(), nullptr, nullptr, kSettlePatience);
+  gst_element_get_state(playbin_.get(), nullptr, nullptr, kSettleTimeout);
   return there;
 }
 
@@ -118,12 +118,12 @@ std::optional<double> GstPlaybin::Duration() const {
   return Seconds(known, length);
 }
 
-bool GstPlaybin::AwaitData(std::chrono::milliseconds patience) {
+bool GstPlaybin::AwaitData(std::chrono::milliseconds timeout) {
   int idle = 0;
-  for (std::chrono::milliseconds waited{0}; waited < patience && idle < 2; waited += kLookRound) {
-    const NewsBox::News news = news_.Await(kLookRound);
-    if (news.failed || news.noDecoder || news.abandoned) return false;
-    if (news.dataReady || news.ended) return true;
+  for (std::chrono::milliseconds waited{0}; waited < timeout && idle < 2; waited += kPollInterval) {
+    const BusEvents::Flags flags = events_.Await(kPollInterval);
+    if (flags.failed || flags.noDecoder || flags.abandoned) return false;
+    if (flags.dataReady || flags.ended) return true;
     // A broken file can lose its report on the way: the demuxer fails while it is still being put in place.
     idle = TasksRun(playbin_.get()) ? 0 : idle + 1;
   }
@@ -142,7 +142,7 @@ bool GstPlaybin::LacksDecoder(GstMessage* message) const {
   return name.starts_with(kind_ == MovieKind::Film ? "video/" : "audio/");
 }
 
-NewsBox::News GstPlaybin::Read(GstMessage* message) const {
+BusEvents::Flags GstPlaybin::Read(GstMessage* message) const {
   switch (GST_MESSAGE_TYPE(message)) {
     case GST_MESSAGE_ASYNC_DONE: return {.dataReady = true};
     case GST_MESSAGE_ELEMENT: return {.noDecoder = LacksDecoder(message)};
@@ -154,9 +154,9 @@ NewsBox::News GstPlaybin::Read(GstMessage* message) const {
 
 GstBusSyncReply GstPlaybin::OnMessage(GstBus*, GstMessage* message, gpointer self) {
   const auto& own = *static_cast<GstPlaybin*>(self);
-  const NewsBox::News news = own.Read(message);
-  own.news_.Add(news);
-  if (news.ended || news.failed) own.listener_.onNews();
+  const BusEvents::Flags flags = own.Read(message);
+  own.events_.Add(flags);
+  if (flags.ended || flags.failed) own.listener_.onBusEvent();
   gst_message_unref(message);
   return GST_BUS_DROP;
 }

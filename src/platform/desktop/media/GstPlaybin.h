@@ -5,10 +5,10 @@
 #include <optional>
 
 #include "platform/MoviePlayer.h"
-#include "platform/desktop/media/FrameBox.h"
+#include "platform/desktop/media/BusEvents.h"
+#include "platform/desktop/media/FrameMailbox.h"
 #include "platform/desktop/media/GstAudioSink.h"
 #include "platform/desktop/media/MediaSource.h"
-#include "platform/desktop/media/NewsBox.h"
 
 namespace orvanta {
 
@@ -18,12 +18,13 @@ class GstPlaybin {
  public:
   /// What it calls on GStreamer's threads.
   struct Listener {
-    std::function<void()> onNews;         ///< The news box holds an end or a failure.
+    std::function<void()> onBusEvent;     ///< `BusEvents` holds an end or a failure.
     std::function<bool()> playsOnceMore;  ///< The file has been read: is it to follow itself without a gap?
   };
 
   /// A `playbin` that could not be put together, for want of plugins, fails in `Preroll`.
-  GstPlaybin(MovieKind kind, SoundOutput output, FrameBoxPtr frames, NewsBox& news, Listener listener);
+  GstPlaybin(MovieKind kind, SoundOutput output, FrameMailboxPtr frames, BusEvents& events,
+             Listener listener);
   ~GstPlaybin();
   GstPlaybin(const GstPlaybin&) = delete;
   GstPlaybin& operator=(const GstPlaybin&) = delete;
@@ -44,16 +45,16 @@ class GstPlaybin {
   std::optional<double> Duration() const;
 
  private:
-  bool Build(FrameBoxPtr frames);
-  bool AwaitData(std::chrono::milliseconds patience);
-  NewsBox::News Read(GstMessage* message) const;
+  bool Build(FrameMailboxPtr frames);
+  bool AwaitData(std::chrono::milliseconds timeout);
+  BusEvents::Flags Read(GstMessage* message) const;
   bool LacksDecoder(GstMessage* message) const;
   static GstBusSyncReply OnMessage(GstBus* bus, GstMessage* message, gpointer self);
   static void OnAboutToFinish(GstElement* playbin, gpointer self);
   static void OnElement(GstElement* playbin, GstElement* element, gpointer self);
 
   const MovieKind kind_;
-  NewsBox& news_;
+  BusEvents& events_;
   const Listener listener_;
   MediaSource source_;
   GstAudioSink sound_;

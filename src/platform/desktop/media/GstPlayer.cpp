@@ -4,13 +4,13 @@
 #include <chrono>
 #include <utility>
 
-#include "platform/desktop/media/FrameBox.h"
+#include "platform/desktop/media/FrameMailbox.h"
 #include "platform/desktop/media/GstPlayback.h"
 
 namespace orvanta {
 namespace {
 
-constexpr std::chrono::milliseconds kOpenPatience{250};
+constexpr std::chrono::milliseconds kOpenTimeout{250};
 
 class GstPlayer : public MoviePlayer {
  public:
@@ -39,12 +39,12 @@ class GstPlayer : public MoviePlayer {
   void Announce();
 
   const MovieKind kind_;
-  FrameBell bell_{[this] { Announce(); }};
+  FrameNotifier notifier_{[this] { Announce(); }};
   GstPlayback::Settings settings_;
   std::filesystem::path file_;
   std::chrono::steady_clock::time_point begun_;
   bool hadFile_ = false;  ///< A file has been loaded at some time before the present one.
-  FrameBoxPtr frames_;
+  FrameMailboxPtr frames_;
   std::unique_ptr<GstPlayback> playback_;
 };
 
@@ -55,16 +55,16 @@ void GstPlayer::Open(const std::filesystem::path& file) {
 
 void GstPlayer::Begin() {
   Close();
-  frames_ = std::make_shared<FrameBox>(bell_);
+  frames_ = std::make_shared<FrameMailbox>(notifier_);
   playback_ = std::make_unique<GstPlayback>(kind_, file_, settings_, frames_);
   begun_ = std::chrono::steady_clock::now();
 }
 
-/// False without a file. Callers expect a file to be open once it is named; they are made to wait for that
-/// only when they ask, so that a window that is shown meanwhile does not come later.
+/// False without a file. Callers expect a file to be open once they have named it. They wait for that only
+/// when they ask, so that a window shown in between is not delayed.
 bool GstPlayer::Opened() const {
   if (!playback_) return false;
-  const auto left = begun_ + kOpenPatience - std::chrono::steady_clock::now();
+  const auto left = begun_ + kOpenTimeout - std::chrono::steady_clock::now();
   playback_->AwaitFirstData(std::chrono::duration_cast<std::chrono::milliseconds>(left));
   return true;
 }
@@ -76,7 +76,7 @@ void GstPlayer::Close() {
 }
 
 void GstPlayer::Announce() {
-  if (frames_ && frames_->TakeNews() && OnFrame) OnFrame();
+  if (frames_ && frames_->TakeChanged() && OnFrame) OnFrame();
 }
 
 void GstPlayer::Run() {

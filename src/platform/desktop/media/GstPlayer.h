@@ -6,11 +6,12 @@
 
 namespace orvanta {
 
-/// A player on GStreamer. A call holds the program up for at most 20 ms, `Open` for a quarter of a second,
-/// and letting go of a file for a second where a drive or the sound server hangs.
+/// A player on GStreamer. A call blocks for at most 20 ms, but for the wait that `MoviePlayer::Open`
+/// describes. Closing a file, which `Open` and the destructor do, blocks for up to a second if a drive or the
+/// sound server hangs.
 ///
-/// Belongs to the thread of the `QCoreApplication`, which must exist; `OnFrame` is called while it handles
-/// its events.
+/// Belongs to the thread of the `QCoreApplication`, which must exist; `OnFrame` is called while that thread
+/// handles its events.
 std::unique_ptr<MoviePlayer> MakeGstPlayer(MovieKind kind);
 
 }  // namespace orvanta

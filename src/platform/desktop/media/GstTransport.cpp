@@ -19,8 +19,8 @@ constexpr double kStillAtBeginning = 0.1;
 // stream goes on.
 constexpr std::chrono::seconds kEarly{1};
 
-// Seconds. Only what lasts at least so long is repeated without a gap: the next repetition is read in
-// advance, and of an empty file there is no end of it.
+// Seconds. Only what lasts at least this long is repeated without a gap: the next repetition is read in
+// advance, and an empty file would never end.
 constexpr double kLeastGapless = 0.05;
 
 // A repetition that is over sooner has nothing in it.
@@ -28,18 +28,20 @@ constexpr std::chrono::milliseconds kLeastRepetition{10};
 
 }  // namespace
 
-GstTransport::GstTransport(MovieKind kind, FrameBoxPtr frames, NewsBox& news, std::function<void()> onNews)
-    : kind_(kind), frames_(std::move(frames)), news_(news), onNews_(std::move(onNews)) {}
+GstTransport::GstTransport(MovieKind kind, FrameMailboxPtr frames, BusEvents& events,
+                           std::function<void()> onBusEvent)
+    : kind_(kind), frames_(std::move(frames)), events_(events), onBusEvent_(std::move(onBusEvent)) {}
 
 bool GstTransport::Load(const std::filesystem::path& file) {
   // Harmless where it has been done. The first time on a machine it lists the plugins, which takes seconds.
   if (!gst_init_check(nullptr, nullptr, nullptr)) return false;
-  playbin_ = std::make_unique<GstPlaybin>(kind_, FindSoundOutput(), frames_, news_,
-                                          GstPlaybin::Listener{onNews_, [this] { return PlaysOnceMore(); }});
+  playbin_ =
+      std::make_unique<GstPlaybin>(kind_, FindSoundOutput(), frames_, events_,
+                                   GstPlaybin::Listener{onBusEvent_, [this] { return PlaysOnceMore(); }});
   playbin_->SetSource(FindMediaSource(file));
   playbin_->SetVolume(volume_);
   if (!playbin_->Preroll()) {
-    Die();
+    Fail();
     return false;
   }
   const double first = playbin_->Position().value_or(0);
@@ -50,12 +52,12 @@ bool GstTransport::Load(const std::filesystem::path& file) {
 }
 
 void GstTransport::Play() {
-  if (mode_ == Mode::Dead || mode_ == Mode::Playing) return;
+  if (mode_ == Mode::Failed || mode_ == Mode::Playing) return;
   const bool fresh = mode_ == Mode::Stopped || atEnd_ || pausedEarly_ || startedAt_ == Clock::time_point{};
-  if (!LeaveStop()) return;
+  if (!PrerollStopped()) return;
   if (atEnd_) RewindEnded();
   if (pausedEarly_) RestartSound();
-  if (mode_ == Mode::Dead) return;
+  if (mode_ == Mode::Failed) return;
   playbin_->Play();
   mode_ = Mode::Playing;
   repeatedAt_ = Clock::now();
@@ -63,14 +65,14 @@ void GstTransport::Play() {
 }
 
 void GstTransport::Pause() {
-  if (mode_ == Mode::Dead || !LeaveStop()) return;
+  if (mode_ == Mode::Failed || !PrerollStopped()) return;
   playbin_->Pause();
   if (mode_ == Mode::Playing) pausedEarly_ = Clock::now() - startedAt_ < kEarly;
   mode_ = Mode::Paused;
 }
 
 void GstTransport::Stop() {
-  if (mode_ == Mode::Dead) return;
+  if (mode_ == Mode::Failed) return;
   playbin_->Ready();
   mode_ = Mode::Stopped;
   begun_ = 1;
@@ -79,7 +81,7 @@ void GstTransport::Stop() {
 }
 
 void GstTransport::Seek(double seconds) {
-  if (mode_ == Mode::Dead || StartsOver(seconds)) return;
+  if (mode_ == Mode::Failed || StartsOver(seconds)) return;
   if (mode_ == Mode::Stopped)
     startFrom_ = seconds;
   else if (playbin_->Seek(origin_ + seconds))
@@ -87,7 +89,7 @@ void GstTransport::Seek(double seconds) {
 }
 
 MovieTimes GstTransport::Times() {
-  if (mode_ == Mode::Dead) return {0, length_};
+  if (mode_ == Mode::Failed) return {0, length_};
   if (length_ <= 0) length_ = std::max(0.0, playbin_->Duration().value_or(0));
   if (mode_ == Mode::Stopped) return {startFrom_, length_};
   return {std::max(0.0, playbin_->Position().value_or(origin_) - origin_), length_};
@@ -98,10 +100,10 @@ void GstTransport::SetVolume(int hundredthsOfDecibel) {
   if (playbin_) playbin_->SetVolume(volume_);
 }
 
-bool GstTransport::HeedNews() {
-  const NewsBox::News news = news_.Take();
-  if (news.failed) Die();
-  if (!news.ended || mode_ == Mode::Dead || mode_ == Mode::Stopped) return false;
+bool GstTransport::HandleBusEvents() {
+  const BusEvents::Flags flags = events_.Take();
+  if (flags.failed) Fail();
+  if (!flags.ended || mode_ == Mode::Failed || mode_ == Mode::Stopped) return false;
   // Clips of about a second are over before the player is asked whether they are to be repeated.
   if (Repeats()) return false;
   playbin_->Pause();
@@ -110,10 +112,10 @@ bool GstTransport::HeedNews() {
   return true;
 }
 
-bool GstTransport::LeaveStop() {
+bool GstTransport::PrerollStopped() {
   if (mode_ != Mode::Stopped) return true;
   if (!playbin_->Preroll()) {
-    Die();
+    Fail();
     return false;
   }
   mode_ = Mode::Paused;
@@ -126,7 +128,7 @@ void GstTransport::RewindEnded() {
   atEnd_ = pausedEarly_ = false;
   if (playbin_->Seek(origin_)) return;
   playbin_->Ready();
-  if (!playbin_->Preroll()) Die();
+  if (!playbin_->Preroll()) Fail();
 }
 
 void GstTransport::RestartSound() {
@@ -134,7 +136,7 @@ void GstTransport::RestartSound() {
   pausedEarly_ = false;
   playbin_->Ready();
   mode_ = Mode::Stopped;
-  LeaveStop();
+  PrerollStopped();
 }
 
 bool GstTransport::StartsOver(double seconds) {
@@ -156,8 +158,8 @@ bool GstTransport::BeginRepetition() {
   return false;
 }
 
-void GstTransport::Die() {
-  mode_ = Mode::Dead;
+void GstTransport::Fail() {
+  mode_ = Mode::Failed;
   playbin_.reset();
 }
 

@@ -10,7 +10,7 @@
 
 namespace orvanta {
 
-/// Where a file is and how long it is, in seconds; a length of 0 is not known.
+/// Position in a file and its length, in seconds; a length of 0 is unknown.
 struct MovieTimes {
   double position = 0;
   double length = 0;
@@ -20,8 +20,8 @@ struct MovieTimes {
 /// server do, so they belong on a thread of their own, always the same one, except where told otherwise.
 class GstTransport {
  public:
-  /// `onNews` is called on any thread when `HeedNews` has something to do.
-  GstTransport(MovieKind kind, FrameBoxPtr frames, NewsBox& news, std::function<void()> onNews);
+  /// `onBusEvent` is called on any thread when `HandleBusEvents` has work.
+  GstTransport(MovieKind kind, FrameMailboxPtr frames, BusEvents& events, std::function<void()> onBusEvent);
 
   /// Waits until the first data stands ready; false for a file that cannot be played.
   bool Load(const std::filesystem::path& file);
@@ -35,32 +35,32 @@ class GstTransport {
   void SetPlayCount(int count) { playCount_ = count; }
 
   /// Repeats the file or holds it at its end, where due. True if this was the end of the last repetition.
-  bool HeedNews();
-  /// False before `Load`, and after a failure: a player of a lost file does nothing more.
-  bool Alive() const { return mode_ != Mode::Dead; }
+  bool HandleBusEvents();
+  /// True before `Load`, and after a failure: a player of a lost file does nothing more.
+  bool Failed() const { return mode_ == Mode::Failed; }
 
  private:
   using Clock = std::chrono::steady_clock;
-  enum class Mode { Dead, Stopped, Paused, Playing };
+  enum class Mode { Failed, Stopped, Paused, Playing };
 
-  bool LeaveStop();
+  bool PrerollStopped();
   void RewindEnded();
   void RestartSound();
   bool StartsOver(double seconds);
   bool PlaysOnceMore();
   bool Repeats();
   bool BeginRepetition();
-  void Die();
+  void Fail();
 
   const MovieKind kind_;
-  const FrameBoxPtr frames_;
-  NewsBox& news_;
-  const std::function<void()> onNews_;
+  const FrameMailboxPtr frames_;
+  BusEvents& events_;
+  const std::function<void()> onBusEvent_;
   std::unique_ptr<GstPlaybin> playbin_;
   std::atomic<int> playCount_ = 1;
   std::atomic<int> begun_ = 1;  ///< Repetitions that have begun, the one that is queued included.
   int volume_ = 0;
-  Mode mode_ = Mode::Dead;
+  Mode mode_ = Mode::Failed;
   double origin_ = 0;  ///< What the file's own clock shows at its beginning.
   std::atomic<double> length_ = 0;
   double startFrom_ = 0;  ///< While stopped: where the next start is.

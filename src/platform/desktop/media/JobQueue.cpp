@@ -36,9 +36,9 @@ void JobQueue::Serve() {
   changed_.notify_all();
 }
 
-bool JobQueue::WaitServed(std::chrono::milliseconds patience) {
+bool JobQueue::WaitServed(std::chrono::milliseconds timeout) {
   std::unique_lock lock(mutex_);
-  return changed_.wait_for(lock, patience, [this] { return served_; });
+  return changed_.wait_for(lock, timeout, [this] { return served_; });
 }
 
 }  // namespace orvanta

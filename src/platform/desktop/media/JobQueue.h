@@ -19,8 +19,8 @@ class JobQueue {
   void Close(Job last);
   /// Carries out jobs until the last one is done.
   void Serve();
-  /// True once `Serve` has done the last job; false if `patience` runs out before.
-  bool WaitServed(std::chrono::milliseconds patience);
+  /// True once `Serve` has done the last job; false if `timeout` runs out before.
+  bool WaitServed(std::chrono::milliseconds timeout);
 
  private:
   Job Next();

@@ -28,51 +28,51 @@ struct PulseRelease {
 template <class T>
 using PulseHandle = std::unique_ptr<T, PulseRelease>;
 
-/// One short conversation with the sound server. The loop is declared first: it outlives the connection.
-struct Conversation {
+/// One question to the sound server. The loop is declared first: it must outlive the connection.
+struct PulseQuery {
   Clock::time_point deadline;
   PulseHandle<pa_mainloop> loop{pa_mainloop_new()};
   PulseHandle<pa_context> context{pa_context_new(pa_mainloop_get_api(loop.get()), "Orvanta")};
   bool realSink = false;
 };
 
-/// Lets the server speak until `done` holds; false if the time is up first.
+/// Handles what the server sends until `done` holds; false if the deadline passes first.
 template <class Done>
-bool Await(Conversation& talk, Done done) {
+bool Await(PulseQuery& query, Done done) {
   while (!done()) {
-    const auto left = std::chrono::duration_cast<std::chrono::microseconds>(talk.deadline - Clock::now());
+    const auto left = std::chrono::duration_cast<std::chrono::microseconds>(query.deadline - Clock::now());
     if (left.count() <= 0) return false;
-    if (pa_mainloop_prepare(talk.loop.get(), static_cast<int>(left.count())) < 0) return false;
-    if (pa_mainloop_poll(talk.loop.get()) < 0) return false;
-    if (pa_mainloop_dispatch(talk.loop.get()) < 0) return false;
+    if (pa_mainloop_prepare(query.loop.get(), static_cast<int>(left.count())) < 0) return false;
+    if (pa_mainloop_poll(query.loop.get()) < 0) return false;
+    if (pa_mainloop_dispatch(query.loop.get()) < 0) return false;
   }
   return true;
 }
 
-void NoteSink(pa_context*, const pa_sink_info* sink, int end, void* talk) {
-  if (end == 0 && sink->name != kDummySink) static_cast<Conversation*>(talk)->realSink = true;
+void NoteSink(pa_context*, const pa_sink_info* sink, int end, void* query) {
+  if (end == 0 && sink->name != kDummySink) static_cast<PulseQuery*>(query)->realSink = true;
 }
 
-enum class Answer { RealSink, DummyOnly, NoServer, Silence };
+enum class Answer { RealSink, DummyOnly, NoServer, Timeout };
 
-Answer AskSinks(Conversation& talk) {
-  const PulseHandle<pa_operation> asked(pa_context_get_sink_info_list(talk.context.get(), NoteSink, &talk));
+Answer AskSinks(PulseQuery& query) {
+  const PulseHandle<pa_operation> asked(pa_context_get_sink_info_list(query.context.get(), NoteSink, &query));
   if (!asked) return Answer::NoServer;
   const auto over = [&asked] { return pa_operation_get_state(asked.get()) != PA_OPERATION_RUNNING; };
-  if (!Await(talk, over)) return Answer::Silence;
-  return talk.realSink ? Answer::RealSink : Answer::DummyOnly;
+  if (!Await(query, over)) return Answer::Timeout;
+  return query.realSink ? Answer::RealSink : Answer::DummyOnly;
 }
 
-Answer AskServer(std::chrono::milliseconds patience) {
-  Conversation talk{.deadline = Clock::now() + patience};
-  pa_context* context = talk.context.get();
+Answer AskServer(std::chrono::milliseconds timeout) {
+  PulseQuery query{.deadline = Clock::now() + timeout};
+  pa_context* context = query.context.get();
   if (pa_context_connect(context, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0) return Answer::NoServer;
   const auto settled = [context] {
     return pa_context_get_state(context) == PA_CONTEXT_READY ||
            !PA_CONTEXT_IS_GOOD(pa_context_get_state(context));
   };
-  if (!Await(talk, settled)) return Answer::Silence;
-  return pa_context_get_state(context) == PA_CONTEXT_READY ? AskSinks(talk) : Answer::NoServer;
+  if (!Await(query, settled)) return Answer::Timeout;
+  return pa_context_get_state(context) == PA_CONTEXT_READY ? AskSinks(query) : Answer::NoServer;
 }
 
 bool CardPlays(int card) {
@@ -99,12 +99,12 @@ bool AnyCardPlays() {
 
 }  // namespace
 
-SoundOutput FindSoundOutput(std::chrono::milliseconds patience) {
-  switch (AskServer(patience)) {
+SoundOutput FindSoundOutput(std::chrono::milliseconds timeout) {
+  switch (AskServer(timeout)) {
     case Answer::RealSink: return SoundOutput::Pulse;
     case Answer::NoServer: return AnyCardPlays() ? SoundOutput::Alsa : SoundOutput::None;
     case Answer::DummyOnly:
-    case Answer::Silence: break;
+    case Answer::Timeout: break;
   }
   return SoundOutput::None;
 }
