@@ -82,6 +82,11 @@ TEST_F(GstPlayerFailure, ASoundServerThatFreezesOrDiesDoesNotHoldUpTheProgram) {
   EXPECT_TRUE(UntilStopped(*music, 2));
   music->Run();
   EXPECT_TRUE(Until(2, [&] { return music->Position() > 0.1; })) << "silently, from the beginning";
+  server.Restart();
+  const Recording after;
+  music->Pause();
+  music->Run();
+  EXPECT_TRUE(Until(3, [&] { return after.Peak(0) > 0.2; })) << "silent though there is a server again";
 }
 
 }  // namespace orvanta::test

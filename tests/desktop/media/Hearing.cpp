@@ -32,11 +32,24 @@ PulseServer::PulseServer(const std::string& sink) : before_(qgetenv("PULSE_SERVE
   for (const char* name : {"PULSE_RUNTIME_PATH", "PULSE_STATE_PATH"}) qputenv(name, folder.c_str());
   qputenv("PULSE_COOKIE", (folder + "/cookie").c_str());
   qputenv("PULSE_SERVER", ("unix:" + folder + "/native").c_str());
-  process_.emplace(std::vector<std::string>{
-      "pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=-1", "--realtime=no",
-      "--high-priority=no", "--disable-shm=yes", "--log-target=file:/dev/null", "--load=" + sink,
-      "--load=module-native-protocol-unix auth-anonymous=1 auth-cookie-enabled=0 socket=" + folder +
-          "/native"});
+  words_ = {"pulseaudio",
+            "-n",
+            "--daemonize=no",
+            "--use-pid-file=no",
+            "--exit-idle-time=-1",
+            "--realtime=no",
+            "--high-priority=no",
+            "--disable-shm=yes",
+            "--log-target=file:/dev/null",
+            "--load=" + sink,
+            "--load=module-native-protocol-unix auth-anonymous=1 auth-cookie-enabled=0 socket=" + folder +
+                "/native"};
+  Restart();
+}
+
+void PulseServer::Restart() {
+  process_.reset();
+  process_.emplace(words_);
   if (!Soon([] { return std::system("pactl list short sinks 2>&1 | grep -q '^[0-9]'") == 0; }))
     throw std::runtime_error("PulseAudio does not start; is it installed?");
 }

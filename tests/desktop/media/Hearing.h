@@ -15,12 +15,15 @@ class PulseServer {
 
   void Freeze() { process_->Signal(SIGSTOP); }
   void Thaw() { process_->Signal(SIGCONT); }
+  /// As a service does that has crashed: all connections are lost.
+  void Restart();
   /// The address stays, with nobody behind it.
   void Kill() { process_.reset(); }
 
  private:
   TemporaryFolder folder_;
   const std::string before_;
+  std::vector<std::string> words_;
   std::optional<Program> process_;
 };
 

@@ -34,6 +34,7 @@ struct GstPlayback::Shared {
   void PlayIfWanted();
   void GoTo(double seconds);
   void FinishOrder(unsigned number);
+  void Settle();
   void HandleBusEvents();
   void AnswerTimes();
 };
@@ -44,7 +45,7 @@ void GstPlayback::Shared::Load(const std::filesystem::path& file) {
   if (loads) PlayIfWanted();
   const std::scoped_lock lock(mutex);
   loaded = loads;
-  failed = transport->Failed();
+  Settle();
   times.length = first.length;
   changed.notify_all();
 }
@@ -64,14 +65,22 @@ void GstPlayback::Shared::GoTo(double seconds) {
 void GstPlayback::Shared::FinishOrder(unsigned number) {
   const std::scoped_lock lock(mutex);
   done = number;
+  Settle();
+}
+
+/// Takes over what has become of the player, unless an order is on the way to change that.
+void GstPlayback::Shared::Settle() {
   failed = transport->Failed();
+  if (!transport->Lost() || done != ordered) return;
+  times = transport->Times();
+  if (state == MovieState::Running) state = MovieState::Stopped;
 }
 
 /// Something has come up in the player: the end of the file or its loss.
 void GstPlayback::Shared::HandleBusEvents() {
   const bool ended = transport->HandleBusEvents();
   const std::scoped_lock lock(mutex);
-  failed = transport->Failed();
+  Settle();
   if (ended && done == ordered) state = MovieState::Stopped;
 }
 
@@ -148,8 +157,7 @@ void GstPlayback::Apply(const Settings& settings) {
 
 MovieState GstPlayback::State() const {
   const std::scoped_lock lock(shared_->mutex);
-  if (!shared_->failed) return shared_->state;
-  return shared_->loaded ? MovieState::Stopped : MovieState::NoFile;
+  return shared_->failed ? MovieState::NoFile : shared_->state;
 }
 
 bool GstPlayback::Loaded() const {

@@ -33,7 +33,6 @@ class GstPlayer : public MoviePlayer {
   PicturePtr Frame() override { return frames_ ? frames_->Newest() : nullptr; }
 
  private:
-  void Begin();
   void Close();
   bool Opened() const;
   void Announce();
@@ -41,7 +40,6 @@ class GstPlayer : public MoviePlayer {
   const MovieKind kind_;
   FrameNotifier notifier_{[this] { Announce(); }};
   GstPlayback::Settings settings_;
-  std::filesystem::path file_;
   std::chrono::steady_clock::time_point begun_;
   bool hadFile_ = false;  ///< A file has been loaded at some time before the present one.
   FrameMailboxPtr frames_;
@@ -49,14 +47,9 @@ class GstPlayer : public MoviePlayer {
 };
 
 void GstPlayer::Open(const std::filesystem::path& file) {
-  file_ = file;
-  Begin();
-}
-
-void GstPlayer::Begin() {
   Close();
   frames_ = std::make_shared<FrameMailbox>(notifier_);
-  playback_ = std::make_unique<GstPlayback>(kind_, file_, settings_, frames_);
+  playback_ = std::make_unique<GstPlayback>(kind_, file, settings_, frames_);
   begun_ = std::chrono::steady_clock::now();
 }
 
@@ -80,9 +73,7 @@ void GstPlayer::Announce() {
 }
 
 void GstPlayer::Run() {
-  if (!Opened()) return;
-  if (!playback_->Failed()) return playback_->Run();
-  if (playback_->Loaded()) Begin();  // a file that was lost while it played may be back
+  if (Opened() && !playback_->Failed()) playback_->Run();
 }
 
 void GstPlayer::Pause() {

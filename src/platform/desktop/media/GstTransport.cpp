@@ -23,6 +23,9 @@ constexpr std::chrono::seconds kEarly{1};
 // advance, and an empty file would never end.
 constexpr double kLeastGapless = 0.05;
 
+// What fails so soon after it was resumed was lost during the pause.
+constexpr std::chrono::milliseconds kResume{500};
+
 // A repetition that is over sooner has nothing in it.
 constexpr std::chrono::milliseconds kLeastRepetition{10};
 
@@ -35,13 +38,10 @@ GstTransport::GstTransport(MovieKind kind, FrameMailboxPtr frames, BusEvents& ev
 bool GstTransport::Load(const std::filesystem::path& file) {
   // Harmless where it has been done. The first time on a machine it lists the plugins, which takes seconds.
   if (!gst_init_check(nullptr, nullptr, nullptr)) return false;
-  playbin_ =
-      std::make_unique<GstPlaybin>(kind_, FindSoundOutput(), frames_, events_,
-                                   GstPlaybin::Listener{onBusEvent_, [this] { return PlaysOnceMore(); }});
-  playbin_->SetSource(FindMediaSource(file));
-  playbin_->SetVolume(volume_);
+  file_ = file;
+  Build();
   if (!playbin_->Preroll()) {
-    Fail();
+    playbin_.reset();
     return false;
   }
   const double first = playbin_->Position().value_or(0);
@@ -51,13 +51,24 @@ bool GstTransport::Load(const std::filesystem::path& file) {
   return true;
 }
 
+void GstTransport::Build() {
+  output_ = FindSoundOutput();
+  playbin_ =
+      std::make_unique<GstPlaybin>(kind_, output_, frames_, events_,
+                                   GstPlaybin::Listener{onBusEvent_, [this] { return PlaysOnceMore(); }});
+  playbin_->SetSource(FindMediaSource(file_));
+  playbin_->SetVolume(volume_);
+}
+
 void GstTransport::Play() {
   if (mode_ == Mode::Failed || mode_ == Mode::Playing) return;
+  if (SoundIsBack()) Lose(Place());
   const bool fresh = mode_ == Mode::Stopped || atEnd_ || pausedEarly_ || startedAt_ == Clock::time_point{};
+  resumedFrom_ = fresh ? std::nullopt : std::optional(Times().position);
   if (!PrerollStopped()) return;
   if (atEnd_) RewindEnded();
   if (pausedEarly_) RestartSound();
-  if (mode_ == Mode::Failed) return;
+  if (mode_ != Mode::Paused) return;
   playbin_->Play();
   mode_ = Mode::Playing;
   repeatedAt_ = Clock::now();
@@ -65,7 +76,7 @@ void GstTransport::Play() {
 }
 
 void GstTransport::Pause() {
-  if (mode_ == Mode::Failed || !PrerollStopped()) return;
+  if (mode_ == Mode::Failed || Lost() || !PrerollStopped()) return;
   playbin_->Pause();
   if (mode_ == Mode::Playing) pausedEarly_ = Clock::now() - startedAt_ < kEarly;
   mode_ = Mode::Paused;
@@ -73,7 +84,7 @@ void GstTransport::Pause() {
 
 void GstTransport::Stop() {
   if (mode_ == Mode::Failed) return;
-  playbin_->Ready();
+  if (playbin_) playbin_->Ready();
   mode_ = Mode::Stopped;
   begun_ = 1;
   startFrom_ = 0;
@@ -89,9 +100,9 @@ void GstTransport::Seek(double seconds) {
 }
 
 MovieTimes GstTransport::Times() {
-  if (mode_ == Mode::Failed) return {0, length_};
-  if (length_ <= 0) length_ = std::max(0.0, playbin_->Duration().value_or(0));
+  if (mode_ == Mode::Failed) return {};
   if (mode_ == Mode::Stopped) return {startFrom_, length_};
+  if (length_ <= 0) length_ = std::max(0.0, playbin_->Duration().value_or(0));
   return {std::max(0.0, playbin_->Position().value_or(origin_) - origin_), length_};
 }
 
@@ -102,8 +113,9 @@ void GstTransport::SetVolume(int hundredthsOfDecibel) {
 
 bool GstTransport::HandleBusEvents() {
   const BusEvents::Flags flags = events_.Take();
-  if (flags.failed) Fail();
-  if (!flags.ended || mode_ == Mode::Failed || mode_ == Mode::Stopped) return false;
+  // What has failed may be gone already.
+  if (flags.failed && playbin_) Recover();
+  if (!flags.ended || flags.failed || mode_ == Mode::Failed || mode_ == Mode::Stopped) return false;
   // Clips of about a second are over before the player is asked whether they are to be repeated.
   if (Repeats()) return false;
   playbin_->Pause();
@@ -114,8 +126,14 @@ bool GstTransport::HandleBusEvents() {
 
 bool GstTransport::PrerollStopped() {
   if (mode_ != Mode::Stopped) return true;
-  if (!playbin_->Preroll()) {
-    Fail();
+  // A stopped playbin may still be connected to a sound server that is gone.
+  bool ready = playbin_ && playbin_->Preroll();
+  if (!ready) {
+    Build();
+    ready = playbin_->Preroll();
+  }
+  if (!ready) {
+    Lose(startFrom_);
     return false;
   }
   mode_ = Mode::Paused;
@@ -128,7 +146,7 @@ void GstTransport::RewindEnded() {
   atEnd_ = pausedEarly_ = false;
   if (playbin_->Seek(origin_)) return;
   playbin_->Ready();
-  if (!playbin_->Preroll()) Fail();
+  if (!playbin_->Preroll()) Lose(0);
 }
 
 void GstTransport::RestartSound() {
@@ -158,9 +176,31 @@ bool GstTransport::BeginRepetition() {
   return false;
 }
 
-void GstTransport::Fail() {
-  mode_ = Mode::Failed;
+/// A player that had no sound server and plays silently does not stay silent when there is one.
+bool GstTransport::SoundIsBack() const {
+  return playbin_ && output_ == SoundOutput::None && FindSoundOutput() != SoundOutput::None;
+}
+
+/// Where the next start is to begin.
+double GstTransport::Place() { return atEnd_ ? 0 : Times().position; }
+
+/// Closes the file; the next start opens it anew and plays from `position`.
+void GstTransport::Lose(double position) {
   playbin_.reset();
+  mode_ = Mode::Stopped;
+  begun_ = 1;
+  startFrom_ = position;
+  atEnd_ = pausedEarly_ = false;
+}
+
+/// The file has broken, or the sound server is gone. While a file is paused, GStreamer does not notice the
+/// latter.
+void GstTransport::Recover() {
+  const auto resumedFrom = std::exchange(resumedFrom_, std::nullopt);
+  if (mode_ != Mode::Playing) return Lose(mode_ == Mode::Paused ? Place() : startFrom_);
+  const bool atOnce = resumedFrom && Clock::now() - repeatedAt_ < kResume;
+  Lose(atOnce ? *resumedFrom : 0);
+  if (atOnce) Play();
 }
 
 }  // namespace orvanta

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "platform/desktop/media/GstPlaybin.h"
 
@@ -17,7 +18,11 @@ struct MovieTimes {
 };
 
 /// Plays one file: start, pause, stop, repetition, end. Its calls may take as long as the drive and the sound
-/// server do, so they belong on a thread of their own, always the same one, except where told otherwise.
+/// server do, so they belong on a thread of their own, always the same one, unless a comment says otherwise.
+///
+/// A file that breaks half-way or loses its sound server is lost: it stands at its beginning, or where it was
+/// paused, and the next start opens it anew. If it turns out to be lost as it is resumed, that is done at
+/// once.
 class GstTransport {
  public:
   /// `onBusEvent` is called on any thread when `HandleBusEvents` has work.
@@ -36,13 +41,15 @@ class GstTransport {
 
   /// Repeats the file or holds it at its end, where due. True if this was the end of the last repetition.
   bool HandleBusEvents();
-  /// True before `Load`, and after a failure: a player of a lost file does nothing more.
+  /// True unless `Load` has succeeded. A player that has failed does nothing more.
   bool Failed() const { return mode_ == Mode::Failed; }
+  bool Lost() const { return mode_ == Mode::Stopped && !playbin_; }
 
  private:
   using Clock = std::chrono::steady_clock;
   enum class Mode { Failed, Stopped, Paused, Playing };
 
+  void Build();
   bool PrerollStopped();
   void RewindEnded();
   void RestartSound();
@@ -50,13 +57,18 @@ class GstTransport {
   bool PlaysOnceMore();
   bool Repeats();
   bool BeginRepetition();
-  void Fail();
+  bool SoundIsBack() const;
+  double Place();
+  void Lose(double position);
+  void Recover();
 
   const MovieKind kind_;
   const FrameMailboxPtr frames_;
   BusEvents& events_;
   const std::function<void()> onBusEvent_;
-  std::unique_ptr<GstPlaybin> playbin_;
+  std::filesystem::path file_;
+  SoundOutput output_ = SoundOutput::None;
+  std::unique_ptr<GstPlaybin> playbin_;  ///< Null once the file is lost.
   std::atomic<int> playCount_ = 1;
   std::atomic<int> begun_ = 1;  ///< Repetitions that have begun, the one that is queued included.
   int volume_ = 0;
@@ -66,6 +78,7 @@ class GstTransport {
   double startFrom_ = 0;  ///< While stopped: where the next start is.
   bool atEnd_ = false;
   bool pausedEarly_ = false;
+  std::optional<double> resumedFrom_;  ///< Where it stood, if the last start did not open the file.
   Clock::time_point startedAt_;
   Clock::time_point repeatedAt_;
 };
