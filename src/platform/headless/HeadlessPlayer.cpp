@@ -19,6 +19,7 @@ void HeadlessPlayer::Open(const std::filesystem::path& file) {
   file_ = file;
   name_ = file.filename().string();
   Note("open");
+  from_ = 0;
   playable_ = Begin();
   if (!playable_ && state_ != MovieState::NoFile) state_ = MovieState::Stopped;
 }
@@ -57,7 +58,7 @@ void HeadlessPlayer::Run() {
 }
 
 void HeadlessPlayer::RunAnew() {
-  const double place = state_ == MovieState::Paused ? from_ : 0;
+  const double place = from_;
   if (Begin()) {
     from_ = place;
   } else {
@@ -90,13 +91,14 @@ bool HeadlessPlayer::Loaded() { return playable_ && host_.Now() >= loadedAt_; }
 
 double HeadlessPlayer::Position() {
   Settle();
-  return length_ > 0 && from_ < length_ * playCount_ ? std::fmod(Played(), length_) : Played();
+  return length_ > 0 && from_ < length_ * playCount_ ? std::fmod(Played(), length_)
+                                                     : std::min(Played(), length_);
 }
 
 void HeadlessPlayer::SetPosition(double seconds) {
   Note("position " + std::to_string(seconds));
   Settle();
-  if (!playable_ || lost_) return;
+  if (!playable_) return;
   from_ = std::max(0.0, seconds);
   since_ = std::max(host_.Now(), loadedAt_);
 }

@@ -35,7 +35,7 @@ class HeadlessPlayer : public MoviePlayer {
   void Note(const std::string& call) const;
   /// Opens `file_` and plays it from its beginning. False if it cannot be played.
   bool Begin();
-  /// Opens a lost file anew, where it was paused if it was.
+  /// Opens a lost file anew and plays on from its place.
   void RunAnew();
   /// Seconds played since the start of the first repetition.
   double Played() const;

@@ -12,6 +12,14 @@
 
 namespace orvanta::test {
 
+/// What a player needs of a program.
+class TestApplication {
+  int argc_ = 1;
+  char name_[7] = "player";
+  char* argv_[2] = {name_, nullptr};
+  const QCoreApplication app_{argc_, argv_};
+};
+
 /// A program that has nothing but a player, on a sound server of its own.
 class PlayerStory : public testing::Test {
  protected:
@@ -43,10 +51,7 @@ class PlayerStory : public testing::Test {
   std::unique_ptr<MoviePlayer> film = MakeGstPlayer(MovieKind::Film);
 
  private:
-  int argc_ = 1;
-  char name_[7] = "player";
-  char* argv_[2] = {name_, nullptr};
-  const QCoreApplication app_{argc_, argv_};
+  const TestApplication application_;
 };
 
 }  // namespace orvanta::test
