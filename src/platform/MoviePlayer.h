@@ -45,7 +45,8 @@ class MoviePlayer {
   virtual bool Loaded() = 0;
   virtual double Position() = 0;
   virtual void SetPosition(double seconds) = 0;
-  /// The length of the file; 0 while it is not known.
+  /// The length of the file; 0 while it is not known. It may be an estimate that improves while the file
+  /// plays.
   virtual double Length() = 0;
   /// In hundredths of a decibel, from -10000 (silent) to 0 (loudest).
   virtual int Volume() = 0;

@@ -79,6 +79,18 @@ TEST_F(GstPlayerOddFiles, AreHeardAsTheyWereMeant) {
   EXPECT_TRUE(music->FilmSize().Empty());
 }
 
+// The marker of an entry's music would stop half-way, or at its end long before that of the music.
+TEST_F(GstPlayerOddFiles, ALengthThatIsNotInTheFileIsGuessedEverBetter) {
+  const auto bytes = [this](const char* name, const char* rate) {
+    return ContentOf(
+        files.Sound(name, Tones(4, 800), std::string("-write_xing 0 -id3v2_version 0 -b:a ") + rate));
+  };
+  music->Open(files.folder.File("a.mp3", bytes("low.mp3", "32k") + bytes("high.mp3", "320k")));
+  EXPECT_GT(music->Length(), 10);
+  ASSERT_TRUE(Until(6, [this] { return music->Position() > 3; }));
+  EXPECT_NEAR(music->Length(), 4, 1);
+}
+
 TEST_F(GstPlayerOddFiles, AMidiFileSoundsInItsVoices) {
   // A4, twice for half a second: 480 ticks, of which one is 960th of a second.
   const std::string note("\0\x90\x45\x7f\x83\x60\x80\x45\0", 9), end("\0\xff\x2f\0", 4);

@@ -5,11 +5,11 @@
 
 namespace orvanta::test {
 
-/// The answer, which must come within half a second.
+/// The answer, which must come within two seconds and a half.
 static bool Asked() {
   const auto begin = std::chrono::steady_clock::now();
   const bool enabled = IsSoundCardEnabled();
-  EXPECT_LE(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(500));
+  EXPECT_LE(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(2500));
   return enabled;
 }
 
@@ -19,8 +19,13 @@ TEST(SoundCard, IsThereWithASinkThatIsNoDummyOnAServerThatAnswers) {
   EXPECT_EQ(FindSoundOutput(), SoundOutput::Pulse);
   server.Freeze();
   EXPECT_FALSE(Asked());
-  server.Thaw();
+  // A server that is started by the question takes its time.
+  std::thread start([&server] {
+    std::this_thread::sleep_for(std::chrono::seconds(1));
+    server.Thaw();
+  });
   EXPECT_TRUE(Asked());
+  start.join();
   server.Kill();
   // A card that can play has a device named pcmC<card>D<device>p (ALSA's device nodes).
   EXPECT_EQ(Asked(), std::system("ls /dev/snd 2>&1 | grep -q '^pcmC.*p$'") == 0);

@@ -177,12 +177,9 @@ double GstPlayback::Position() {
 }
 
 double GstPlayback::Length() {
-  const auto known = [this] {
-    const std::scoped_lock lock(shared_->mutex);
-    return shared_->times.length;
-  };
-  if (known() <= 0) RefreshTimes();
-  return known();
+  RefreshTimes();
+  const std::scoped_lock lock(shared_->mutex);
+  return shared_->times.length;
 }
 
 /// A question that is still open from an earlier call is not waited for again: the player hangs.

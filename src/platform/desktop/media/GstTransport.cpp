@@ -102,7 +102,8 @@ void GstTransport::Seek(double seconds) {
 MovieTimes GstTransport::Times() {
   if (mode_ == Mode::Failed) return {};
   if (mode_ == Mode::Stopped) return {startFrom_, length_};
-  if (length_ <= 0) length_ = std::max(0.0, playbin_->Duration().value_or(0));
+  // Of a file without a length in its head it is an estimate, which improves while the file plays.
+  if (const auto length = playbin_->Duration(); length > 0.0) length_ = *length;
   return {std::max(0.0, playbin_->Position().value_or(origin_) - origin_), length_};
 }
 
