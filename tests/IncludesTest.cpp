@@ -26,8 +26,11 @@ const std::string kStandard =
 /// The first match counts.
 const Room kRooms[] = {
     {"apps/", ".*", ".*"},
-    {"src/disctool/image/", "disctool/(image/|disc/)?\\w+\\.h|platform/desktop/Descriptor\\.h|" + kLogic,
-     ".*"},
+    {"src/disctool/image/sectors/",
+     "disctool/(image/sectors/)?\\w+\\.h|platform/desktop/Descriptor\\.h|" + kLogic, kStandard},
+    {"src/disctool/image/volume/", "disctool/(image/(sectors|volume)/|disc/)?\\w+\\.h|" + kLogic, kStandard},
+    {"src/disctool/image/",
+     "disctool/(image/((sectors|volume)/)?|disc/)?\\w+\\.h|platform/desktop/Descriptor\\.h|" + kLogic, ".*"},
     {"src/disctool/making/", "disctool/(making/|disc/)?\\w+\\.h|" + kLogic, ".*"},
     {"src/disctool/gallery/", "disctool/((gallery|disc|check)/)?\\w+\\.h|platform/.*|" + kLogic, ".*"},
     {"src/disctool/tool/", ".*", ".*"},

@@ -54,6 +54,13 @@ void ForEachCharacter(std::string_view text, Good good, Bad bad) {
 
 }  // namespace
 
+bool IsUtf8(std::string_view bytes) {
+  bool good = true;
+  ForEachCharacter(
+      bytes, [](std::string_view) {}, [&good](unsigned char) { good = false; });
+  return good;
+}
+
 std::string Printable(std::string_view utf8) {
   std::string text;
   const auto escape = [&](unsigned char byte) { text += "\\x" + Hexadecimal(byte); };

@@ -5,6 +5,9 @@
 
 namespace orvanta {
 
+/// Whether a text is well-formed UTF-8 (RFC 3629).
+bool IsUtf8(std::string_view bytes);
+
 /// The text with its control characters written as \x1B and the like, so that no disc can send commands to a
 /// terminal. Bytes that are no UTF-8 are written the same way.
 std::string Printable(std::string_view utf8);

@@ -9,14 +9,13 @@
 #include <cstring>
 #include <fstream>
 #include <iterator>
-#include <optional>
 
 #include "disctool/Translation.h"
 #include "disctool/command/DiffCommand.h"
 #include "disctool/command/FindCommand.h"
 #include "disctool/command/InfoCommand.h"
 #include "disctool/command/ManyDiscs.h"
-#include "disctool/image/DiscCache.h"
+#include "disctool/image/OpenTree.h"
 #include "disctool/tool/CommandSupport.h"
 #include "disctool/tool/DesktopProbe.h"
 
@@ -39,22 +38,6 @@ std::string AddListed(const Request& request, std::vector<std::string>& discs) {
   return {};
 }
 
-/// A disc for reading: a folder as it is, an image unpacked.
-struct ReadableDisc {
-  explicit ReadableDisc(const std::string& named) {
-    std::error_code error;
-    if (!fs::is_directory(named, error)) {
-      opened = DiscCache().Open(named, [](std::uintmax_t, std::uintmax_t) {});
-      problem = opened.problem;
-    }
-    if (problem.empty()) tree.emplace(opened.folder.empty() ? fs::path(named) : opened.folder);
-  }
-
-  OpenedDisc opened;
-  std::optional<FolderTree> tree;
-  std::string problem;
-};
-
 /// Lets `ask` report on every disc that the user named from the argument `first` on.
 template <class Ask>
 int Report(const Request& request, std::size_t first, const Ask& ask) {
@@ -68,8 +51,9 @@ int Report(const Request& request, std::size_t first, const Ask& ask) {
                 .out = std::cout,
                 .err = std::cerr};
   return ReportDiscs(run, [&](const std::string& named) -> DiscReport {
-    const ReadableDisc disc(named);
-    return disc.problem.empty() ? ask(*disc.tree, many) : DiscReport{{}, disc.problem};
+    std::string problem;
+    const auto disc = OpenTree(named, problem);
+    return disc ? ask(*disc, many) : DiscReport{{}, problem};
   });
 }
 
@@ -123,10 +107,10 @@ int RunDiff(const Request& request, int& argc, char** argv) {
   ProbeReady ready(argc, argv);
   ManyDiscs run{.discs = {request.words[1]}, .json = request.Has("json"), .out = std::cout, .err = std::cerr};
   return ReportDiscs(run, [&](const std::string&) -> DiscReport {
-    const ReadableDisc before(request.words[0]), after(request.words[1]);
-    for (const ReadableDisc* disc : {&before, &after})
-      if (!disc->problem.empty()) return {{}, disc->problem};
-    return DiffReport(*before.tree, *after.tree, ready.probe, request.Has("json"));
+    std::string problem;
+    const auto before = OpenTree(request.words[0], problem);
+    const auto after = before ? OpenTree(request.words[1], problem) : nullptr;
+    return after ? DiffReport(*before, *after, ready.probe, request.Has("json")) : DiscReport{{}, problem};
   });
 }
 

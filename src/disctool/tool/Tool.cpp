@@ -15,6 +15,7 @@
 #include "disctool/disc/Catalogue.h"
 #include "disctool/gallery/Library.h"
 #include "disctool/image/DiscCache.h"
+#include "disctool/image/OpenTree.h"
 #include "disctool/making/NewDisc.h"
 #include "disctool/tool/CommandSupport.h"
 #include "disctool/tool/DesktopProbe.h"
@@ -97,10 +98,11 @@ int Library(const Request& request, int& argc, char** argv) {
 }
 
 int Get(const Request& request, int&, char**) {
-  return WithDisc(request, [&](const fs::path& folder) -> int {
-    if (Catalogue(FolderTree(folder)).Empty()) return Outcome(NoDiscIn(folder));
-    return GetCommand(FolderTree(folder), request.words[1], request.words[2], std::cout);
-  });
+  std::string problem;
+  const auto disc = OpenTree(request.words[0], problem);
+  if (!disc) return Outcome(problem);
+  if (Catalogue(*disc).Empty()) return Outcome(NoDiscIn(disc->Name()));
+  return GetCommand(*disc, request.words[1], request.words[2], std::cout);
 }
 
 int New(const Request& request, int& argc, char** argv) {

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "disctool/disc/DiscTree.h"
+
+namespace orvanta {
+
+/// Opens what a user has named as a disc: a folder, or an image, which is read in place. Null if it is
+/// neither; `problem` then says why, the name first.
+std::unique_ptr<DiscTree> OpenTree(const std::filesystem::path& disc, std::string& problem);
+
+}  // namespace orvanta

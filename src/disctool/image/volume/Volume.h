@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "disctool/image/sectors/DataSectors.h"
+#include "disctool/image/volume/VolumeEntry.h"
+
+namespace orvanta {
+
+/// The ISO 9660 file system of a disc (ECMA-119), with the names of Rock Ridge or Joliet where it has them.
+/// Everything is read where it lies and when it is asked for; what a hostile image claims is never trusted.
+class Volume {
+ public:
+  /// Rock Ridge's names are taken if all of them are UTF-8, or if there are no others. Null if the data has
+  /// no file system.
+  static std::unique_ptr<Volume> Open(SessionData data);
+
+  const VolumeEntry& Root() const { return root_; }
+  /// What a folder holds, each name once. Names that lead out of it are left out; `fault` then says so.
+  std::vector<VolumeEntry> List(const VolumeEntry& folder, std::string* fault = nullptr) const;
+  /// Up to `most` bytes of a file from the place `from` on; nothing if they cannot be read.
+  std::optional<std::string> Read(const VolumeEntry& file, std::uint64_t from, std::uint64_t most) const;
+  /// All the data of the disc in bytes. No file is larger.
+  std::uint64_t Capacity() const;
+  /// The name of the disc, in UTF-8.
+  const std::string& Label() const { return label_; }
+
+ private:
+  enum class Names { Plain, RockRidge, Joliet };
+
+  explicit Volume(SessionData data) : sectors_(std::move(data.sectors)) {}
+  bool ReadDescriptors(std::size_t run);
+  std::uint64_t FindRoot(std::size_t run, std::uint32_t block);
+  void UseNames(const std::string& primary, const std::string& joliet);
+  bool AllNamesAreUtf8() const;
+  VolumeEntry EntryOf(std::string_view record) const;
+  std::string BytesOf(const VolumeEntry& folder) const;
+
+  DataSectors sectors_;
+  VolumeEntry root_;
+  Names names_ = Names::Plain;
+  std::size_t skip_ = 0;  // of Rock Ridge
+  std::string label_;
+};
+
+}  // namespace orvanta
