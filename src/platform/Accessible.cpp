@@ -10,7 +10,7 @@ namespace orvanta {
 
 namespace {
 
-/// The part of a control that its holders do not clip, in pixels of the form.
+/// The part of a control that its containers do not clip, in pixels of the form.
 Rect InSight(const Control& control) {
   Rect area = control.Bounds();
   for (const Container* holder = &control.Parent();;) {

@@ -11,14 +11,14 @@ namespace orvanta {
 
 class Control;
 
-/// Names a control for as long as its form lives; no later one gets the same.
+/// Identifies a control as long as its form exists; it is never used again for another one.
 using ControlId = std::uint32_t;
 /// The form itself.
 inline constexpr ControlId kWholeForm = 0;
 
 enum class AccessibleRole {
   Window,
-  Decoration,  ///< a window that is left out
+  Decoration,  ///< a window to be left out
   List,
   ListItem,
   Button,
@@ -26,7 +26,7 @@ enum class AccessibleRole {
   Heading,
   Text,
   Picture,
-  Page,  ///< a picture of text, which nobody can read out
+  Page,  ///< a picture of text, which cannot be read aloud
   ProgressBar
 };
 
@@ -36,35 +36,36 @@ struct AccessibleValue {
   double most = 0;
 };
 
-/// What a screen reader is told of a window or of something in it. Texts are UTF-8.
+/// What a screen reader learns about a window or something in it. Texts are UTF-8.
 struct AccessibleNode {
   ControlId id = kWholeForm;
   AccessibleRole role = AccessibleRole::Window;
   std::string name{};
-  /// What the name leaves out, such as the time of a film.
+  /// What the name does not say, such as the time in a film.
   std::string detail{};
-  /// The part that is in sight, in pixels of the form. Empty for what has scrolled out of sight.
+  /// The visible part, in pixels of the form. Empty if it has been scrolled out of view.
   Rect place{};
   bool unavailable = false;
-  /// The mouse is on it, and the shell shows that.
+  /// Whether the mouse is over it and the shell shows that.
   bool hovered = false;
-  /// Of a button that stays pressed: whether it is.
+  /// For a button that stays pressed: whether it is pressed.
   std::optional<bool> pressed{};
-  /// It can be pressed, which does what a click does.
+  /// Whether it can be pressed, which has the effect of a click.
   bool clickable = false;
   std::optional<AccessibleValue> value{};
-  /// The value can be set, which does what a drag does.
+  /// Whether the value can be set, which has the effect of a drag.
   bool settable = false;
   std::vector<AccessibleNode> children{};
 };
 
-/// A control as a node: its place, and whether it can be clicked or dragged. Blanks around the name go.
+/// The node of a control: its position, and whether it can be clicked or dragged. Blanks around the name are
+/// removed.
 AccessibleNode AccessibleOf(const Control& control, AccessibleRole role, const std::string& name);
 
-/// The node of a control, in `tree` or below; null if it is not there.
+/// The node of a control in `tree` or below; null if it is not there.
 const AccessibleNode* FindAccessible(const AccessibleNode& tree, ControlId id);
 
-/// The tree in words, a line a node, for people who read listings:
+/// The tree as text, with a line for each node:
 ///   window "Atlas"
 ///     list "Menu"
 ///       item "Gry" hovered

@@ -24,9 +24,9 @@ class StackedWindow : public FormWindow {
   Form* owner = nullptr;
   bool visible = false;
   bool minimised = false;
-  Rect dirty;  ///< what is to be painted, in pixels of the form
+  Rect dirty;  ///< the area to be painted, in pixels of the form
 
-  /// Whether the point of the screen belongs to the window as it stands now.
+  /// Whether the screen point belongs to the window as it is now.
   bool Covers(Point screen) const;
   void PaintDirty();
 
@@ -40,7 +40,7 @@ class StackedWindow : public FormWindow {
   void PaintNow() override { PaintDirty(); }
 
  protected:
-  /// Paints a part of the form that is visible.
+  /// Paints a visible part of the form.
   virtual void Paint(const Rect& area) = 0;
 
  private:

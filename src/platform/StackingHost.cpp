@@ -89,7 +89,7 @@ void StackingHost::PaintWindows() {
 void StackingHost::PutOnTop(StackedWindow& window, bool activate) {
   std::erase(windows, &window);
   windows.push_back(&window);
-  // A window stands before its owner and takes the activation in its place.
+  // A window stays in front of its owner and is activated instead of it.
   for (StackedWindow* owned : windows) {
     if (owned->owner == &window.form && owned->visible) return PutOnTop(*owned, activate);
   }
@@ -99,7 +99,7 @@ void StackingHost::PutOnTop(StackedWindow& window, bool activate) {
 void StackingHost::Lost(StackedWindow& window) {
   if (capture_ == &window.form) capture_ = nullptr;
   if (active != &window.form) return;
-  // The activation falls to the owner of a modal window, else to the topmost window of the program.
+  // The owner of a modal window becomes active; otherwise the topmost window of the program does.
   Form* next = window.owner;
   for (auto other = windows.rbegin(); !next && other != windows.rend(); ++other) {
     if (*other != &window && (*other)->visible && !(*other)->minimised) next = &(*other)->form;

@@ -7,34 +7,34 @@
 
 namespace orvanta {
 
-/// A host without a window manager: it keeps the order of its windows and the activation itself, and finds
-/// the window that the mouse meets.
+/// A host without a window manager. It keeps the order of its windows and which one is active, and finds the
+/// window under the mouse.
 class StackingHost : public Host {
  public:
-  std::vector<StackedWindow*> windows;  ///< from the bottom of the screen to its top
+  std::vector<StackedWindow*> windows;  ///< from the bottom of the stack to its top
   Form* active = nullptr;
 
-  // The mouse, which does not leave the screen. Places are pixels of the screen.
+  // The mouse, which stays on the screen. Positions are in screen pixels.
   void MoveMouse(Point to);
   void Press(int button = kLeftButton) { Press(button, FormEvent::Kind::MousePress); }
   /// The second press of a double click.
   void PressAgain(int button = kLeftButton) { Press(button, FormEvent::Kind::MouseSecondPress); }
   void Release(int button = kLeftButton);
-  /// A release of which no form is told, as desktops withhold that of a window that a modal one blocks.
+  /// A release that is not reported to any form, as on desktops when the window is blocked by a modal one.
   void ReleaseUntold(int button = kLeftButton);
 
-  // What a user does with a window manager.
+  // What a user does by means of a window manager.
   void Activate(Form& form);
   void ActivateOther() { SetActive(nullptr); }
   void Minimise(Form& form);
   void Restore(Form& form);
   void RequestClose(Form& form) { Loop().Post({FormEvent::Kind::Close, &form}); }
 
-  /// What a screen reader is told of the windows on the screen, from the top one down.
+  /// What a screen reader learns about the windows on the screen, from the top down.
   std::vector<AccessibleNode> AccessibleWindows() const;
 
   StackedWindow& WindowOf(const Form& form) const;
-  /// For the windows: order and activation.
+  /// Used by the windows: order and activation.
   void PutOnTop(StackedWindow& window, bool activate);
   void Lost(StackedWindow& window);
 
@@ -52,7 +52,7 @@ class StackingHost : public Host {
 
   Point mouse_;
   int held_ = 0;
-  Form* capture_ = nullptr;  // gets the mouse until every button is released
+  Form* capture_ = nullptr;  // gets the mouse until all buttons are released
 };
 
 }  // namespace orvanta

@@ -12,7 +12,7 @@ void HeadlessHost::At(Milliseconds time, std::function<void()> action) {
 
 void HeadlessHost::TakeInput() {
   while (!script_.empty() && script_.begin()->first <= now_) {
-    // Taken out first: the action may add to the script.
+    // Removed first, since the action may add to the script.
     const auto action = std::move(script_.begin()->second);
     script_.erase(script_.begin());
     action();
@@ -68,7 +68,7 @@ void HeadlessHost::MsgBox(const std::string& text, int style, const std::string&
   bool open = true;
   ActivateOther();
   After(messageHold, [&, box = std::weak_ptr(modal)] {
-    // The program may have ended under it.
+    // The program may have ended meanwhile.
     if (box.expired()) return;
     open = false;
     box.lock()->End();

@@ -12,36 +12,36 @@
 
 namespace orvanta {
 
-/// The program would wait for ever, or longer than `HeadlessHost::deadline`.
+/// Thrown if the program would wait for ever, or beyond `HeadlessHost::deadline`.
 struct VirtualTimeOut : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// A host without a screen: a clock that moves only when the program waits or sleeps, a mouse that follows a
-/// script, and plain lists of what it was asked for.
+/// A host without a screen: its clock moves only when the program waits or sleeps, its mouse follows a
+/// script, and plain lists record what the program has done.
 class HeadlessHost : public StackingHost {
  public:
   explicit HeadlessHost(std::filesystem::path discFolder) : driveRoot(std::move(discFolder)) {}
 
-  // How the machine is.
+  // What the machine is like.
   std::filesystem::path driveRoot;
   Size screen{1024, 768};
   bool soundCard = true;
   int startResult = 33;
-  /// When a start turns out to have failed after all.
+  /// When a start that seemed to succeed turns out to have failed.
   Milliseconds startFailsAt = std::numeric_limits<Milliseconds>::max();
-  /// How long the user leaves a message box open; the loop is pumped meanwhile.
+  /// How long the user leaves a message box open, in milliseconds; the loop is pumped meanwhile.
   Milliseconds messageHold = 0;
   struct Media {
     double seconds = 1;
     Size film{};
     Milliseconds loadDelay = 0;
-    double breaksAt = std::numeric_limits<double>::infinity();  ///< seconds: nothing beyond can be read
+    double breaksAt = std::numeric_limits<double>::infinity();  ///< in seconds; nothing after it can be read
   };
-  std::map<std::string, Media> media;  ///< what a file of this name plays, whatever it holds
+  std::map<std::string, Media> media;  ///< what a file of this name plays, whatever its content
   Milliseconds deadline = 3600 * 1000;
 
-  // What happened.
+  // What has happened.
   struct Message {
     std::string text;
     int style;
@@ -55,27 +55,28 @@ class HeadlessHost : public StackingHost {
   };
   std::vector<PlayerCall> playerCalls;
   std::vector<StartRequest> started;
-  std::vector<std::string> fonts, pictures;  ///< fonts with "+" or "-" before the name; pictures as loaded
+  std::vector<std::string> fonts,
+      pictures;  ///< fonts with "+" or "-" before the name; pictures in the order of loading
   struct Pause {
     Milliseconds at, duration;
   };
   std::vector<Pause> sleeps;
-  std::function<void()> OnSleep;  ///< called as a sleep begins, to see what stands on the screen during it
+  std::function<void()> OnSleep;  ///< called when a sleep begins, to check what is on the screen during it
 
   // The script.
   void At(Milliseconds time, std::function<void()> action);
   void After(Milliseconds delay, std::function<void()> action) { At(now_ + delay, std::move(action)); }
   void Click(Point at);
   void DoubleClick(Point at);
-  /// A screen reader presses what it knows by this name. Nothing happens if there is no such thing.
+  /// Lets a screen reader press the thing with this name; does nothing if there is none.
   void Invoke(const std::string& name) { Assist(name, FormEvent::Kind::Invoke); }
-  /// It sets the value of what it knows by this name.
+  /// Lets a screen reader set the value of the thing with this name.
   void SetValue(const std::string& name, double value) { Assist(name, FormEvent::Kind::SetValue, value); }
-  /// The sound server goes away and comes back at once: all that is open loses it.
+  /// The sound server restarts: every player loses it.
   void RestartSoundServer() { ++soundServer_; }
-  /// Which sound server runs, for the players.
+  /// The number of the sound server that runs, for the players.
   int SoundServer() const { return soundServer_; }
-  /// Lets the program run for so long.
+  /// Runs the program for this time.
   void RunFor(Milliseconds duration);
 
   HeadlessWindow& WindowOf(const Form& form) const {

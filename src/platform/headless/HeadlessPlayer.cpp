@@ -136,7 +136,7 @@ std::optional<double> WavLength(const std::filesystem::path& file) {
     for (std::size_t i = 4; i-- > 0;) value = value << 8 | static_cast<unsigned char>(head[at + i]);
     return value;
   };
-  // Bytes a second stand in the format chunk, the count of sample bytes in the data chunk behind it.
+  // The format chunk has the bytes per second, the data chunk after it the number of sample bytes.
   if (number(28) == 0) return std::nullopt;
   return static_cast<double>(number(40)) / number(28);
 }

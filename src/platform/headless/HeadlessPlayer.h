@@ -10,7 +10,7 @@ namespace orvanta {
 
 class HeadlessHost;
 
-/// A player on the virtual clock. It knows how long a file plays from the header of a WAV file, or from the
+/// A player on the virtual clock. It takes the length of a file from the header of a WAV file or from the
 /// host's `media`; any other file cannot be played.
 class HeadlessPlayer : public MoviePlayer {
  public:
@@ -33,11 +33,11 @@ class HeadlessPlayer : public MoviePlayer {
 
  private:
   void Note(const std::string& call) const;
-  /// Opens `file_` and plays it from its beginning. False if it cannot be played.
+  /// Opens `file_` and plays it from the beginning. False if it cannot be played.
   bool Begin();
-  /// Opens a lost file anew and plays on from its place.
+  /// Opens a lost file again and plays on from its position.
   void RunAnew();
-  /// Seconds played since the start of the first repetition.
+  /// The seconds played since the start of the first repetition.
   double Played() const;
   void Settle();
 
@@ -47,20 +47,20 @@ class HeadlessPlayer : public MoviePlayer {
   std::string name_;
   MovieState state_ = MovieState::NoFile;
   double length_ = 0;
-  double from_ = 0;         // played up to the last change of state
+  double from_ = 0;         // seconds played until the last change of state
   Milliseconds since_ = 0;  // when it last began to run
   Milliseconds loadedAt_ = 0;
   double breaksAt_ = 0;
-  int soundServer_ = 0;  // that it plays on
+  int soundServer_ = 0;  // the one that it plays on
   bool playable_ = false;
-  bool lost_ = false;  // needs to be opened anew
+  bool lost_ = false;  // must be opened again
   int volume_ = 0;
   int playCount_ = 1;
   Size filmSize_;
   PicturePtr frame_;
 };
 
-/// Length in seconds by the header of a WAV file; nothing if it is none.
+/// The length in seconds according to the header of a WAV file; nothing if it is not one.
 std::optional<double> WavLength(const std::filesystem::path& file);
 
 }  // namespace orvanta

@@ -7,7 +7,7 @@
 
 namespace orvanta {
 
-/// A window that is only remembered: what it was told, and what was painted on it.
+/// A window that exists only in memory: it records what it was told and what was painted on it.
 class HeadlessWindow final : public StackedWindow {
  public:
   using StackedWindow::StackedWindow;

@@ -16,10 +16,10 @@ PicturePtr ReadPictureFile(const std::filesystem::path& file) {
   const auto at = [&](std::size_t i) { return static_cast<int>(head[i]); };
   Size size;
   if (length >= 10 && std::memcmp(head.data(), "GIF8", 4) == 0) {
-    // GIF89a, 18: the logical screen's size, low byte first.
+    // GIF89a, section 18: the size of the logical screen, low byte first.
     size = {at(6) + at(7) * 256, at(8) + at(9) * 256};
   } else if (length >= 24 && std::memcmp(head.data(), "\x89PNG\r\n\x1a\n", 8) == 0) {
-    // PNG, 11.2.2: the first chunk holds the size, high byte first. Its upper half is 0 here.
+    // PNG, section 11.2.2: the first chunk has the size, high byte first. Its upper half is taken as 0.
     size = {at(18) * 256 + at(19), at(22) * 256 + at(23)};
   }
   if (size.Empty()) return nullptr;

@@ -7,7 +7,7 @@
 
 namespace orvanta {
 
-/// A picture of which only the name of its file and its size are known.
+/// A picture of which only the file name and the size are known.
 class PictureFile : public Picture {
  public:
   PictureFile(std::string ofName, Size size) : name(std::move(ofName)), size_(size) {}
@@ -19,7 +19,8 @@ class PictureFile : public Picture {
   Size size_;
 };
 
-/// Reads the size from the header of a GIF or PNG file. Null if it is no such file or ends before its header.
+/// Reads the size from the header of a GIF or PNG file. Null if the file is neither, or ends before its
+/// header does.
 PicturePtr ReadPictureFile(const std::filesystem::path& file);
 
 }  // namespace orvanta

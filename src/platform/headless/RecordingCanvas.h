@@ -8,12 +8,12 @@
 
 namespace orvanta {
 
-/// Keeps what is painted, with the part of it that the clip lets through.
+/// Records what is painted, with the part that the clip lets through.
 class RecordingCanvas : public Canvas {
  public:
   struct Stroke {
     enum class Kind { Fill, Picture, Text } kind;
-    Rect seen;  ///< pixels of the form
+    Rect seen;  ///< in pixels of the form
     Rect whole;
     ColourValue colour = 0;
     std::string text;  ///< the text, or the file name of the picture
