@@ -15,7 +15,7 @@ namespace {
 
 using Lookup = std::string (*)(const std::filesystem::path&, std::string_view, std::string_view);
 
-/// Ten calls a sample, so that reading the clock does not count.
+/// Ten calls per sample, so that reading the clock does not matter.
 template <class Work>
 double Sample(Work work) {
   const auto start = std::chrono::steady_clock::now();
@@ -23,7 +23,7 @@ double Sample(Work work) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count() / 10;
 }
 
-/// The median of each row, added up: one row for each key.
+/// The sum of the medians of all rows; there is a row for each key.
 double SumOfMedians(std::vector<std::vector<double>> rows) {
   double sum = 0;
   for (auto& row : rows) {
@@ -34,7 +34,7 @@ double SumOfMedians(std::vector<std::vector<double>> rows) {
   return sum;
 }
 
-/// Looks all `keys` up, each in turn with the physical limit, so that both meet the same weather.
+/// Looks up all `keys`, alternating with the physical limit, so that both run under the same conditions.
 void AgainstLimit(benchmark::State& state, Lookup lookup, const std::string& text, const char* section,
                   const std::vector<std::string>& keys, std::string_view lastValue) {
   const TemporaryFile file(text);

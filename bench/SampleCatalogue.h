@@ -6,16 +6,16 @@
 
 namespace orvanta::bench {
 
-/// Where the long menu stands among the entries.
+/// Where the long menu is among the entries.
 enum class MenuPlace { None, First, Middle, Last };
 
-/// A catalogue as discs have them, of `size` bytes and a few more: the window's keys, of which the last one
-/// is `Early` in `GLOBAL`, then entries with their texts, a section of 430 bytes each, and at the very
-/// end the key `Last` of the section `Last`. If asked for, the root has Menu1 to Menu1001, 25 KB of them.
-/// ASCII alone, since GLib refuses Windows-1250.
+/// A typical catalogue of slightly more than `size` bytes: the keys of the window, of which the last is
+/// `Early` in `GLOBAL`; then entries with their texts, each a section of 430 bytes; and at the very end the
+/// key `Last` in the section `Last`. With a long menu, the first menu has Menu1 to Menu1001, which are 25 KB.
+/// ASCII only, since GLib refuses Windows-1250.
 std::string MakeCatalogue(std::size_t size, MenuPlace menu = MenuPlace::None);
 
-/// A file in the temporary directory that goes with its object.
+/// A file in the temporary directory that is removed with its object.
 class TemporaryFile {
  public:
   explicit TemporaryFile(const std::string& text);

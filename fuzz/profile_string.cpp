@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Takes what stands before the next NUL off the front of `input`.
+/// Removes everything before the next NUL from the front of `input` and returns it.
 std::string_view TakeName(std::string_view& input) {
   const std::string_view name = input.substr(0, input.find('\0'));
   input.remove_prefix(std::min(name.size() + 1, input.size()));
@@ -28,8 +28,8 @@ void Expect(const char* reader, const std::string& value, const std::string& exp
 
 }  // namespace
 
-/// The input is a section, a NUL, a key, a NUL and a file. The lookup must give what the reference gives,
-/// from memory and in pieces, whatever their size.
+/// The input is a section, a NUL, a key, a NUL and a file. The lookup must return the same as the reference,
+/// in memory and in pieces of any size.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::string_view input(reinterpret_cast<const char*>(data), size);
   const std::string_view section = TakeName(input), key = TakeName(input);
@@ -41,7 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     rest.remove_prefix(count);
     return count;
   };
-  // Lines longer than a piece lose their middle there.
+  // In pieces, a line that is longer than a piece loses its middle.
   if (size < orvanta::kPiece) {
     Expect("StreamedProfileString", orvanta::StreamedProfileString(read, section, key), expected);
   }
