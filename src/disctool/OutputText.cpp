@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 
-/// The length of the well-formed character that `text` begins with, 0 if there is none.
+/// The length of the well-formed character at the start of `text`; 0 if there is none.
 std::size_t CharacterLength(std::string_view text) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   const unsigned char lead = byte(0);
@@ -20,7 +20,7 @@ std::size_t CharacterLength(std::string_view text) {
   if (length > text.size()) return 0;
   for (std::size_t i = 1; i < length; ++i)
     if ((byte(i) & 0xC0) != 0x80) return 0;
-  // Overlong forms, surrogates and what lies beyond U+10FFFF (RFC 3629, 4).
+  // Reject overlong forms, surrogates and numbers above U+10FFFF (RFC 3629, section 4).
   if ((lead == 0xE0 && byte(1) < 0xA0) || (lead == 0xED && byte(1) > 0x9F)) return 0;
   if ((lead == 0xF0 && byte(1) < 0x90) || (lead == 0xF4 && byte(1) > 0x8F)) return 0;
   return length;
@@ -31,14 +31,14 @@ std::string Hexadecimal(unsigned char byte) {
   return {kDigits[byte >> 4], kDigits[byte & 15]};
 }
 
-/// C0 and C1 controls and DEL.
+/// Whether it is a C0 or C1 control character or DEL.
 bool IsControl(std::string_view character) {
   const auto first = static_cast<unsigned char>(character[0]);
   if (character.size() == 1) return first < 0x20 || first == 0x7F;
   return first == 0xC2 && static_cast<unsigned char>(character[1]) < 0xA0;
 }
 
-/// Calls `good` with each character and `bad` with each byte that belongs to none.
+/// Calls `good` with each well-formed character, and `bad` with each byte that is not part of one.
 template <class Good, class Bad>
 void ForEachCharacter(std::string_view text, Good good, Bad bad) {
   while (!text.empty()) {

@@ -7,10 +7,10 @@
 
 namespace orvanta {
 
-/// Told how much of how much is done. Calls come often.
+/// Called often while something runs, with how much of it is done.
 using Progress = std::function<void(std::uintmax_t done, std::uintmax_t all)>;
 
-/// A bar in one line of a terminal, written anew only when it changes.
+/// A progress bar in one line of a terminal, which is rewritten only when it changes.
 class ProgressBar {
  public:
   ProgressBar(std::ostream& terminal, std::string title) : terminal_(terminal), title_(std::move(title)) {}

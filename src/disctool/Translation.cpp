@@ -20,15 +20,15 @@ std::string Filled(std::string_view text, const std::string* values, std::size_t
 }
 
 void UseLanguageOfUser(const std::filesystem::path& folder) {
-  // Numbers stay as machines write them: LC_NUMERIC is not touched.
+  // LC_NUMERIC is left alone, so that numbers keep their machine-readable form.
   std::setlocale(LC_CTYPE, "");
   std::setlocale(LC_MESSAGES, "");
   bindtextdomain(kTextDomain, folder.c_str());
-  // Everything here is UTF-8, whatever the terminal speaks.
+  // All texts are UTF-8, whatever the encoding of the terminal.
   bind_textdomain_codeset(kTextDomain, "UTF-8");
 }
 
-// Qt sets the locale of the environment once more as its application begins, so that would not last.
+// This does not change the locale, since Qt sets it again when the application starts.
 void UseEnglish() { bindtextdomain(kTextDomain, "/dev/null"); }
 
 }  // namespace orvanta

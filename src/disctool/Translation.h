@@ -11,38 +11,39 @@
 
 namespace orvanta {
 
-/// The name of the tool's translations: DIR/pl/LC_MESSAGES/orvanta-disc.mo.
+/// The name of the tool's translations, which are in FOLDER/pl/LC_MESSAGES/orvanta-disc.mo.
 inline constexpr const char* kTextDomain = "orvanta-disc";
 
-/// Marks a text of a table for translation; `Translated` gives it in the user's language when it is written.
+/// Marks a text in a table for translation; `Translated` translates it when it is shown.
 constexpr const char* Translatable(const char* text) { return text; }
 
-/// `text` with %1 to %9 replaced by the values. A number without a value stays as it is, and what a value
-/// brings along is not filled in again.
+/// `text` with %1 to %9 replaced by the values. A number without a value stays as it is. Numbers in the
+/// values are not replaced.
 std::string Filled(std::string_view text, const std::string* values, std::size_t count);
 
 inline std::string ValueText(std::string_view text) { return std::string(text); }
 inline std::string ValueText(std::integral auto number) { return std::to_string(number); }
 
-/// The English `text` in the user's language, with %1, %2 ... replaced by the values: texts in UTF-8 and
-/// whole numbers. English if there is no translation. Findings' ids, JSON and SARIF keys never go through it.
+/// The English `text` in the user's language, with %1, %2 and so on replaced by the values: UTF-8 texts or
+/// whole numbers. It stays English if there is no translation. Ids of findings and JSON keys are never
+/// translated.
 template <class... Values>
 std::string Translated(const char* text, const Values&... values) {
   const std::array<std::string, sizeof...(Values)> texts{ValueText(values)...};
   return Filled(*text ? dgettext(kTextDomain, text) : text, texts.data(), texts.size());
 }
 
-/// The same for what depends on a number, which is %1; Polish has three forms.
+/// The same for a text that depends on a number, which is %1; Polish has three forms.
 template <class... Values>
 std::string TranslatedCount(const char* one, const char* many, std::size_t number, const Values&... values) {
   const std::array<std::string, sizeof...(Values) + 1> texts{ValueText(number), ValueText(values)...};
   return Filled(dngettext(kTextDomain, one, many, number), texts.data(), texts.size());
 }
 
-/// Makes `Translated` speak the language of the user's locale (LANGUAGE, LC_ALL, LC_MESSAGES, LANG) from the
-/// translations in `folder`. Without a call it speaks English.
+/// Lets `Translated` use the language of the user's locale (LANGUAGE, LC_ALL, LC_MESSAGES, LANG), with the
+/// translations in `folder`. Without this call the language is English.
 void UseLanguageOfUser(const std::filesystem::path& folder);
-/// Takes it back to English.
+/// Sets the language back to English.
 void UseEnglish();
 
 }  // namespace orvanta

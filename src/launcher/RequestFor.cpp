@@ -19,7 +19,8 @@ StartRequest::Status StatusOf(FoundPath::Outcome outcome) {
   return StartRequest::Status::FolderMissing;
 }
 
-/// A word that begins with the disc's drive may name something on it; every other word is the program's own.
+/// A word that begins with the disc's drive may name something on it; every other word belongs to the
+/// program.
 std::vector<StartArgument> ArgumentsOf(const std::string& parameters, const DiscDrive& drive) {
   std::vector<StartArgument> arguments;
   for (const std::string& word : SplitArguments(parameters))
@@ -32,7 +33,8 @@ StartRequest PlainRequest(const std::string& file, const std::string& parameters
   return {StatusOf(found.outcome), file, found.path, parameters, ArgumentsOf(parameters, drive)};
 }
 
-/// Where a shortcut leads; nothing if it leads nowhere on the disc, and is better left to the host.
+/// The request for the target of a shortcut; nothing if that is not on the disc, so that the host has to
+/// follow it.
 std::optional<StartRequest> Followed(const StartRequest& shortcut, const DiscDrive& drive) {
   // Opening a pipe would wait for its writer.
   std::error_code error;

@@ -16,12 +16,12 @@ std::string_view Extension(std::string_view windowsPath) {
   return name.substr(std::min(name.rfind('.'), name.size()));
 }
 
-/// With its separator at the end.
+/// The folder of a path, with a trailing separator.
 std::string_view FolderOf(std::string_view windowsPath) {
   return windowsPath.substr(0, windowsPath.find_last_of(Separators) + 1);
 }
 
-/// A path of the drive on which the disc was made, moved to the disc's own.
+/// Moves a path of the drive on which the disc was made to the disc's own drive.
 std::string OnDisc(std::string path) {
   if (HasDrive(path)) path[0] = 'D';
   return path;
@@ -43,7 +43,7 @@ void AddUtf8(std::string& text, char32_t c) {
   add(0x80 | (c & 0x3F));
 }
 
-/// Two bytes for each unit; half of a pair becomes the replacement character.
+/// Two bytes are a unit; half of a surrogate pair becomes the replacement character.
 std::string FromUtf16(std::string_view bytes) {
   constexpr char32_t Replacement = 0xFFFD;
   const auto unit = [&bytes](std::size_t i) -> char32_t {
@@ -64,7 +64,7 @@ std::string FromUtf16(std::string_view bytes) {
   return text;
 }
 
-/// The parts of a .lnk file, one after the other.
+/// Reads the parts of a .lnk file, one after the other.
 class LinkReader {
  public:
   explicit LinkReader(std::string_view bytes) : bytes_(bytes) {}
@@ -77,9 +77,9 @@ class LinkReader {
     at_ = HeaderSize;
     if (Has(0)) at_ += 2 + Number(at_, 2);
     const std::string local = Has(1) ? LocalPath() : std::string();
-    if (Has(2)) Text();  // its description
+    if (Has(2)) Text();  // the description
     const std::string relative = Has(3) ? Text() : std::string();
-    if (Has(4)) Text();  // its working folder
+    if (Has(4)) Text();  // the working folder
     Shortcut shortcut;
     if (Has(5)) shortcut.arguments = Text();
     if (!relative.empty()) shortcut.targets.push_back(std::string(FolderOf(windowsPath)) + relative);
@@ -90,7 +90,7 @@ class LinkReader {
  private:
   bool Has(int flag) const { return (flags_ >> flag & 1) != 0; }
 
-  /// What lies outside the file is empty, and makes the whole link unfit.
+  /// Reading beyond the end of the file returns nothing and makes the whole link invalid.
   std::string_view Bytes(std::size_t at, std::size_t size) {
     isWhole_ = isWhole_ && at <= bytes_.size() && size <= bytes_.size() - at;
     return isWhole_ ? bytes_.substr(at, size) : std::string_view();
@@ -103,13 +103,13 @@ class LinkReader {
     return value;
   }
 
-  /// Up to its NUL, in the code page of the machine that made it.
+  /// A text up to its NUL, in the code page of the machine that made it.
   std::string AnsiText(std::size_t at) {
     const std::size_t end = bytes_.find('\0', at);
     return FromWindows1250(Bytes(at, end == bytes_.npos ? end : end - at));
   }
 
-  /// LinkInfo: the path where the target was when the link was made, in two parts.
+  /// LinkInfo: the path of the target when the link was made, in two parts.
   std::string LocalPath() {
     constexpr std::size_t HasLocalPath = 1;
     const std::size_t begin = at_;
@@ -118,7 +118,7 @@ class LinkReader {
     return AnsiText(begin + Number(begin + 16, 4)) + AnsiText(begin + Number(begin + 24, 4));
   }
 
-  /// StringData: a count of characters, then they.
+  /// StringData: a number of characters, followed by the characters.
   std::string Text() {
     const bool wide = Has(7);
     const std::size_t size = Number(at_, 2) * (wide ? 2 : 1);
@@ -138,7 +138,7 @@ std::string_view Trimmed(std::string_view line) {
   return line.substr(0, line.find_last_not_of(Blanks) + 1);
 }
 
-/// The value of URL in the section InternetShortcut. It may be longer than a disc's settings.
+/// The value of URL in the section InternetShortcut. It may be longer than a setting of a disc.
 std::string_view AddressIn(std::string_view text) {
   constexpr std::string_view Key = "URL=";
   bool inSection = false;
@@ -152,7 +152,7 @@ std::string_view AddressIn(std::string_view text) {
   return {};
 }
 
-/// "%20" and its like in an address stand for a byte.
+/// Decodes "%20" and the like in an address; each stands for a byte.
 std::string Decoded(std::string_view address) {
   const auto digit = [](char c) { return std::string_view("0123456789abcdef").find(FoldAscii(c)); };
   std::string decoded;

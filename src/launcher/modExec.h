@@ -19,7 +19,7 @@ class modExec {
   void ExecError(std::int32_t code);
 
  private:
-  /// Gives what has become of the start by then.
+  /// Waits for the program's window and returns the result of the start as it is known then.
   int WaitForProgram(int start);
 
   Shell& shell_;

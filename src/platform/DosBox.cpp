@@ -36,7 +36,7 @@ bool IsDosName(std::string_view name) {
          std::ranges::all_of(extension, IsDosCharacter);
 }
 
-/// Over all bytes of the name, as Wine 1.0 counted it. `name` is not empty.
+/// The hash over all bytes of the name, as Wine 1.0 computed it. `name` is not empty.
 unsigned Hash(std::string_view name) {
   const auto small = [](char c) { return static_cast<unsigned char>(FoldAscii(c)); };
   unsigned hash = 0xBEEF;
@@ -47,7 +47,7 @@ unsigned Hash(std::string_view name) {
   return hash;
 }
 
-/// The first characters of a part of a name; an underscore stands for what Wine finds unfit.
+/// The first characters of a part of a name; an underscore replaces each that Wine considers unfit.
 std::string Mangled(std::string_view part, std::size_t longest) {
   std::string mangled;
   for (const char c : part.substr(0, longest)) {
@@ -58,11 +58,11 @@ std::string Mangled(std::string_view part, std::size_t longest) {
   return mangled;
 }
 
-/// Four characters of the name, "~", and three that stand for the hash.
+/// Four characters of the name, "~", and three characters for the hash.
 std::string HashedName(std::string_view name) {
   constexpr std::string_view Digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZ012345";
   constexpr std::size_t Beginning = 4;
-  // A dot at either end does not part an extension from the rest.
+  // A dot at the beginning or the end does not separate an extension.
   std::size_t dot = name.substr(0, name.size() - 1).rfind('.');
   if (dot == 0) dot = std::string_view::npos;
   std::string hashed = Mangled(name.substr(0, dot), Beginning);
@@ -73,7 +73,7 @@ std::string HashedName(std::string_view name) {
                                        : hashed + "." + Mangled(name.substr(dot + 1), LongestExtension);
 }
 
-/// The names that lead from `disc` to `file`, each with a backslash before it. Nothing if it lies elsewhere.
+/// The names that lead from `disc` to `file`, each after a backslash. Nothing if it is not inside.
 std::string DosPath(const fs::path& file, const fs::path& disc) {
   std::string path;
   const fs::path below = file.lexically_relative(disc);
@@ -100,7 +100,7 @@ std::string Parameters(const StartRequest& request, const fs::path& disc) {
   return line;
 }
 
-/// DOS allows eleven characters. A folder that is mounted is mostly called as its disc is.
+/// DOS allows eleven characters. A mounted folder usually has the name of its disc.
 std::string Label(const fs::path& disc) {
   std::string label;
   std::ifstream file(disc / VolumeLabelFile);

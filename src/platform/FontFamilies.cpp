@@ -10,7 +10,7 @@ namespace orvanta {
 
 namespace {
 
-/// Empty for a font that has no stand-in.
+/// The Liberation font that replaces a font; empty if there is none.
 std::string_view StandIn(std::string_view name) {
   static constexpr struct {
     std::string_view old;

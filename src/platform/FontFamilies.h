@@ -7,11 +7,11 @@
 
 namespace orvanta {
 
-/// The families that show text in a font of this name, the best first: the font itself, Liberation's stand-in
-/// for a font of the old desktop, and Liberation Sans. None is empty.
+/// The font families that can show text in a font of this name, the best first: the font itself, the
+/// Liberation font that replaces a font of old desktops, and Liberation Sans. None of them is empty.
 std::vector<std::string> FontFamilies(const std::string& name);
 
-/// The font's size in pixels, 1 at least.
+/// The size of the font in pixels, at least 1.
 int PixelSize(const Font& font);
 
 }  // namespace orvanta
