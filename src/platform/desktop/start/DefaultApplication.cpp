@@ -1,7 +1,7 @@
-// GIO finds the application, in this process and within milliseconds. The desktops' helper scripts (xdg-mime,
-// xdg-open) can hang, are not always installed, and each tells a missing application from an unregistered
-// type in its own way. And what GIO has found is what is then started, so a start is never called a success
-// that a second look-up in a script turns into nothing.
+// GIO finds the application in this process, within milliseconds. The helper scripts of the desktops
+// (xdg-mime, xdg-open) may hang, are not always installed, and differ in how they report missing applications
+// and unregistered types. And the application that GIO finds is the one that is started, so no start counts
+// as a success and then fails in a script.
 
 #include "platform/desktop/start/DefaultApplication.h"
 
@@ -29,12 +29,12 @@ struct Release {
 
 template <class T>
 using Owned = std::unique_ptr<T, Release>;
-/// A list of strings that ends with a null pointer.
+/// A list of strings that a null pointer ends.
 using OwnedList = std::unique_ptr<char*, Release>;
 
 std::string Text(const char* text) { return text ? text : ""; }
 
-/// As much as the marks of the type database look at.
+/// As many bytes as the signatures in the database of types need.
 std::string Beginning(const std::filesystem::path& file) {
   constexpr std::streamsize Enough = 4096;
   std::string bytes(Enough, '\0');
@@ -44,14 +44,14 @@ std::string Beginning(const std::filesystem::path& file) {
   return bytes;
 }
 
-/// The list in `path` names an application for the type or for one that includes it.
+/// Whether the list in `path` names an application for the type, or for a more general one.
 bool ListRegisters(const std::string& path, const std::string& type) {
   const Owned<GKeyFile> list(g_key_file_new());
   if (!g_key_file_load_from_file(list.get(), path.c_str(), G_KEY_FILE_NONE, nullptr)) return false;
   for (const char* group : {"Default Applications", "Added Associations", "MIME Cache"}) {
     const OwnedList keys(g_key_file_get_keys(list.get(), group, nullptr, nullptr));
     for (char** key = keys.get(); key && *key; ++key) {
-      // Everything is octets; that makes no application right for everything.
+      // Every file consists of octets, but that does not make an application suitable for it.
       const bool general = std::string_view(*key) == "application/octet-stream" && type != *key;
       if (general || !g_content_type_is_a(type.c_str(), *key)) continue;
       const Owned<char> names(g_key_file_get_string(list.get(), group, *key, nullptr));
@@ -61,8 +61,9 @@ bool ListRegisters(const std::string& path, const std::string& type) {
   return false;
 }
 
-/// GIO passes over applications that are not there, so that they were registered is read from its lists. The
-/// lists of single desktops (gnome-mimeapps.list) are left out: they suggest, installed or not.
+/// GIO skips applications that are not installed, so its lists show whether any was registered. The lists of
+/// single desktops (gnome-mimeapps.list) are left out: they suggest applications whether they are installed
+/// or not.
 bool IsRegistered(const std::string& type) {
   std::vector<std::string> folders{g_get_user_config_dir(), Text(g_get_user_data_dir()) + "/applications"};
   for (const char* const* folder = g_get_system_config_dirs(); *folder; ++folder)
@@ -81,7 +82,7 @@ std::string Uri(const OpenTarget& target) {
   return uri ? uri.get() : target.place;
 }
 
-/// The entry's command line with the target in it; empty if the entry is malformed.
+/// The entry's command line for the target; empty if the entry is malformed.
 std::vector<std::string> CommandOf(GAppInfo& application, const OpenTarget& target) {
   int count = 0;
   char** parsed = nullptr;

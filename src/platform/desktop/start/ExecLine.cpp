@@ -46,7 +46,7 @@ std::vector<std::string> ExpandExec(const std::vector<std::string>& words, const
     asked = asked || AsksForTarget(word);
     if (word == "%i" && !fields.icon.empty()) arguments.insert(arguments.end(), {"--icon", fields.icon});
     std::string filled = Filled(word, fields);
-    // A word that was nothing but a code without a value is no argument; one that was empty is.
+    // A word that consisted only of a code without a value is dropped; an empty word stays an argument.
     if (!filled.empty() || word.empty()) arguments.push_back(std::move(filled));
   }
   if (!asked && !arguments.empty()) arguments.push_back(fields.path);

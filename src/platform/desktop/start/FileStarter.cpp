@@ -24,12 +24,12 @@ namespace {
 using Arguments = std::vector<std::string>;
 using std::chrono::milliseconds;
 
-/// A program that ends with a failure in so short a time has not started.
+/// A program that fails within this time counts as not started.
 constexpr milliseconds Patience{500};
-/// The first program of a user waits until Wine has filled its prefix.
+/// The first Windows program of a user waits until Wine has filled its prefix.
 constexpr milliseconds PatienceForPrefix{120'000};
 
-/// The scheme of an address that is opened as such; empty for everything else.
+/// The scheme of an address to be opened as such; empty for anything else.
 std::string_view SchemeOf(std::string_view text) {
   constexpr std::array<std::string_view, 3> Schemes = {"http", "https", "mailto"};
   const std::string_view before = text.substr(0, text.find(':'));
@@ -82,7 +82,7 @@ StartCode FileStarter::StartFound(const std::filesystem::path& file, const Start
   struct stat status {};
   if (stat(file.c_str(), &status) != 0) return CodeOfError(errno);
   if (S_ISDIR(status.st_mode)) return OpenFolder(file);
-  // Pipes and devices would be opened for their effect.
+  // Opening a pipe or a device could have side effects.
   if (!S_ISREG(status.st_mode)) return StartCode::AccessDenied;
   const Descriptor opened(open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   if (!opened) return CodeOfError(errno);
@@ -116,7 +116,7 @@ StartCode FileStarter::Run(const std::vector<std::string>& command,
 StartCode FileStarter::StartForeign(const Runner& runner, const std::vector<std::string>& arguments) {
   if (runner.path.empty()) return StartCode::NoAssociation;
   const StartCode code = Run(Joined({runner.path}, arguments), environment_, Patience);
-  // The file is there; what was not found is the runner.
+  // The file exists, so what was not found is the runner.
   return code == StartCode::FileNotFound ? StartCode::NoAssociation : code;
 }
 
@@ -146,7 +146,7 @@ StartCode FileStarter::OpenWithApplication(const OpenTarget& target) const {
     case ApplicationCommand::State::Found: break;
   }
   const StartCode code = CodeOfError(StartProcess(command.arguments, environment_).error);
-  // The document is there; what was not found is the application.
+  // The document exists, so what was not found is the application.
   return code == StartCode::FileNotFound ? StartCode::IncompleteAssociation : code;
 }
 

@@ -17,32 +17,32 @@ namespace orvanta {
 
 struct OpenTarget;
 
-/// Opens files as the user's desktop would: it runs programs and gives everything else to the application
-/// that is registered for it. Native programs and scripts are run by the system, programs for Windows by
-/// `wine` and programs for DOS by `dosbox` from the search path. Whatever runs it, a program opens what its
-/// arguments name on the disc.
+/// Opens files as the user's desktop would: runs programs, and gives everything else to the application that
+/// is registered for it. The system runs native programs and scripts; `wine` and `dosbox` from the search
+/// path run programs for Windows and DOS. Whatever runs a program, the program can open what its arguments
+/// name on the disc.
 ///
-/// Nothing waits for what was started, which lives on when this program ends.
+/// Nothing waits for a started program, and it goes on running when this program ends.
 class FileStarter {
  public:
-  /// `disc` is the root of the disc's drive, absolute. The programs get `forPrograms` as their environment:
-  /// make this before the shell changes its own.
+  /// `disc` is the root of the disc's drive, an absolute path. Started programs get `forPrograms` as their
+  /// environment: construct this object before the shell changes its own.
   explicit FileStarter(std::filesystem::path disc,
                        std::vector<std::string> forPrograms = CurrentEnvironment());
 
-  /// Gives a number above 32 if the start was handed over, else a failure of `StartCode`. Documents, folders
-  /// and addresses take no arguments.
+  /// Returns a number above 32 if the start was handed over, otherwise a failure of `StartCode`. Documents,
+  /// folders and addresses take no arguments.
   std::int32_t Start(const StartRequest& request);
-  /// What has become of a start, by its number. A program that ends with a failure within half a second has
-  /// failed to start: Wine without its 32-bit half does so, DOSBox without a display, a program without one
-  /// of its libraries. That gives `StartCode::BadProgram`, everything else the number.
+  /// The result of a start as it is known now, by the number of the start. A program that fails within half a
+  /// second has not really started: Wine without its 32-bit half, DOSBox without a display, a program without
+  /// one of its libraries. Then it is `StartCode::BadProgram`, otherwise the same number.
   std::int32_t Result(std::int32_t start);
 
  private:
   StartCode StartFound(const std::filesystem::path& file, const StartRequest& request);
   StartCode StartWine(const Runner& runner, std::vector<std::string> arguments, const StartRequest& request);
   StartCode StartForeign(const Runner& runner, const std::vector<std::string>& arguments);
-  /// Starts a program and lets it be watched.
+  /// Starts a program and watches it.
   StartCode Run(const std::vector<std::string>& command, const std::vector<std::string>& environment,
                 std::chrono::milliseconds watched);
   StartCode OpenFolder(const std::filesystem::path& folder) const;

@@ -16,26 +16,26 @@ namespace {
 
 constexpr int FirstOwnDescriptor = 3;
 
-/// A way to hear of a child. It is closed by the system when all who could write have ended or become another
-/// program.
+/// A pipe for reports from a child. The system closes it when all processes that could write to it have ended
+/// or have become other programs.
 struct Pipe {
   Descriptor reading;
   Descriptor writing;
 };
 
-/// Everything that a child needs. It is made before the fork: another thread may hold the allocator's lock
-/// then, so the child may not allocate, nor call anything else that signal-safety(7) does not list.
+/// Everything that a child needs, made before the fork: another thread may hold the lock of the allocator at
+/// that moment, so the child must not allocate memory or call anything that signal-safety(7) does not list.
 struct Plan {
-  int report;  ///< for the error that kept the program from being loaded
+  int report;  ///< for the error that prevented the program from being loaded
   int end;     ///< for a failure of the program while it is watched
-  int rounds;  ///< of `Round` milliseconds, for which the program is watched
+  int rounds;  ///< for how many times `Round` milliseconds the program is watched
   char* const* arguments;
   char* const* environment;
 };
 
 constexpr int Round = 10;
 
-/// Holds back every signal of this thread, so that no handler of this program runs in its children.
+/// Blocks all signals of this thread, so that no handler of this program runs in its children.
 class BlockedSignals {
  public:
   BlockedSignals() {
@@ -59,7 +59,7 @@ std::vector<char*> Pointers(std::vector<std::string>& texts) {
   return pointers;
 }
 
-/// The child's end lies above the standard descriptors, which the child is going to replace.
+/// The child's end has a number above the standard descriptors, which the child is going to replace.
 Pipe MakePipe(int& error) {
   std::array<int, 2> ends{-1, -1};
   if (pipe2(ends.data(), O_CLOEXEC) != 0) {
@@ -73,7 +73,7 @@ Pipe MakePipe(int& error) {
 }
 
 void Report(int pipe, int number) {
-  // Nobody is left to hear of a failed write.
+  // There is nobody left to report a failed write to.
   [[maybe_unused]] const ssize_t written = write(pipe, &number, sizeof number);
 }
 
@@ -88,7 +88,7 @@ void ConnectToNothing() {
     if (nothing >= 0 && nothing != standard) dup2(nothing, standard);
 }
 
-/// Libraries open files without the close-on-exec mark, so the mark is set on all that there is.
+/// Some libraries open files without the close-on-exec flag, so it is set on all open files.
 void CloseAllWithExec() {
   if (close_range(FirstOwnDescriptor, ~0U, CLOSE_RANGE_CLOEXEC) == 0) return;
   rlimit limit{};
@@ -115,7 +115,7 @@ void ResetSignals() {
   Fail(plan, errno);
 }
 
-/// The locks and connections of this program must not live on in whoever watches another.
+/// The locks and connections of this program must not stay open in the process that watches another.
 void CloseAllBut(int kept) {
   const int lowest = dup2(kept, FirstOwnDescriptor);
   if (close_range(static_cast<unsigned>(lowest) + 1, ~0U, 0) == 0) return;
@@ -140,8 +140,8 @@ void CloseAllBut(int kept) {
   _exit(EXIT_SUCCESS);
 }
 
-/// The child starts the program as a child of its own and goes at once, or leaves somebody who goes soon.
-/// Then the program falls to the system's first process, which collects it when it ends.
+/// The child starts the program as its own child and exits at once, or leaves a process that exits soon. Then
+/// the program belongs to the system's first process, which reaps it when it ends.
 [[noreturn]] void StartAndLeave(const Plan& plan) {
   if (plan.rounds > 0) {
     const pid_t watcher = fork();

@@ -9,18 +9,18 @@
 
 namespace orvanta {
 
-/// The environment of this process, `NAME=value` each.
+/// The environment of this process, as `NAME=value`.
 std::vector<std::string> CurrentEnvironment();
 
-/// Hears how a program ends, for as long as somebody listens.
+/// Learns how a program ends, while the program is watched.
 class EndWatch {
  public:
   EndWatch() = default;
   explicit EndWatch(Descriptor reading) : reading_(std::move(reading)) {}
 
-  /// The program ended with a failure, an exit status other than 0 or a signal, while it was watched.
+  /// Whether the program has failed while it was watched: its exit status was not 0, or a signal ended it.
   bool HasFailed();
-  /// Nothing can be heard any more: the program has ended, or the time is over.
+  /// Whether nothing more can be learned: the program has ended, or the time is over.
   bool IsOver() const { return !reading_; }
 
  private:
@@ -29,17 +29,17 @@ class EndWatch {
 };
 
 struct ProcessStart {
-  int error = 0;  ///< the error number (errno(3)) that kept the program from being loaded, else 0
+  int error = 0;  ///< the error number (errno(3)) that prevented the program from being loaded; 0 for none
   EndWatch watch{};
 };
 
-/// Starts the program at the path `arguments[0]`, returns as soon as the system has loaded it, and watches it
-/// for so long.
+/// Starts the program with the path `arguments[0]`, returns as soon as the system has loaded it, and watches
+/// it for the given time.
 ///
-/// The program stands on its own: it is no child of this process, leads a session of its own, has default
-/// signals and none blocked, and has nothing of this process open. Its input is empty and its output goes
-/// nowhere (`/dev/null`), so that a pipe or a log file that takes this process's output ends with this
-/// process. The current folder is this process's.
+/// The program is independent: it is not a child of this process, has its own session, default signal
+/// handlers and no blocked signals, and inherits no open files. Its input is empty and its output is
+/// discarded (`/dev/null`), so that a pipe or a log file that takes the output of this process ends with this
+/// process. It starts in the current folder of this process.
 ProcessStart StartProcess(std::vector<std::string> arguments, std::vector<std::string> environment,
                           std::chrono::milliseconds watched = std::chrono::milliseconds(0));
 

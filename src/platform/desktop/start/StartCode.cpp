@@ -13,7 +13,7 @@ StartCode CodeOfError(int error) {
     case ELOOP: return StartCode::PathNotFound;
     case EACCES:
     case EPERM: return StartCode::AccessDenied;
-    // A list of arguments that is too long, and too many open files or processes, are want of resources too.
+    // Too many arguments, open files or processes are also a lack of resources.
     case ENOMEM:
     case EAGAIN:
     case EMFILE:

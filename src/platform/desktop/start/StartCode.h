@@ -4,8 +4,8 @@
 
 namespace orvanta {
 
-/// What a start gives: above 32 it has been handed over, else the failure. The numbers are those of the
-/// Windows call ShellExecute (its manual page lists them).
+/// The result of a start: above 32 it was handed over; otherwise it is the failure. The numbers are those of
+/// the Windows function ShellExecute (see its documentation).
 enum class StartCode : std::int32_t {
   Unknown = 1,
   FileNotFound = 2,
@@ -20,7 +20,7 @@ enum class StartCode : std::int32_t {
   Started = 33,
 };
 
-/// The failure for an error number of the system (errno(3)) when a file is looked at or a process is made.
+/// The failure for an error number of the system (errno(3)) when a file is examined or a process is created.
 StartCode CodeOfError(int error);
 
 }  // namespace orvanta

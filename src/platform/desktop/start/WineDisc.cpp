@@ -17,12 +17,12 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view PrefixVariable = "WINEPREFIX=", DriveVariable = "ORVANTA_WINE_DRIVE=";
-/// The drives that the prefix has from its beginning: Wine learns only as its session begins which drives are
-/// CD-ROMs.
+/// The drives that the prefix has from the beginning: Wine learns only at the start of its session which
+/// drives are CD-ROMs.
 constexpr std::string_view OwnDrives = "de";
 constexpr std::string_view AllDrives = "defghijklmnopqrstuvwxy";
 
-/// What Wine's registry editor is given once. The file is empty once that has been done.
+/// The input of Wine's registry editor, which runs once; afterwards the file is empty.
 constexpr const char* DriveTypesFile = "drives.reg";
 constexpr std::string_view DriveTypes =
     "REGEDIT4\r\n\r\n"
@@ -30,9 +30,9 @@ constexpr std::string_view DriveTypes =
     "\"d:\"=\"cdrom\"\r\n"
     "\"e:\"=\"cdrom\"\r\n";
 
-/// Arguments: Wine, the prefix, the program's command line. Wine fills the prefix before it does anything
-/// else; it shall neither offer to download other software nor take over the desktop's file types meanwhile.
-/// Drive types count from Wine's next session on.
+/// Its arguments are Wine, the prefix, and the command line of the program. Wine fills the prefix before it
+/// does anything else; meanwhile it must neither offer to download other software nor take over the desktop's
+/// file types. Drive types take effect with Wine's next session.
 constexpr const char* FirstStart =
     "wine=$1; cd \"$2\" || exit; shift 2\n"
     "WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe=' \"$wine\" regedit /S drives.reg || exit\n"
@@ -46,7 +46,7 @@ std::string_view ValueOf(const std::vector<std::string>& environment, std::strin
   return found == environment.end() ? std::string_view() : std::string_view(*found).substr(variable.size());
 }
 
-/// By the XDG Base Directories; empty if the user has no home.
+/// The prefix according to the XDG Base Directories; empty if the user has no home.
 fs::path OwnPrefix(const std::vector<std::string>& environment) {
   fs::path data = ValueOf(environment, "XDG_DATA_HOME=");
   if (!data.is_absolute()) {
@@ -57,8 +57,8 @@ fs::path OwnPrefix(const std::vector<std::string>& environment) {
   return data / "orvanta/wine";
 }
 
-/// The drives with which the running programs of a prefix were started, by proc(5). Those of other users
-/// cannot be read, nor can they run in this prefix.
+/// The drives with which the running programs of a prefix were started, according to proc(5). The processes
+/// of other users cannot be read, but they cannot run in this prefix either.
 std::string DrivesInUse(const fs::path& prefix) {
   const std::string inPrefix = std::string(PrefixVariable) + prefix.string();
   std::string drives;
@@ -126,7 +126,7 @@ char WineDisc::TakeDrive() const {
   const auto canBeOurs = [&](char drive) {
     const bool taken = inUse.find(drive) != inUse.npos;
     if (taken) return fs::read_symlink(Drive(drive), error) == disc_;
-    // A drive that leads somewhere and is none of the prefix's own may be the user's.
+    // A drive that exists and is not one of the prefix's own may be the user's.
     return OwnDrives.find(drive) != OwnDrives.npos || !fs::exists(Drive(drive), error);
   };
   const auto found = std::ranges::find_if(AllDrives, canBeOurs);
