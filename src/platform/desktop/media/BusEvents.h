@@ -6,24 +6,24 @@
 
 namespace orvanta {
 
-/// What a `playbin` has reported on its bus, carried from its threads to the one that drives it.
+/// What a `playbin` has reported on its bus, passed from its threads to the one that controls it.
 class BusEvents {
  public:
-  /// Any of them may hold together.
+  /// Any combination of them is possible.
   struct Flags {
-    bool dataReady = false;  ///< Data is ready at the place that was asked for.
-    bool noDecoder = false;  ///< Nothing is installed that decodes what this player is for.
+    bool dataReady = false;  ///< data is ready at the requested position
+    bool noDecoder = false;  ///< no decoder is installed for what this player plays
     bool ended = false;
     bool failed = false;
-    bool abandoned = false;  ///< The player is being destroyed. Never taken back.
+    bool abandoned = false;  ///< the player is being destroyed; never cleared
   };
 
-  /// Sets what is true in `flags`.
+  /// Sets the flags that are true in `flags`.
   void Add(const Flags& flags);
-  /// Gives all flags and clears them.
+  /// Returns all flags and clears them.
   Flags Take();
   /// Waits until data is ready, the file has ended or failed, or the player is abandoned. An end or a failure
-  /// is still there for `Take`.
+  /// stays set for `Take`.
   Flags Await(std::chrono::milliseconds timeout);
 
  private:

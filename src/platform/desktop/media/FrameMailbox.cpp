@@ -6,7 +6,7 @@
 namespace orvanta {
 
 void FrameNotifier::Notify() {
-  // Qt owns the event from here on, and drops it if the notifier is destroyed first.
+  // Qt owns the event from now on, and drops it if the notifier is destroyed first.
   QCoreApplication::postEvent(this, std::make_unique<QEvent>(QEvent::User).release());
 }
 

@@ -24,7 +24,7 @@ class FrameNotifier : public QObject {
   std::function<void()> onNotify_;
 };
 
-/// Hands the newest picture of a film from the thread that decodes it to the program's thread. A new picture
+/// Passes the newest picture of a film from the thread that decodes it to the program's thread. A new picture
 /// replaces one that the program has not fetched yet, and one notification stands for all of them.
 class FrameMailbox {
  public:
@@ -33,9 +33,9 @@ class FrameMailbox {
   /// Any thread.
   void Put(PicturePtr picture);
   PicturePtr Newest() const;
-  /// True if a picture has come in since the last call.
+  /// True if a picture has arrived since the last call.
   bool TakeChanged();
-  /// Sends no more notifications. To be called before the notifier is destroyed.
+  /// Stops the notifications. Must be called before the notifier is destroyed.
   void Close();
 
  private:

@@ -9,9 +9,9 @@ namespace orvanta {
 namespace {
 
 constexpr int kSilent = -10000;
-constexpr double kHundredthsPerDecade = 2000;  // amplitude falls to a tenth with 20 dB
+constexpr double kHundredthsPerDecade = 2000;  // 20 dB less is a tenth of the amplitude
 
-// Microseconds. Less stutters on a busy machine, more makes the volume sluggish.
+// In microseconds. Less makes the sound stutter on a busy machine, more makes the volume sluggish.
 constexpr gint64 kBufferTime = 80'000;
 constexpr gint64 kLatencyTime = 20'000;
 

@@ -5,17 +5,17 @@
 
 namespace orvanta {
 
-/// The end of a pipeline's sound, with a volume of its own: the one that the user sees in the system's mixer
-/// is not touched.
+/// The sound output of a pipeline, with its own volume: the one that the user sees in the system's mixer is
+/// not changed.
 class GstAudioSink {
  public:
-  /// Sound that has nowhere to go, or whose plugin is missing, runs silently at its proper speed.
+  /// If there is no output for the sound, or its plugin is missing, it runs silently at its normal speed.
   explicit GstAudioSink(SoundOutput output);
 
   /// Null only if the basic plugins are not installed.
   GstElement* Element() const { return bin_.get(); }
-  /// Hundredths of a decibel, -10000 (silent) to 0 (as recorded). Heard after what is already with the
-  /// device, at most a tenth of a second.
+  /// In hundredths of a decibel, from -10000 (silent) to 0 (as recorded). Takes effect after the sound that
+  /// the device already has, which is at most a tenth of a second.
   void SetVolume(int hundredthsOfDecibel);
 
  private:

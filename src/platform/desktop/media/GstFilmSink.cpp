@@ -8,10 +8,10 @@
 namespace orvanta {
 namespace {
 
-// A picture later than this is better left out than shown: the next one is due.
+// A picture that is later than this is dropped, since the next one is due.
 constexpr GstClockTime kMaxLateness = 40 * GST_MSECOND;
 
-/// A sample with its pixels mapped for reading.
+/// A sample whose pixels are mapped for reading.
 struct MappedFrame {
   GstHandle<GstSample> sample;
   GstVideoFrame frame{};
@@ -20,7 +20,7 @@ struct MappedFrame {
   }
 };
 
-/// The size in square pixels: the height stays, the width follows the pixels' shape.
+/// The size in square pixels: the height stays, and the width depends on the shape of the pixels.
 Size ShownSize(const GstVideoInfo& info) {
   const auto width =
       gst_util_uint64_scale_int_round(static_cast<guint64>(info.width), info.par_n, info.par_d);
@@ -39,7 +39,7 @@ PicturePtr Wrap(GstHandle<GstSample> sample) {
   if (!gst_video_frame_map(&mapped->frame, &info, gst_sample_get_buffer(raw), GST_MAP_READ)) return {};
   const auto* pixels = static_cast<const uchar*>(GST_VIDEO_FRAME_PLANE_DATA(&mapped->frame, 0));
   const int stride = GST_VIDEO_FRAME_PLANE_STRIDE(&mapped->frame, 0);
-  // BGRx bytes are a little-endian 0xffRRGGBB word, of which the high byte is ignored.
+  // The bytes of BGRx are a little-endian 0xffRRGGBB word, whose high byte is ignored.
   QImage image(pixels, info.width, info.height, stride, QImage::Format_RGB32, ReleaseFrame, mapped.release());
   return std::make_shared<FilmPicture>(std::move(image), ShownSize(info));
 }
@@ -54,7 +54,7 @@ GstFlowReturn OnSample(GstAppSink* sink, gpointer frames) {
   return Deliver(gst_app_sink_pull_sample(sink), frames);
 }
 
-// The first picture, and the one that stands after a pause or a move to another place.
+// Called for the first picture, and for the one that is shown after a pause or a seek.
 GstFlowReturn OnPreroll(GstAppSink* sink, gpointer frames) {
   return Deliver(gst_app_sink_pull_preroll(sink), frames);
 }

@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// The end of a film's pipeline: every picture goes into `frames` at the moment it is due, without a copy.
+/// The sink for the pictures of a film: each goes into `frames` when it is due, without being copied.
 GstHandle<GstElement> MakeFilmSink(FrameMailboxPtr frames);
 
 /// Takes buffers at the moment they are due and discards them.

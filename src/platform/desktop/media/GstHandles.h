@@ -6,7 +6,7 @@
 
 namespace orvanta {
 
-/// Lets go of a GStreamer object, message, sample or GLib value when its owner goes out of scope.
+/// Releases a GStreamer object, message, sample or GLib value when its owner goes out of scope.
 struct GstRelease {
   void operator()(GstElement* element) const { gst_object_unref(element); }
   void operator()(GstBus* bus) const { gst_object_unref(bus); }
@@ -20,7 +20,7 @@ struct GstRelease {
 template <class T>
 using GstHandle = std::unique_ptr<T, GstRelease>;
 
-/// A new element, owned outright rather than floating; null if its plugin is not installed.
+/// A new element, with a full reference rather than a floating one; null if its plugin is not installed.
 inline GstHandle<GstElement> MakeElement(const char* factory) {
   GstElement* made = gst_element_factory_make(factory, nullptr);
   return GstHandle<GstElement>(made ? GST_ELEMENT(gst_object_ref_sink(made)) : nullptr);

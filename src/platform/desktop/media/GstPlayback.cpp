@@ -14,20 +14,21 @@ constexpr std::chrono::milliseconds kCloseTimeout{1000};
 
 }  // namespace
 
-/// What the two threads have in common. It outlives the playback if its thread hangs.
+/// What the two threads share. It outlives the playback if its thread hangs.
 struct GstPlayback::Shared {
   JobQueue jobs;
   BusEvents events;
-  std::unique_ptr<GstTransport> transport;  // only its play count is for the program's thread
+  std::unique_ptr<GstTransport> transport;  // the program's thread may only use its play count
 
-  std::mutex mutex;  // guards all below
+  std::mutex mutex;  // guards everything below
   std::condition_variable changed;
   MovieState state = MovieState::Running;
   bool loaded = false;
   bool failed = false;
   MovieTimes times;
   bool timesAsked = false;
-  unsigned ordered = 0;  // orders given and carried out: while they differ, the newest order tells the state
+  unsigned ordered =
+      0;  // orders given and carried out; while they differ, the newest order determines the state
   unsigned done = 0;
 
   void Load(const std::filesystem::path& file);
@@ -59,7 +60,7 @@ void GstPlayback::Shared::PlayIfWanted() {
 
 void GstPlayback::Shared::GoTo(double seconds) {
   transport->Seek(seconds);
-  PlayIfWanted();  // the end may have come up while the order was waiting
+  PlayIfWanted();  // the end may have come while the order was waiting
 }
 
 void GstPlayback::Shared::FinishOrder(unsigned number) {
@@ -68,7 +69,7 @@ void GstPlayback::Shared::FinishOrder(unsigned number) {
   Settle();
 }
 
-/// Takes over what has become of the player, unless an order is on the way to change that.
+/// Adopts the state of the player, unless an order is on the way that will change it.
 void GstPlayback::Shared::Settle() {
   failed = transport->Failed();
   if (!transport->Lost() || done != ordered) return;
@@ -76,7 +77,7 @@ void GstPlayback::Shared::Settle() {
   if (state == MovieState::Running) state = MovieState::Stopped;
 }
 
-/// Something has come up in the player: the end of the file or its loss.
+/// Handles what the player has reported: the end of the file or its loss.
 void GstPlayback::Shared::HandleBusEvents() {
   const bool ended = transport->HandleBusEvents();
   const std::scoped_lock lock(mutex);
@@ -182,7 +183,7 @@ double GstPlayback::Length() {
   return shared_->times.length;
 }
 
-/// A question that is still open from an earlier call is not waited for again: the player hangs.
+/// Does not wait again for a question that is still unanswered from an earlier call: then the player hangs.
 void GstPlayback::RefreshTimes() {
   std::unique_lock lock(shared_->mutex);
   if (!shared_->loaded || shared_->failed || shared_->timesAsked) return;

@@ -12,12 +12,12 @@
 
 namespace orvanta {
 
-/// One file being played on a thread of its own, so that neither a drive that has stopped nor a sound server
-/// that hangs holds up the program. All calls come from the program's thread. Orders return at once and are
-/// carried out one after the other; what can be read is the outcome that they are on the way to.
+/// Plays one file on its own thread, so that neither a drive that has stopped nor a sound server that hangs
+/// blocks the program. All calls come from the program's thread. Orders return at once and are carried out
+/// one after the other; the functions that report a state report the one that the orders lead to.
 class GstPlayback {
  public:
-  /// Settings that a player keeps from file to file.
+  /// The settings that a player keeps from file to file.
   struct Settings {
     int volume = 0;
     int playCount = 1;
@@ -26,12 +26,12 @@ class GstPlayback {
   /// Loads `file` and plays it.
   GstPlayback(MovieKind kind, const std::filesystem::path& file, const Settings& settings,
               FrameMailboxPtr frames);
-  /// Waits for the end of it all, but at most a second: a thread that hangs is left to itself.
+  /// Waits until everything has ended, but for at most a second: a thread that hangs is abandoned.
   ~GstPlayback();
   GstPlayback(const GstPlayback&) = delete;
   GstPlayback& operator=(const GstPlayback&) = delete;
 
-  /// Returns as soon as the first data is there, or it is clear that none will come, or the time is up.
+  /// Returns as soon as the first data has arrived, it is clear that none will, or the time is up.
   void AwaitFirstData(std::chrono::milliseconds timeout) const;
 
   void Run();
@@ -40,11 +40,11 @@ class GstPlayback {
   void SetPosition(double seconds);
   void Apply(const Settings& settings);
 
-  /// `NoFile` for a file that has turned out not to play.
+  /// `NoFile` if the file has turned out not to be playable.
   MovieState State() const;
-  /// Stays true when the file is lost later on.
+  /// Stays true if the file is lost later.
   bool Loaded() const;
-  /// True once nothing more can come of this playback.
+  /// True once this playback has failed for good.
   bool Failed() const;
   double Position();
   double Length();
@@ -52,7 +52,7 @@ class GstPlayback {
  private:
   struct Shared;
 
-  /// Without an `outcome` the state stays what it is.
+  /// Without an `outcome` the state stays the same.
   void Order(std::optional<MovieState> outcome, std::function<void()> job);
   void RefreshTimes();
 

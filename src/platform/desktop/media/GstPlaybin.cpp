@@ -9,11 +9,11 @@
 namespace orvanta {
 namespace {
 
-// From GstPlayFlags, which has no header of its own.
+// A value of GstPlayFlags, which is not declared in any header.
 constexpr guint kPlayVideo = 0x1;
 constexpr guint kPlayAudio = 0x2;
 
-// A slow drive may take its time over the first data; only the player's own thread waits for it.
+// A slow drive may take long to deliver the first data; only the player's own thread waits for it.
 constexpr std::chrono::hours kPrerollTimeout{1};
 constexpr std::chrono::seconds kSeekTimeout{2};
 constexpr std::chrono::milliseconds kPollInterval{250};
@@ -33,7 +33,7 @@ void NoteTasks(const GValue* element, gpointer runs) {
   gst_element_foreach_pad(GST_ELEMENT(g_value_get_object(element)), NoteTask, runs);
 }
 
-/// False if nothing in there is reading or waiting for what is read.
+/// Whether anything in there is still reading, or waiting for data.
 bool TasksRun(GstElement* bin) {
   bool runs = false;
   GstIterator* elements = gst_bin_iterate_recurse(GST_BIN(bin));
@@ -55,7 +55,8 @@ GstPlaybin::GstPlaybin(MovieKind kind, SoundOutput output, FrameMailboxPtr frame
 }
 
 bool GstPlaybin::Build(FrameMailboxPtr frames) {
-  // A player of sound keeps the branch for pictures: without it, files that carry one take a second to start.
+  // A player of sound also has a branch for pictures: without it, files with a picture take a second to
+  // start.
   const GstHandle<GstElement> pictures =
       kind_ == MovieKind::Film ? MakeFilmSink(std::move(frames)) : MakeNullSink();
   if (!playbin_ || !pictures || !sound_.Element()) return false;
@@ -101,7 +102,7 @@ bool GstPlaybin::Seek(double seconds) {
   const auto place = static_cast<gint64>(seconds * static_cast<double>(GST_SECOND));
   if (!gst_element_seek_simple(playbin_.get(), GST_FORMAT_TIME, flags, place)) return false;
   const bool there = AwaitData(kSeekTimeout);
-  // A pause that overtakes the return to playing would take the old place's time for the new one's.
+  // A pause that overtakes the return to playing would measure the new position by the clock of the old one.
   gst_element_get_state(playbin_.get(), nullptr, nullptr, kSettleTimeout);
   return there;
 }
@@ -124,13 +125,13 @@ bool GstPlaybin::AwaitData(std::chrono::milliseconds timeout) {
     const BusEvents::Flags flags = events_.Await(kPollInterval);
     if (flags.failed || flags.noDecoder || flags.abandoned) return false;
     if (flags.dataReady || flags.ended) return true;
-    // A broken file can lose its report on the way: the demuxer fails while it is still being put in place.
+    // The error report of a broken file can get lost: the demuxer fails while it is still being connected.
     idle = TasksRun(playbin_.get()) ? 0 : idle + 1;
   }
   return false;
 }
 
-/// True if what is missing is what this player is for; subtitles or a cover may be left out.
+/// Whether the missing decoder is for what this player plays; subtitles or a cover can be left out.
 bool GstPlaybin::LacksDecoder(GstMessage* message) const {
   const GstStructure* details = gst_message_get_structure(message);
   if (!details || !gst_structure_has_name(details, "missing-plugin")) return false;

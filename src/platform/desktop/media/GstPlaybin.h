@@ -12,17 +12,17 @@
 
 namespace orvanta {
 
-/// GStreamer's `playbin` with our sinks, and the few things asked of it. Every call may take as long as the
-/// drive and the sound server do. All times are in seconds.
+/// GStreamer's `playbin` with our sinks, and the few operations that we need. Every call may take as long as
+/// the drive and the sound server do. All times are in seconds.
 class GstPlaybin {
  public:
-  /// What it calls on GStreamer's threads.
+  /// Functions that it calls on GStreamer's threads.
   struct Listener {
-    std::function<void()> onBusEvent;     ///< `BusEvents` holds an end or a failure.
-    std::function<bool()> playsOnceMore;  ///< The file has been read: is it to follow itself without a gap?
+    std::function<void()> onBusEvent;     ///< `BusEvents` has an end or a failure
+    std::function<bool()> playsOnceMore;  ///< the file has been read: is it to be repeated without a gap?
   };
 
-  /// A `playbin` that could not be put together, for want of plugins, fails in `Preroll`.
+  /// If `playbin` or a sink cannot be created because a plugin is missing, `Preroll` fails.
   GstPlaybin(MovieKind kind, SoundOutput output, FrameMailboxPtr frames, BusEvents& events,
              Listener listener);
   ~GstPlaybin();
@@ -32,13 +32,13 @@ class GstPlaybin {
   void SetSource(MediaSource source);
   void SetVolume(int hundredthsOfDecibel) { sound_.SetVolume(hundredthsOfDecibel); }
 
-  /// Lets go of the file.
+  /// Releases the file.
   void Ready();
   /// Opens the file and waits for its first data; false if it cannot be played.
   bool Preroll();
   void Play();
   void Pause();
-  /// Goes there and waits for the data; false if the file cannot do that.
+  /// Goes to a position and waits for its data; false if the file cannot do that.
   bool Seek(double seconds);
 
   std::optional<double> Position() const;

@@ -41,7 +41,7 @@ class GstPlayer : public MoviePlayer {
   FrameNotifier notifier_{[this] { Announce(); }};
   GstPlayback::Settings settings_;
   std::chrono::steady_clock::time_point begun_;
-  bool hadFile_ = false;  ///< A file has been loaded at some time before the present one.
+  bool hadFile_ = false;  ///< whether there was a file before the current one
   FrameMailboxPtr frames_;
   std::unique_ptr<GstPlayback> playback_;
 };
@@ -54,7 +54,7 @@ void GstPlayer::Open(const std::filesystem::path& file) {
 }
 
 /// False without a file. Callers expect a file to be open once they have named it. They wait for that only
-/// when they ask, so that a window shown in between is not delayed.
+/// when they ask, so that a window that is shown in between is not delayed.
 bool GstPlayer::Opened() const {
   if (!playback_) return false;
   const auto left = begun_ + kOpenTimeout - std::chrono::steady_clock::now();

@@ -6,7 +6,7 @@
 
 namespace orvanta {
 
-/// A player on GStreamer. A call blocks for at most 20 ms, but for the wait that `MoviePlayer::Open`
+/// A player based on GStreamer. A call blocks for at most 20 ms, except for the wait that `MoviePlayer::Open`
 /// describes. Closing a file, which `Open` and the destructor do, blocks for up to a second if a drive or the
 /// sound server hangs.
 ///

@@ -8,25 +8,25 @@
 namespace orvanta {
 namespace {
 
-// Seconds. MPEG program streams begin at about half a second by their own clock; less than this is the place
-// of a first picture, not of the beginning.
+// In seconds. MPEG program streams begin at about half a second on their own clock; a smaller value is the
+// position of the first picture, not of the beginning.
 constexpr double kLeastOrigin = 0.1;
 
-// Seconds. A return to the beginning that comes sooner after the start would only be heard as a stutter.
+// In seconds. Going back to the beginning so soon after the start would only be heard as a stutter.
 constexpr double kStillAtBeginning = 0.1;
 
-// A pause this soon after the start leaves the sound server silent for as long as the pause lasted when the
-// stream goes on.
+// After a pause so soon after the start, the sound server stays silent for as long as the pause lasted when
+// the stream goes on.
 constexpr std::chrono::seconds kEarly{1};
 
-// Seconds. Only what lasts at least this long is repeated without a gap: the next repetition is read in
-// advance, and an empty file would never end.
+// In seconds. Shorter files are not repeated without a gap: the next repetition is read in advance, and an
+// empty file would never signal its end.
 constexpr double kLeastGapless = 0.05;
 
-// What fails so soon after it was resumed was lost during the pause.
+// A file that fails so soon after it was resumed was lost during the pause.
 constexpr std::chrono::milliseconds kResume{500};
 
-// A repetition that is over sooner has nothing in it.
+// A repetition that ends sooner has no content.
 constexpr std::chrono::milliseconds kLeastRepetition{10};
 
 }  // namespace
@@ -36,7 +36,8 @@ GstTransport::GstTransport(MovieKind kind, FrameMailboxPtr frames, BusEvents& ev
     : kind_(kind), frames_(std::move(frames)), events_(events), onBusEvent_(std::move(onBusEvent)) {}
 
 bool GstTransport::Load(const std::filesystem::path& file) {
-  // Harmless where it has been done. The first time on a machine it lists the plugins, which takes seconds.
+  // Does nothing if it has been called before. The first call on a machine takes seconds, since it lists the
+  // plugins.
   if (!gst_init_check(nullptr, nullptr, nullptr)) return false;
   file_ = file;
   Build();
@@ -102,7 +103,7 @@ void GstTransport::Seek(double seconds) {
 MovieTimes GstTransport::Times() {
   if (mode_ == Mode::Failed) return {};
   if (mode_ == Mode::Stopped) return {startFrom_, length_};
-  // Of a file without a length in its head it is an estimate, which improves while the file plays.
+  // For a file without a length in its header this is an estimate, which improves while the file plays.
   if (const auto length = playbin_->Duration(); length > 0.0) length_ = *length;
   return {std::max(0.0, playbin_->Position().value_or(origin_) - origin_), length_};
 }
@@ -117,7 +118,7 @@ bool GstTransport::HandleBusEvents() {
   // What has failed may be gone already.
   if (flags.failed && playbin_) Recover();
   if (!flags.ended || flags.failed || mode_ == Mode::Failed || mode_ == Mode::Stopped) return false;
-  // Clips of about a second are over before the player is asked whether they are to be repeated.
+  // Clips of about a second end before the player is asked whether to repeat them.
   if (Repeats()) return false;
   playbin_->Pause();
   mode_ = Mode::Paused;
@@ -127,7 +128,7 @@ bool GstTransport::HandleBusEvents() {
 
 bool GstTransport::PrerollStopped() {
   if (mode_ != Mode::Stopped) return true;
-  // A stopped playbin may still be connected to a sound server that is gone.
+  // A stopped playbin may still be connected to a sound server that has gone.
   bool ready = playbin_ && playbin_->Preroll();
   if (!ready) {
     Build();
@@ -162,7 +163,7 @@ bool GstTransport::StartsOver(double seconds) {
   return seconds <= 0 && mode_ == Mode::Playing && begun_ == 1 && Times().position < kStillAtBeginning;
 }
 
-// On one of GStreamer's threads.
+// Called on one of GStreamer's threads.
 bool GstTransport::PlaysOnceMore() { return length_ >= kLeastGapless && BeginRepetition(); }
 
 bool GstTransport::Repeats() {
@@ -177,15 +178,15 @@ bool GstTransport::BeginRepetition() {
   return false;
 }
 
-/// A player that had no sound server and plays silently does not stay silent when there is one.
+/// Whether a player that plays silently because there was no sound server could be heard now.
 bool GstTransport::SoundIsBack() const {
   return playbin_ && output_ == SoundOutput::None && FindSoundOutput() != SoundOutput::None;
 }
 
-/// Where the next start is to begin.
+/// The position at which the next start begins, in seconds.
 double GstTransport::Place() { return atEnd_ ? 0 : Times().position; }
 
-/// Closes the file; the next start opens it anew and plays from `position`.
+/// Closes the file; the next start opens it again and plays from `position`.
 void GstTransport::Lose(double position) {
   playbin_.reset();
   mode_ = Mode::Stopped;
@@ -194,7 +195,7 @@ void GstTransport::Lose(double position) {
   atEnd_ = pausedEarly_ = false;
 }
 
-/// The file has broken, or the sound server is gone. While a file is paused, GStreamer does not notice the
+/// Handles a broken file or a lost sound server. While a file is paused, GStreamer does not notice the
 /// latter.
 void GstTransport::Recover() {
   const auto resumedFrom = std::exchange(resumedFrom_, std::nullopt);

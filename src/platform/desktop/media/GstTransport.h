@@ -11,24 +11,24 @@
 
 namespace orvanta {
 
-/// Position in a file and its length, in seconds; a length of 0 is unknown.
+/// The position in a file and its length, in seconds; a length of 0 is not known.
 struct MovieTimes {
   double position = 0;
   double length = 0;
 };
 
-/// Plays one file: start, pause, stop, repetition, end. Its calls may take as long as the drive and the sound
+/// Plays one file: start, pause, stop, repetition and end. Calls may take as long as the drive and the sound
 /// server do, so they belong on a thread of their own, always the same one, unless a comment says otherwise.
 ///
-/// A file that breaks half-way or loses its sound server is lost: it stands at its beginning, or where it was
-/// paused, and the next start opens it anew. If it turns out to be lost as it is resumed, that is done at
-/// once.
+/// A file that turns out to be damaged, or whose sound server goes away, is lost: its position is its
+/// beginning, or where it was paused, and the next start opens it again. If the loss is noticed while the
+/// file is resumed, that is done at once.
 class GstTransport {
  public:
   /// `onBusEvent` is called on any thread when `HandleBusEvents` has work.
   GstTransport(MovieKind kind, FrameMailboxPtr frames, BusEvents& events, std::function<void()> onBusEvent);
 
-  /// Waits until the first data stands ready; false for a file that cannot be played.
+  /// Opens the file and waits for its first data; false if it cannot be played.
   bool Load(const std::filesystem::path& file);
   void Play();
   void Pause();
@@ -36,10 +36,11 @@ class GstTransport {
   void Seek(double seconds);
   MovieTimes Times();
   void SetVolume(int hundredthsOfDecibel);
-  /// Any thread. How many times the file is played in all.
+  /// How many times the file is played in all. May be called on any thread.
   void SetPlayCount(int count) { playCount_ = count; }
 
-  /// Repeats the file or holds it at its end, where due. True if this was the end of the last repetition.
+  /// Handles what the bus has reported: repeats the file or stops at its end. True if the last repetition has
+  /// ended.
   bool HandleBusEvents();
   /// True unless `Load` has succeeded. A player that has failed does nothing more.
   bool Failed() const { return mode_ == Mode::Failed; }
@@ -68,17 +69,17 @@ class GstTransport {
   const std::function<void()> onBusEvent_;
   std::filesystem::path file_;
   SoundOutput output_ = SoundOutput::None;
-  std::unique_ptr<GstPlaybin> playbin_;  ///< Null once the file is lost.
+  std::unique_ptr<GstPlaybin> playbin_;  ///< null once the file is lost
   std::atomic<int> playCount_ = 1;
-  std::atomic<int> begun_ = 1;  ///< Repetitions that have begun, the one that is queued included.
+  std::atomic<int> begun_ = 1;  ///< repetitions that have begun, including the queued one
   int volume_ = 0;
   Mode mode_ = Mode::Failed;
-  double origin_ = 0;  ///< What the file's own clock shows at its beginning.
+  double origin_ = 0;  ///< the time on the file's own clock at its beginning
   std::atomic<double> length_ = 0;
-  double startFrom_ = 0;  ///< While stopped: where the next start is.
+  double startFrom_ = 0;  ///< while stopped: the position of the next start
   bool atEnd_ = false;
   bool pausedEarly_ = false;
-  std::optional<double> resumedFrom_;  ///< Where it stood, if the last start did not open the file.
+  std::optional<double> resumedFrom_;  ///< its position, if the last start did not open the file
   Clock::time_point startedAt_;
   Clock::time_point repeatedAt_;
 };

@@ -8,18 +8,18 @@
 
 namespace orvanta {
 
-/// Work for one thread, carried out in order. Any thread may call anything but `Serve`.
+/// Jobs for one thread, which runs them in order. All functions except `Serve` may be called on any thread.
 class JobQueue {
  public:
   using Job = std::function<void()>;
 
-  /// Refused in silence after `Close`.
+  /// Ignored after `Close`.
   void Post(Job job);
-  /// Forgets what has not begun and makes `last` the last job.
+  /// Drops all jobs that have not started and makes `last` the last job.
   void Close(Job last);
-  /// Carries out jobs until the last one is done.
+  /// Runs jobs until the last one is done.
   void Serve();
-  /// True once `Serve` has done the last job; false if `timeout` runs out before.
+  /// Waits until `Serve` has run the last job; false if `timeout` runs out before.
   bool WaitServed(std::chrono::milliseconds timeout);
 
  private:

@@ -12,8 +12,8 @@ MediaSource FindMediaSource(const std::filesystem::path& file) {
   if (!encoded) return {};
   const auto wave = ReadWaveHeader(file);
   if (!wave) return {.uri = encoded.get()};
-  // Read by random access, a sound of an odd number of bytes or with a few bytes after it ends at once and
-  // unheard; read as a stream it plays. Many old voices are like that.
+  // With random access, a sound with an odd number of bytes, or with a few bytes after it, ends at once
+  // without being heard; as a stream it plays. Many old voices are like that.
   return {.uri = "push" + std::string(encoded.get()), .waveStretch = WaveStretch(*wave)};
 }
 

@@ -5,13 +5,13 @@
 
 namespace orvanta {
 
-/// A file as GStreamer is to open it.
+/// How GStreamer is to open a file.
 struct MediaSource {
-  std::string uri;         ///< Empty for a path that cannot be one.
-  double waveStretch = 1;  ///< See `WaveStretch`.
+  std::string uri;         ///< empty if the path cannot be written as a URI
+  double waveStretch = 1;  ///< see `WaveStretch`
 };
 
-/// Reads the file's first bytes.
+/// Reads the first bytes of the file.
 MediaSource FindMediaSource(const std::filesystem::path& file);
 
 }  // namespace orvanta

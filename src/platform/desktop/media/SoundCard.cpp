@@ -13,7 +13,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// The sink that the server loads when it has no other (module-always-sink of PulseAudio, also in PipeWire).
+// The sink that the server loads if it has no other (module-always-sink of PulseAudio; PipeWire has it too).
 constexpr std::string_view kDummySink = "auto_null";
 
 struct PulseRelease {

@@ -16,7 +16,7 @@ constexpr std::chrono::milliseconds kSoundCardTimeout{2000};
 /// no server. Any thread may ask.
 SoundOutput FindSoundOutput(std::chrono::milliseconds timeout = kSoundCardTimeout);
 
-/// True if sound can be played.
+/// Whether sound can be played.
 inline bool IsSoundCardEnabled() { return FindSoundOutput() != SoundOutput::None; }
 
 }  // namespace orvanta

@@ -10,7 +10,7 @@
 namespace orvanta {
 namespace {
 
-// -1 stands for a time that is not known or has no end.
+// -1 means a time that is not known or has no end.
 gint64 Scaled(gint64 time, double factor) {
   return time < 0 ? time : static_cast<gint64>(static_cast<double>(time) * factor);
 }
@@ -79,8 +79,8 @@ GstPadProbeReturn OnTraffic(GstPad*, GstPadProbeInfo* info, gpointer given) {
 
 void Forget(gpointer factor) { std::unique_ptr<double>(static_cast<double*>(factor)); }
 
-/// The samples of a block over those that GStreamer counts: it leaves out what the block's head gives
-/// outright, and that the two samples of a byte are both of the one channel.
+/// The number of samples in a block, divided by the number that GStreamer counts: it leaves out those in the
+/// block's head, and counts the two samples of a byte as if they belonged to two channels.
 double Stretch(const WaveHeader& wave, int headBytes, int headSamples) {
   const int body = wave.blockAlign - headBytes * wave.channels;
   if (wave.channels < 1 || body < 2) return 1;
