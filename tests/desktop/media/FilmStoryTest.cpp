@@ -1,5 +1,5 @@
-// Films in the cinema window and on the whole screen: where they stand, when they move, what is heard
-// meanwhile.
+// Films in the cinema window and on the whole screen: where they are shown, when they move, and what is
+// heard.
 
 #include <QColor>
 #include <algorithm>
@@ -9,7 +9,7 @@
 namespace orvanta::test {
 namespace {
 
-/// A film of plain colours, a second each, and tones that change with them.
+/// A film of plain colours, a second each, with tones that change at the same moments.
 constexpr Rgb kColours[] = {0xC02020, 0x20A020, 0x2020C0, 0xC0C020};
 constexpr int kTones[] = {3000, 4000, 5000, 6000};
 constexpr Rgb kArt = 0x102018;
@@ -52,7 +52,7 @@ class FilmStory : public HeardShell {
     screen_.Click(place);
     screen_.MoveMouse({kKino.left + 580, kKino.top + 20});
   }
-  /// Waits before the click for the button to take notice of the mouse.
+  /// Waits before the click until the button has noticed the mouse.
   void ClickCinema(int button) const {
     screen_.MoveMouse(PlaceOf(button));
     EXPECT_TRUE(CinemaShows(button, kOver)) << button;
@@ -64,7 +64,7 @@ class FilmStory : public HeardShell {
     EXPECT_TRUE(Soon([&] { return screen_.TitleOf(screen_.Active()) == "Orvanta - Kino"; }));
     EXPECT_EQ(screen_.PlaceOf(screen_.Active()), kKino);
   }
-  /// What differs from the cinema with these two buttons pressed or not, whatever the film shows.
+  /// How the cinema differs from one with these two buttons pressed or not, ignoring the film.
   std::string CinemaDiffers(int run, int hold) const {
     Look art({kKino.width, kKino.height}, kArt);
     for (const auto& [button, look] :
@@ -73,7 +73,7 @@ class FilmStory : public HeardShell {
     art.Fill(kPlace.Moved({-kKino.left, -kKino.top}), Look::kAnything);
     return Differs(kKino, art);
   }
-  /// Whether all of an area has a colour of the film, as exactly as films keep colours.
+  /// Whether a whole area has a colour of the film, as exactly as films keep colours.
   bool IsAll(int colour, const Rect& area) const {
     return std::ranges::all_of(screen_.See(area).pixels, [&](Rgb pixel) {
       const QColor seen(pixel), wanted(kColours[colour]);
@@ -85,7 +85,8 @@ class FilmStory : public HeardShell {
     return Soon([&] { return IsAll(colour, area); });
   }
 
-  /// Follows the film from its first colour to its last; how much later each colour came than its tone.
+  /// Watches the film from its first colour to its last; returns by how many seconds each colour comes after
+  /// its tone.
   std::vector<double> Lags() const {
     std::vector<Clock::time_point> came;
     for (int colour = 0; colour < 4; ++colour) {
@@ -101,25 +102,26 @@ class FilmStory : public HeardShell {
   }
 };
 
-// Faults: a film beside its place, over the art or in wrong colours; sound and picture apart; a pause that is
-// none, an end that is not noticed, a second run that does not come, a mode that starts or loses the film.
+// Faults: a film in the wrong place, over the art or in wrong colours; sound and picture apart; a pause that
+// does not pause; an end that is not noticed; a second run that does not start; a change of the mode that
+// restarts or loses the film.
 TEST_F(FilmStory, AFilmIsTheUsersOwn) {
   Start();
   OpenFilm();
   std::vector<double> lags = Lags();
   ASSERT_EQ(lags.size(), 3U);
   std::ranges::sort(lags);
-  EXPECT_LE(std::abs(lags[1]), 0.08) << "sound and picture are apart, " << testing::PrintToString(lags);
+  EXPECT_LE(std::abs(lags[1]), 0.08) << "sound and picture are apart: " << testing::PrintToString(lags);
   EXPECT_EQ(CinemaDiffers(kPressed, kNormal), "");
   EXPECT_TRUE(IsAll(3, kPlace));
   EXPECT_TRUE(CinemaShows(kRun, kNormal)) << "the end is not noticed";
   ClickCinema(kHold);
-  EXPECT_EQ(CinemaDiffers(kNormal, kNormal), "") << "a pause after the end";
-  EXPECT_TRUE(IsAll(3, kPlace)) << "the last picture should stand";
+  EXPECT_EQ(CinemaDiffers(kNormal, kNormal), "") << "the pause button should do nothing after the end";
+  EXPECT_TRUE(IsAll(3, kPlace)) << "the last picture should stay";
   for (const int tone : kTones) EXPECT_NEAR(ears_->Seconds(tone), 1, 0.06) << tone;
 
   ClickCinema(kRun);
-  EXPECT_TRUE(Reaches(0, kPlace)) << "not from the beginning";
+  EXPECT_TRUE(Reaches(0, kPlace)) << "it should start from the beginning";
   EXPECT_TRUE(Reaches(1, kPlace));
   Wait(0.3);
   ClickCinema(kHold);
@@ -128,7 +130,7 @@ TEST_F(FilmStory, AFilmIsTheUsersOwn) {
   ClickCinema(kWhole);
   EXPECT_TRUE(Reaches(1, whole_));
   Wait(0.5);
-  EXPECT_TRUE(IsAll(1, whole_)) << "the change of the mode starts the film";
+  EXPECT_TRUE(IsAll(1, whole_)) << "changing the mode should not start the film";
   ClickAndMoveAside({30, 700});
   EXPECT_EQ(CinemaDiffers(kNormal, kPressed), "");
   EXPECT_TRUE(IsAll(1, kPlace));
@@ -143,7 +145,7 @@ TEST_F(FilmStory, AFilmIsTheUsersOwn) {
   for (const int tone : kTones) EXPECT_NEAR(ears_->Seconds(tone), 2, 0.25) << tone;
   ClickCinema(kClose);
   EXPECT_TRUE(MainIsActive());
-  EXPECT_TRUE(Shows(kShow, kNormal)) << "the entry's view is not there as it was";
+  EXPECT_TRUE(Shows(kShow, kNormal)) << "the entry should be shown as before";
   GoBack();
 }
 

@@ -1,4 +1,4 @@
-// Files, drives and sound servers that fail the player.
+// Failures of files, drives and sound servers.
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -31,7 +31,7 @@ TEST_F(GstPlayerFailure, FilesThatCannotBePlayedLeaveItAsItWas) {
   }
   music->SetPlayCount(99999);
   music->Open(File("head.wav", sound.substr(0, 44)));
-  EXPECT_TRUE(UntilStopped(*music, 1)) << "a loop of nothing should end instead of spinning";
+  EXPECT_TRUE(UntilStopped(*music, 1)) << "an empty loop should end instead of spinning";
 }
 
 TEST_F(GstPlayerFailure, AFileThatIsGoneInMidPlayEndsWithoutAHang) {
@@ -46,7 +46,7 @@ TEST_F(GstPlayerFailure, AFileThatIsGoneInMidPlayEndsWithoutAHang) {
   EXPECT_TRUE(UntilStopped(*film, 2)) << "and cannot be played again";
 }
 
-// A pipe into which nobody writes holds up whoever opens it, as a drive does whose disc will not turn.
+// Opening a pipe that nobody writes into blocks, as does a drive whose disc does not turn.
 TEST_F(GstPlayerFailure, ADriveThatHangsDoesNotHoldUpTheProgram) {
   const auto stuck = files.folder.Path() / "stuck.wav", next = files.Sound("a.wav", {600});
   ASSERT_EQ(mkfifo(stuck.c_str(), 0600), 0);
@@ -56,7 +56,7 @@ TEST_F(GstPlayerFailure, ADriveThatHangsDoesNotHoldUpTheProgram) {
   EXPECT_LE(Cost([&] { music->Open(next); }), 2000);
   EXPECT_TRUE(UntilStopped(*music, 3)) << "the next file plays";
   EXPECT_TRUE(music->Loaded());
-  // Lets the hanging thread go.
+  // Releases the hanging thread.
   const int writer = open(stuck.c_str(), O_WRONLY | O_NONBLOCK);
   EXPECT_GE(writer, 0);
   close(writer);

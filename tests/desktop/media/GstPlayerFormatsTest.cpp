@@ -1,4 +1,4 @@
-// The table of formats, each row from a file that is made here.
+// The table of formats. Each row is tested with a file made here.
 
 #include <gst/gst.h>
 
@@ -6,7 +6,7 @@
 
 namespace orvanta::test {
 
-/// A row of the table. `decoder` is the plugin without which it is an unknown type.
+/// A row of the table. `decoder` is the plugin without which the type is unknown.
 struct Format {
   const char *name, *file, *options, *decoder;
 };
@@ -21,7 +21,7 @@ TEST_P(GstPlayerFormats, ArePlayedFromBeginningToEnd) {
   const bool isFilm = std::string(row.options).find("-c:v") != std::string::npos;
   const auto file = isFilm ? files.Film(row.file, {kTone, kTone}, row.options)
                            : files.Sound(row.file, {kTone, kTone}, row.options);
-  if (file.empty()) GTEST_SKIP() << "this ffmpeg does not make it";
+  if (file.empty()) GTEST_SKIP() << "this ffmpeg cannot make it";
   gst_init(nullptr, nullptr);
   GstPluginFeature* decoder = gst_registry_lookup_feature(gst_registry_get(), row.decoder);
   if (!decoder) GTEST_SKIP() << "needs " << row.decoder;
@@ -60,8 +60,8 @@ INSTANTIATE_TEST_SUITE_P(
         Format{"OggTheora", "a.ogv", "-c:v libtheora -c:a libvorbis", "theoradec"}),
     [](const auto& row) { return row.param.name; });
 
-// GStreamer ends at once on bytes behind the sound, and takes a second for a song with a cover.
-TEST_F(GstPlayerOddFiles, AreHeardAsTheyWereMeant) {
+// GStreamer ends at once if bytes follow the sound, and takes a second for a song with a cover.
+TEST_F(GstPlayerOddFiles, AreHeardAsIntended) {
   const std::string voice = ContentOf(files.Sound("voice.wav", {800}, "-bitexact -c:a pcm_u8 -ar 11025"));
   music->Open(files.folder.File("voice.dat", voice + std::string("\0LIST", 5)));
   ASSERT_TRUE(UntilStopped(*music, 2));
@@ -79,8 +79,8 @@ TEST_F(GstPlayerOddFiles, AreHeardAsTheyWereMeant) {
   EXPECT_TRUE(music->FilmSize().Empty());
 }
 
-// The marker of an entry's music would stop half-way, or at its end long before that of the music.
-TEST_F(GstPlayerOddFiles, ALengthThatIsNotInTheFileIsGuessedEverBetter) {
+// Otherwise the marker of an entry's music would stop half-way, or reach its end long before the music does.
+TEST_F(GstPlayerOddFiles, ALengthThatIsNotInTheFileIsEstimatedBetterAndBetter) {
   const auto bytes = [this](const char* name, const char* rate) {
     return ContentOf(
         files.Sound(name, Tones(4, 800), std::string("-write_xing 0 -id3v2_version 0 -b:a ") + rate));
@@ -92,7 +92,7 @@ TEST_F(GstPlayerOddFiles, ALengthThatIsNotInTheFileIsGuessedEverBetter) {
 }
 
 TEST_F(GstPlayerOddFiles, AMidiFileSoundsInItsVoices) {
-  // A4, twice for half a second: 480 ticks, of which one is 960th of a second.
+  // The note A4, twice for half a second; a tick is 1/960 of a second, and there are 480.
   const std::string note("\0\x90\x45\x7f\x83\x60\x80\x45\0", 9), end("\0\xff\x2f\0", 4);
   music->Open(files.folder.File(
       "a.mid", std::string("MThd\0\0\0\x06\0\0\0\x01\x01\xe0MTrk\0\0\0\x16", 22) + note + note + end));

@@ -1,4 +1,4 @@
-// The player, heard and seen.
+// The player, as it is heard and seen.
 
 #include <malloc.h>
 
@@ -12,7 +12,7 @@ namespace orvanta::test {
 struct GstPlayer : PlayerStory {
   static constexpr const char* kOld = "-c:v msvideo1 -pix_fmt rgb555le -c:a pcm_u8";
 
-  /// The number that the film's picture carries in its bars.
+  /// The number that the bars in the film's picture show.
   int Number() const {
     const auto picture = std::dynamic_pointer_cast<const FilmPicture>(film->Frame());
     if (!picture) return -1;
@@ -22,11 +22,11 @@ struct GstPlayer : PlayerStory {
   }
 };
 
-// Faults: a call that takes its time, a second run that stays silent, an end that nobody learns of.
+// Faults: a call that takes too long; a second run that stays silent; an end that nobody notices.
 TEST_F(GstPlayer, MusicIsHeldMovedAndPlayedAgain) {
   const auto file = files.Sound("a.wav", {600, 900, 1200, 1500});
   EXPECT_LE(Cost([&] { music->Open(file), music->State(); }), 260) << "the first question may wait";
-  // The shell holds its loop at the first tick, a moment after the start.
+  // The shell pauses its music at the first tick, a moment after the start.
   EXPECT_LE(Cost([&] { music->Pause(); }), 20);
   Wait(0.5);
   EXPECT_NEAR(music->Length(), 2.0, 0.01);
@@ -40,9 +40,9 @@ TEST_F(GstPlayer, MusicIsHeldMovedAndPlayedAgain) {
   ASSERT_TRUE(UntilStopped(*music, 2));
   const auto fell = Clock::now();
   Wait(0.2);
-  // The program learns of the end while the last of it is hardly over.
+  // The program notices the end almost as soon as the last tone is over.
   EXPECT_LE(std::chrono::duration<double>(fell - ears.Begun()).count(), ears.Heard(1500).back().to + 0.1);
-  EXPECT_LT(ears.Seconds(1200), 0.011) << "what lies between is heard";
+  EXPECT_LT(ears.Seconds(1200), 0.011) << "what lies between must not be heard";
   EXPECT_LE(Cost([&] { music->Stop(); }), 20);
 }
 
@@ -56,12 +56,12 @@ TEST_F(GstPlayer, MusicIsRepeatedWithoutAGap) {
   for (std::size_t i = 1; i < heard.size(); ++i) EXPECT_LE(heard[i].from - heard[i - 1].to, 0.05);
 }
 
-// Faults: pictures out of their turn or late, or more calls than a busy program can take.
-TEST_F(GstPlayer, AFilmShowsEveryPictureInItsTurn) {
+// Faults: pictures out of order or late, or more calls than a busy program can handle.
+TEST_F(GstPlayer, AFilmShowsEveryPictureInOrder) {
   std::vector<int> seen;
   film->OnFrame = [&] { seen.push_back(Number()); };
   film->Open(files.Film("a.mpg", {600, 600, 900, 900}, "-c:v mpeg1video -b:v 2M -c:a mp2 -ar 44100"));
-  EXPECT_LT(film->Position(), 0.2) << "such streams begin at half a second by their own clock";
+  EXPECT_LT(film->Position(), 0.2) << "on their own clock such streams begin at half a second";
   ASSERT_TRUE(UntilStopped(*film, 3));
   EXPECT_EQ(Number(), 49);
   EXPECT_TRUE(std::ranges::is_sorted(seen));
@@ -74,20 +74,20 @@ TEST_F(GstPlayer, AFilmShowsEveryPictureInItsTurn) {
   const int before = Number();
   std::this_thread::sleep_for(std::chrono::milliseconds(400));
   QCoreApplication::processEvents();
-  ASSERT_EQ(seen.size(), 1U) << "one call for all that came while the program was busy";
-  EXPECT_GE(seen[0], before + 8) << "playing went on meanwhile";
+  ASSERT_EQ(seen.size(), 1U) << "one call for all pictures that came while the program was busy";
+  EXPECT_GE(seen[0], before + 8) << "the film should have gone on meanwhile";
   film->Open(files.Film("a.mp4", {600}, "-vf setsar=2/1 -c:v mpeg4 -c:a aac"));
   ASSERT_TRUE(Until(2, [&] { return film->Loaded(); }));
-  EXPECT_EQ(film->FilmSize(), (Size{320, 120})) << "as wide as its pixels are shaped";
+  EXPECT_EQ(film->FilmSize(), (Size{320, 120})) << "the width depends on the shape of the pixels";
 }
 
-// A leak of one picture or one pipeline at each opening would be several megabytes.
+// If each opening leaked one picture or one pipeline, that would be several megabytes.
 TEST_F(GstPlayer, OpensManyFilesWithoutGrowth) {
   struct Held {
     long kilobytes, threads, files;
   };
   const auto held = [] {
-    malloc_trim(0);  // what is free but kept is not held
+    malloc_trim(0);  // returns memory that is free but kept
     const std::string status = ContentOf("/proc/self/status");
     const auto number = [&](const char* name) { return std::stol(status.substr(status.find(name) + 9)); };
     return Held{number("\nVmRSS:"), number("\nThreads:"),

@@ -8,8 +8,8 @@
 
 namespace orvanta::test {
 
-/// The program on a display and a sound server of its own, of which every sound is recorded. Its disc has
-/// entries that are heard.
+/// The program with its own display and sound server, whose sound is recorded. Its disc has entries with
+/// sound.
 class HeardShell : public ShellOnScreen {
  protected:
   static constexpr double kSilence = 0.005, kLoud = 0.2;
@@ -20,12 +20,12 @@ class HeardShell : public ShellOnScreen {
     disc_.Entry("Piosenka", {{"PlayAs", "Music"}, {"Parameters", "%:\\Data\\Sound\\song.wav"}});
     disc_.Entry("Film", {{"PlayAs", "AVI"}, {"Parameters", "%:\\film.mpg"}});
   }
-  /// Writes a file below Data/Sound, which is also a voice if a key is given.
+  /// Writes a file below Data/Sound, which is also set as a voice if a key is given.
   void Sound(const std::string& name, const MediaFiles::Tones& tones, const std::string& voice = "") {
     disc_.File("Data/Sound/" + name, ContentOf(files_.Sound(name, tones)));
     if (!voice.empty()) disc_.Set("VOICES", voice, name);
   }
-  /// Waits until something is heard, or nothing for a quarter of a second.
+  /// Waits until something is heard, or until it has been silent for a quarter of a second.
   bool FallsSilent() const {
     return Soon([&] { return ears_->Peak(ears_->Now() - 0.25) < kSilence; });
   }
@@ -38,8 +38,8 @@ class HeardShell : public ShellOnScreen {
     Wait(seconds);
     return ears_->Peak(from) < kSilence;
   }
-  /// Expects that since then tones of half a second each were heard from the first on, with nothing twice and
-  /// nothing left out, whatever the interruptions; gives for how long.
+  /// Expects that since then tones of half a second each were heard, starting with the first, with none
+  /// repeated or left out, whatever the interruptions; returns how many seconds.
   double HeardInTurn(const MediaFiles::Tones& tones, double since) const {
     double sum = 0, before = 0.5;
     for (const int tone : tones) {

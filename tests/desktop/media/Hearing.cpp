@@ -14,7 +14,7 @@ constexpr double kRate = 44100;
 constexpr std::size_t kStep = 220;
 constexpr double kFullScale = 32768;
 
-// The amplitude of one frequency (Goertzel), of full scale.
+// The amplitude of one frequency, as a part of full scale (Goertzel).
 double Amplitude(std::span<const std::int16_t> part, double hertz) {
   const double turn = 2 * std::cos(2 * std::numbers::pi * hertz / kRate);
   double last = 0, before = 0;
@@ -26,7 +26,7 @@ double Amplitude(std::span<const std::int16_t> part, double hertz) {
 
 }  // namespace
 
-// Without norewinds a null sink's clock stalls for seconds after a pause.
+// Without norewinds the clock of a null sink stalls for seconds after a pause.
 PulseServer::PulseServer(const std::string& sink) : before_(qgetenv("PULSE_SERVER").toStdString()) {
   const std::string folder = folder_.Path();
   for (const char* name : {"PULSE_RUNTIME_PATH", "PULSE_STATE_PATH"}) qputenv(name, folder.c_str());
@@ -95,7 +95,7 @@ double Recording::Peak(double from) const {
   return peak / kFullScale;
 }
 
-// What is heard may come late but never early.
+// Sound may be recorded late but never early.
 Recording::Clock::time_point Recording::Begun() const {
   auto begun = Clock::time_point::max();
   for (int i = 0; i < 100; ++i, std::this_thread::sleep_for(std::chrono::milliseconds(2)))

@@ -7,7 +7,7 @@
 
 namespace orvanta::test {
 
-/// A PulseAudio server of the test's own, which the whole process uses as long as this object lives.
+/// A PulseAudio server for one test, which the whole process uses as long as this object exists.
 class PulseServer {
  public:
   explicit PulseServer(const std::string& sink = "module-null-sink norewinds=1");
@@ -15,9 +15,9 @@ class PulseServer {
 
   void Freeze() { process_->Signal(SIGSTOP); }
   void Thaw() { process_->Signal(SIGCONT); }
-  /// As a service does that has crashed: all connections are lost.
+  /// Restarts as a crashed service does: all connections are lost.
   void Restart();
-  /// The address stays, with nobody behind it.
+  /// Ends the server; its address stays set.
   void Kill() { process_.reset(); }
 
  private:
@@ -27,7 +27,8 @@ class PulseServer {
   std::optional<Program> process_;
 };
 
-/// What is heard on the test's sound server, from now on. Seconds count from the recording's beginning.
+/// Records the sound of the test's sound server from now on. Times are in seconds from the beginning of the
+/// recording.
 class Recording {
  public:
   using Clock = std::chrono::steady_clock;
@@ -37,19 +38,20 @@ class Recording {
     double Length() const { return to - from; }
   };
 
-  /// Waits until sound comes in.
+  /// Waits until sound arrives.
   Recording() {
     Soon([this] { return Now() > 0; });
   }
 
-  /// Where a tone of `hertz` is heard from then on, at that part of full scale at least; exact to 5 ms.
+  /// When a tone of `hertz` is heard, starting at `from`, with at least that part of full scale; exact to 5
+  /// ms.
   std::vector<Span> Heard(double hertz, double from = 0, double level = 0.1) const;
-  /// How long it is heard in all.
+  /// How long it is heard in all, in seconds.
   double Seconds(double hertz, double from = 0, double level = 0.1) const;
-  /// Loudest sample from then on, of full scale.
+  /// The loudest sample since then, as a part of full scale.
   double Peak(double from) const;
   double Now() const;
-  /// When the recording began, by the clock on the wall. Takes 0.2 seconds.
+  /// When the recording began. Takes 0.2 seconds.
   Clock::time_point Begun() const;
 
  private:

@@ -9,8 +9,8 @@
 
 namespace orvanta::test {
 
-/// Makes files of sound and film by ffmpeg, with options for its output. All sounds are pure tones, one after
-/// the other, half a second each. A path is empty if this ffmpeg cannot make the file.
+/// Makes files of sound and film with ffmpeg and the given options for its output. All sounds are pure tones
+/// of half a second each, one after the other. The path is empty if this ffmpeg cannot make the file.
 class MediaFiles {
  public:
   using Path = std::filesystem::path;
@@ -19,8 +19,8 @@ class MediaFiles {
   Path Sound(const std::string& name, const Tones& tones, const std::string& options = "-bitexact") const {
     return Made(name, Waves(tones) + options);
   }
-  /// With pictures of 160 by 120, 25 a second, that carry their number: eight upright bars, the lowest bit on
-  /// the left; a bit is white.
+  /// Pictures of 160 by 120 pixels, 25 per second, each showing its number: eight vertical bars, the lowest
+  /// bit on the left; white is 1.
   Path Film(const std::string& name, const Tones& tones, const std::string& options) const {
     return Made(name, Waves(tones) + "-f lavfi -i \"nullsrc=s=160x120:r=25:d=" +
                           std::to_string(0.5 * static_cast<double>(tones.size())) +

@@ -1,4 +1,4 @@
-// What the shell relies on in every player: one table over the headless player and the one on GStreamer.
+// What the shell expects of every player: one table for the headless player and the one based on GStreamer.
 
 #include <map>
 #include <sstream>
@@ -10,7 +10,7 @@
 namespace orvanta::test {
 namespace {
 
-/// A player of sound, which goes before what it needs.
+/// A player of sound. It is destroyed before what it needs.
 struct Stage {
   std::function<void()> pass5Milliseconds, restartSoundServer;
   std::unique_ptr<MoviePlayer> player;
@@ -33,8 +33,8 @@ Stage GStreamer() {
 
 using enum MovieState;
 
-/// What is done with a sound of two seconds, and where the player is then. A number lets the sound go on for
-/// so many seconds, while it does; `end` waits until the player has stopped.
+/// What is done with a sound of two seconds, and the position of the player afterwards. A number lets the
+/// sound play for so many seconds; `end` waits until the player has stopped.
 struct Row {
   const char *name, *acts;
   MovieState state;

@@ -12,7 +12,7 @@
 
 namespace orvanta::test {
 
-/// What a player needs of a program.
+/// What a player needs from a program.
 class TestApplication {
   int argc_ = 1;
   char name_[7] = "player";
@@ -20,13 +20,13 @@ class TestApplication {
   const QCoreApplication app_{argc_, argv_};
 };
 
-/// A program that has nothing but a player, on a sound server of its own.
+/// A program that only has a player, with its own sound server.
 class PlayerStory : public testing::Test {
  protected:
   using Clock = std::chrono::steady_clock;
   using Tones = MediaFiles::Tones;
 
-  /// Takes in events, as the program does, until `done` holds; false after `seconds`.
+  /// Handles events, as the program does, until `done` returns true; false after `seconds`.
   static bool Until(double seconds, const std::function<bool()>& done) {
     return Soon([&] { return QCoreApplication::processEvents(), done(); },
                 std::chrono::milliseconds(std::lround(1000 * seconds)));
@@ -37,7 +37,7 @@ class PlayerStory : public testing::Test {
   static bool UntilStopped(MoviePlayer& player, double seconds) {
     return Until(seconds, [&player] { return player.State() == MovieState::Stopped; });
   }
-  /// Milliseconds that `call` takes.
+  /// How many milliseconds `call` takes.
   static double Cost(const std::function<void()>& call) {
     const auto begin = Clock::now();
     call();

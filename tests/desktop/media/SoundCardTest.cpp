@@ -5,7 +5,7 @@
 
 namespace orvanta::test {
 
-/// The answer, which must come within two seconds and a half.
+/// The answer, which must come within two and a half seconds.
 static bool Asked() {
   const auto begin = std::chrono::steady_clock::now();
   const bool enabled = IsSoundCardEnabled();
@@ -13,13 +13,13 @@ static bool Asked() {
   return enabled;
 }
 
-TEST(SoundCard, IsThereWithASinkThatIsNoDummyOnAServerThatAnswers) {
+TEST(SoundCard, IsFoundIfAServerAnswersWithASinkThatIsNotADummy) {
   EXPECT_FALSE((PulseServer("module-always-sink"), Asked()));
   PulseServer server;
   EXPECT_EQ(FindSoundOutput(), SoundOutput::Pulse);
   server.Freeze();
   EXPECT_FALSE(Asked());
-  // A server that is started by the question takes its time.
+  // A server that the question starts takes its time.
   std::thread start([&server] {
     std::this_thread::sleep_for(std::chrono::seconds(1));
     server.Thaw();
@@ -27,7 +27,7 @@ TEST(SoundCard, IsThereWithASinkThatIsNoDummyOnAServerThatAnswers) {
   EXPECT_TRUE(Asked());
   start.join();
   server.Kill();
-  // A card that can play has a device named pcmC<card>D<device>p (ALSA's device nodes).
+  // A card that can play has a device named pcmC<card>D<device>p (device nodes of ALSA).
   EXPECT_EQ(Asked(), std::system("ls /dev/snd 2>&1 | grep -q '^pcmC.*p$'") == 0);
 }
 

@@ -1,4 +1,4 @@
-// What is heard while a user goes through a disc: the voices, the loop behind the menu, an entry's music.
+// What is heard while a user goes through a disc: the voices, the background music, an entry's music.
 
 #include <functional>
 
@@ -23,11 +23,11 @@ class SoundStory : public HeardShell {
 
   SoundStory() { Sound("song.wav", song_); }
 
-  /// Where the marker of an entry's music stands, -1 if it is not to be seen.
+  /// The left edge of the marker of an entry's music; -1 if it is not visible.
   int Marker() const {
     const Look track = screen_.See(InMain(Rect{100, 459, 260, 1}));
     const auto red = std::ranges::find(track.pixels, 0xFF0000U);
-    // Behind the edge.
+    // After the edge.
     return red == track.pixels.end() ? -1 : 100 + static_cast<int>(red - track.pixels.begin()) - 1;
   }
   void ExpectSilenceUntil(const std::function<void()>& comesBack) const {
@@ -46,8 +46,8 @@ class SoundStory : public HeardShell {
   }
 };
 
-// Faults: a greeting that comes too late or is cut, a loop that plays on for nobody, starts anew or stays
-// away.
+// Faults: a greeting that comes too late or is cut; music that plays on without a listener, starts again from
+// the beginning, or does not come back.
 TEST_F(SoundStory, TheLoopIsHeardOnlyWhereItBelongs) {
   Sound("start.wav", {kGreeting, kGreeting, kGreeting}, "Start");
   Sound("loop.wav", loop_, "Music");
@@ -57,7 +57,7 @@ TEST_F(SoundStory, TheLoopIsHeardOnlyWhereItBelongs) {
   EXPECT_NE(screen_.Pixel({512, 300}), kArea) << "only when the main window is there";
   AwaitMain();
   const double mainThere = ears_->Now();
-  EXPECT_TRUE(BecomesLoud()) << "no loop on the menu";
+  EXPECT_TRUE(BecomesLoud()) << "no music in the menu";
   Wait(0.7);
   {
     const OtherWindow other({300, 60, 500, 400}, 0x808000);
@@ -83,11 +83,11 @@ TEST_F(SoundStory, TheLoopIsHeardOnlyWhereItBelongs) {
   EXPECT_LT(greeting[0].to, mainThere);
   EXPECT_NEAR(farewell[0].Length(), 2, 0.25);
   for (const int tone : loop_)
-    EXPECT_LT(ears_->Seconds(tone, farewell[0].from + 0.02), 0.02) << "beside the farewell";
+    EXPECT_LT(ears_->Seconds(tone, farewell[0].from + 0.02), 0.02) << "heard together with the farewell";
 }
 
-// Faults: a gap in the loop; a switch that also silences an entry's music, or does not hold; a pause that
-// loses the place; a marker that goes its own way.
+// Faults: a gap in the background music; a switch that also silences an entry's music, or does not silence
+// the background; a pause that loses the position; a marker that does not follow the music.
 TEST_F(SoundStory, AnEntrysMusicIsTheUsersOwn) {
   Sound("loop.wav", {kShortLoop, kShortLoop}, "Music");
   Start();
@@ -95,7 +95,7 @@ TEST_F(SoundStory, AnEntrysMusicIsTheUsersOwn) {
   Wait(3.5);
   ClickButton(kMute);
   EXPECT_TRUE(FallsSilent());
-  Wait(1.2);  // while the loop is paused softly, no tick tells the shell where the cursor is
+  Wait(1.2);  // while the music fades, no tick looks where the cursor is
   const auto loop = ears_->Heard(kShortLoop);
   for (std::size_t i = 1; i < loop.size(); ++i) EXPECT_LE(loop[i].from - loop[i - 1].to, 0.05);
   EXPECT_GE(loop.back().to - loop.front().from, 3.4);
@@ -117,7 +117,7 @@ TEST_F(SoundStory, AnEntrysMusicIsTheUsersOwn) {
   const int stands = Marker();
   Wait(0.5);
   EXPECT_EQ(Marker(), stands);
-  EXPECT_LT(ears_->Peak(paused + 0.2), kSilence) << "not silent at once, or not for long";
+  EXPECT_LT(ears_->Peak(paused + 0.2), kSilence) << "it should be silent at once and stay so";
   EXPECT_NEAR(stands, kMarkerStart + kPixels * HeardInTurn(song_, first), 8);
   const double began = ears_->Heard(song_[0], first).at(0).from;
   for (const auto& [when, marker] : seen) EXPECT_NEAR(marker, kMarkerStart + kPixels * (when - began), 25);
@@ -133,42 +133,43 @@ TEST_F(SoundStory, AnEntrysMusicIsTheUsersOwn) {
   EXPECT_TRUE(Shows(kStop, kPressed)) << "the end of the music is not seen";
   EXPECT_TRUE(Shows(kPlay, kNormal));
   EXPECT_EQ(Marker(), kMarkerStart);
-  EXPECT_TRUE(StaysSilent(0.5)) << "it begins anew by itself";
-  EXPECT_NEAR(HeardInTurn(song_, second), 4, 0.1) << "not from its beginning to its end after a stop";
+  EXPECT_TRUE(StaysSilent(0.5)) << "it starts again by itself";
+  EXPECT_NEAR(HeardInTurn(song_, second), 4, 0.1) << "after a stop it should play from beginning to end";
   ClickButton(kPlay);
   EXPECT_TRUE(BecomesLoud());
   GoBack();
   EXPECT_TRUE(FallsSilent());
   Leave();
-  EXPECT_EQ(ears_->Seconds(kShortLoop, first), 0) << "the loop is heard though switched off";
+  EXPECT_EQ(ears_->Seconds(kShortLoop, first), 0)
+      << "the background music is heard although it is switched off";
 }
 
-// Faults on a machine on which nothing can be heard: waiting for voices; a sound switch that acts; music or a
-// film that plays to nobody.
-TEST_F(SoundStory, WithoutASoundCardOnlyMessagesTellOfSound) {
+// Faults on a machine without sound: waiting for voices; a sound switch that acts; music or a film that plays
+// although nobody hears it.
+TEST_F(SoundStory, WithoutASoundCardThereAreOnlyMessages) {
   for (const std::string voice : {"Start", "Music", "Exit1"})
     Sound(voice + ".wav", MediaFiles::Tones(40, 6000), voice);  // waiting for these would show
   ears_.reset();
   server_.Kill();
   if (IsSoundCardEnabled()) GTEST_SKIP() << "this machine has a sound card that ALSA can play on";
   Start();
-  EXPECT_TRUE(Shows(kUnmute, kNormal)) << "the switch should stand at off";
+  EXPECT_TRUE(Shows(kUnmute, kNormal)) << "the switch should show that sound is off";
   ClickButton(kUnmute);
   Wait(0.5);
-  EXPECT_TRUE(Shows(kUnmute, kOver)) << "over it, and that is all";
+  EXPECT_TRUE(Shows(kUnmute, kOver)) << "it should only show that the cursor is over it";
   for (const Line line : {kSong, kFilm}) {
     OpenEntry(line);
     ClickButton(line == kSong ? kPlay : kShow);
     ASSERT_TRUE(Soon([&] { return Windows().size() == 7 && screen_.Active() == Windows().back(); }))
         << "no message";
-    EXPECT_EQ(screen_.TitleOf(screen_.Active()), screen_.TitleOf(Main())) << "a cinema all the same";
+    EXPECT_EQ(screen_.TitleOf(screen_.Active()), screen_.TitleOf(Main())) << "the cinema opens all the same";
     Screen::Hand("key Return");
     EXPECT_TRUE(MainIsActive()) << "the message stays";
     GoBack();
   }
   const auto begin = Clock::now();
   Leave();
-  EXPECT_LT(SecondsSince(begin), 1.8) << "time for a farewell that nobody hears";
+  EXPECT_LT(SecondsSince(begin), 1.8) << "it waits for a farewell that nobody hears";
 }
 
 }  // namespace

@@ -15,21 +15,21 @@ namespace orvanta::test {
 
 namespace fs = std::filesystem;
 
-// Gives up the rights of root, which would read the unreadable, and may start no process.
+// Gives up the rights of root, who could read everything, and allows no new processes.
 static void BecomePoorUser() {
   constexpr uid_t kNobody = 65534;
   const rlimit none{0, 0};
   if ((geteuid() == 0 && setuid(kNobody) != 0) || setrlimit(RLIMIT_NPROC, &none) != 0) _exit(99);
 }
 
-/// A user's desktop in a folder: programs on a search path of its own, applications and what they open.
+/// A user's desktop in a folder: programs on its own search path, applications, and what they open.
 struct Desktop : testing::Test {
   Desktop() {
     fs::create_directories(root / "bin");
     scratch.File("data/mime/globs2", "50:text/plain:*.txt\n50:application/pdf:*.pdf\n50:text/html:*.html\n");
     scratch.File("data/mime/subclasses", "text/html text/plain\n");
   }
-  /// Starts something from a shell of its own and gives the number. The shell sets a variable for itself.
+  /// Starts something from a shell of its own and returns the result. The shell sets a variable for itself.
   int start(
       const StartRequest& request, void (*before)() = [] {}) const {
     return InAnotherProcess([&] {
@@ -56,14 +56,14 @@ struct Desktop : testing::Test {
     return start(request, before);
   }
   int open(const std::string& address) const { return start(StartRequest{.name = address}); }
-  /// A program, on the search path or elsewhere, that reports its name and its arguments.
+  /// Installs a program, on the search path or elsewhere, that reports its name and arguments.
   fs::path install(const std::string& name) const {
     const std::string to = report.string(), part = to + ".part";
     return scratch.Script(
         name, "for a in \"${0##*/}\" \"$@\" $OF_THE_SHELL; do printf '<%s>' \"$a\"; done > '" + part +
                   "'; /bin/mv '" + part + "' '" + to + "'");
   }
-  /// Expects that something was started which reports this; a `#` stands for the file.
+  /// Expects that a program was started and has reported this; a `#` stands for the file.
   void ExpectStarted(int code, std::string expected, const fs::path& file = {}) const {
     EXPECT_GT(code, 32) << expected;
     EXPECT_TRUE(Soon([&] { return fs::exists(report); })) << "nothing was started";
@@ -71,7 +71,7 @@ struct Desktop : testing::Test {
     EXPECT_EQ(ContentOf(report), expected);
     fs::remove(report);
   }
-  /// An application that is registered for a type.
+  /// Registers an application for a type.
   void registerFor(const std::string& type, const std::string& exec) const {
     scratch.File("data/applications/app.desktop",
                  "[Desktop Entry]\nType=Application\nName=App\nExec=" + exec + "\n");
@@ -83,7 +83,7 @@ struct Desktop : testing::Test {
   std::chrono::milliseconds patience{0};
 };
 
-TEST_F(Desktop, ProgramsThatCannotRunTellWhy) {
+TEST_F(Desktop, ProgramsThatCannotRunReportWhy) {
   EXPECT_EQ(start({.status = StartRequest::Status::FileMissing}), 2);
   EXPECT_EQ(start({.status = StartRequest::Status::FolderMissing}), 3);
   const fs::path secret = scratch.File("secret.txt", "text"), busy = scratch.Script("busy", "");
@@ -105,8 +105,8 @@ TEST_F(Desktop, ProgramsThatCannotRunTellWhy) {
     EXPECT_EQ(start(file), code) << file;
   Allow(secret, 0);
   EXPECT_EQ(start(secret, "", BecomePoorUser), 5);
-  // What lies in a closed folder is not missing: the drive finds it, and opening it tells why it cannot be
-  // read.
+  // A file in a folder without search permission is not missing: the drive finds it, and opening it reports
+  // why it cannot be read.
   const fs::path hidden = scratch.File("closed/a.exe", "MZ");
   Allow(hidden.parent_path(), 0);
   EXPECT_EQ(start(hidden, "", BecomePoorUser), 5);
@@ -119,7 +119,8 @@ TEST_F(Desktop, ProgramsThatCannotRunTellWhy) {
   EXPECT_EQ(start("/bin/true", "", BecomePoorUser), 8);
 }
 
-// Faults: arguments that a shell has had its fingers in; variables that the shell set for its own toolkit.
+// Faults: arguments that a command interpreter has changed; variables that the shell has set for its own
+// toolkit.
 TEST_F(Desktop, ProgramsOfAllSystemsGetTheirArguments) {
   ExpectStarted(start(install("Gra o jaźń/start"), R"(/s "D:\Gry i zabawy" "" zażółć $HOME "a \"b\"")"),
                 R"(<start></s><D:\Gry i zabawy><><zażółć><$HOME><a "b">)");
@@ -189,7 +190,7 @@ TEST_F(Desktop, DocumentsFoldersAndAddressesGoToTheUsersApplications) {
   EXPECT_EQ(start(text), 27) << "its program is gone";
   install("bin/viewer");
   ExpectStarted(start(text, "not for documents"), "<viewer><--new><in one><#>", text);
-  ExpectStarted(start(page), "<viewer><--new><in one><#>", page);  // a more special type
+  ExpectStarted(start(page), "<viewer><--new><in one><#>", page);  // a more specific type
   fs::remove(root / "data/applications/app.desktop");
   EXPECT_EQ(start(page), 27) << "its entry is gone";
 

@@ -1,4 +1,4 @@
-// What a started program inherits of the shell: nothing.
+// What a started program inherits from the shell: nothing.
 
 #include <gtest/gtest.h>
 #include <sys/file.h>
@@ -13,7 +13,7 @@ namespace orvanta::test {
 namespace fs = std::filesystem;
 
 struct Started : testing::Test {
-  /// Starts a script that writes its report by `body`, and waits for the end of the report.
+  /// Starts a script that writes its report with `body`, and waits for the end of the report.
   std::string ReportOf(const std::string& body, std::vector<std::string> arguments = {}) const {
     const std::string report = scratch.Path() / "report";
     fs::remove(report);
@@ -26,8 +26,8 @@ struct Started : testing::Test {
   const ScratchFolder scratch;
 };
 
-// Faults: a lock or a disc's file that a game holds for the rest of the day; a child that nobody waits for,
-// or that dies with the shell's terminal; a shell that waits for its program.
+// Faults: a lock or a file of the disc that a game keeps open for the rest of the day; a child that nobody
+// waits for, or that ends with the shell's terminal; a shell that waits for its program.
 TEST_F(Started, ProgramsAreIndependent) {
   EXPECT_EQ(
       ReportOf("printf '<%s>' \"$@\"", {"zażółć gęślą", "", "a\"b", "$(echo x) * ;", "--", "D:\\gry\\"}),
@@ -41,11 +41,12 @@ TEST_F(Started, ProgramsAreIndependent) {
   const std::string self =
       ReportOf("pwd; read -r l < /proc/$$/stat; set -- ${l##*) }; [ $3 = $$ ] && [ $4 = $$ ] && [ $2 != " +
                std::to_string(getpid()) + " ] && echo alone");
-  EXPECT_EQ(self, fs::current_path().string() + "\nalone\nend\n") << "not alone in its session and group";
+  EXPECT_EQ(self, fs::current_path().string() + "\nalone\nend\n")
+      << "it should be alone in its session and group";
   const auto begin = std::chrono::steady_clock::now();
   EXPECT_EQ(StartProcess({"/bin/sleep", "5"}, {}).error, 0);
-  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(4)) << "the start waits";
-  EXPECT_TRUE(waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD) << "a child is left over";
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(4)) << "the start should not wait";
+  EXPECT_TRUE(waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD) << "no child should be left";
 }
 
 // Fault: a lock of the shell that lives on in whoever watches its program, so that it cannot start again.
@@ -61,8 +62,8 @@ TEST_F(Started, WhoWatchesAProgramHasNothingOfTheShellOpen) {
   EXPECT_TRUE(Soon([&] { return flock(again.get(), LOCK_EX | LOCK_NB) == 0; }, std::chrono::seconds(3)));
 }
 
-TEST_F(Started, SignalsAreDefaultAndNoneIsHeldBack) {
-  // No shell script here: shells tidy up their signals themselves.
+TEST_F(Started, SignalsHaveDefaultHandlersAndNoneIsBlocked) {
+  // Not a shell script, since shells reset their signals themselves.
   const fs::path report = scratch.Path() / "status";
   EXPECT_EQ(InAnotherProcess([&] {
               for (const int number : {SIGPIPE, SIGINT}) signal(number, SIG_IGN);
