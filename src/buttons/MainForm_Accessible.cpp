@@ -1,4 +1,4 @@
-// What a screen reader is told of the ten buttons.
+// What a screen reader learns about the ten buttons.
 
 #include "startup/Shell.h"
 

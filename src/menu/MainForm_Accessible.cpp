@@ -1,4 +1,4 @@
-// What a screen reader is told of a menu and of an entry.
+// What a screen reader learns about a menu and an entry.
 
 #include "startup/MainForm.h"
 

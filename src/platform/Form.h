@@ -46,7 +46,8 @@ class Form : public PropertyOwner, public Container {
   /// Every control, in the order of creation.
   const std::vector<Control*>& Controls() const { return controls_; }
 
-  /// What a screen reader is told of the form as it is now, made anew at each call. Here the window alone.
+  /// What a screen reader learns about the form as it is now; made anew at each call. The default is the
+  /// window alone.
   virtual AccessibleNode Accessible() const;
 
   /// Shows the form. If it is visible already, brings it to the front and activates it.

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// An owner of properties, which is told after each change of one.
+/// An owner of properties, which is notified after each change of one.
 class PropertyOwner {
  public:
   virtual void PropertyChanged(const void* property) = 0;
@@ -13,8 +13,8 @@ class PropertyOwner {
   ~PropertyOwner() = default;
 };
 
-/// A value that is assigned and read like a field and tells its owner when it has changed. Assigning the same
-/// value again changes nothing.
+/// A value that is assigned and read like a field and notifies its owner when it has changed. Assigning the
+/// same value again changes nothing.
 template <class T>
 class Property {
  public:
@@ -32,7 +32,7 @@ class Property {
   operator const T&() const { return value_; }
   const T& operator()() const { return value_; }
 
-  /// Changes the value without telling the owner; for the owner itself.
+  /// Changes the value without notifying the owner; for the owner itself.
   void SetQuietly(T value) { value_ = std::move(value); }
 
  private:

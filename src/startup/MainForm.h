@@ -146,7 +146,7 @@ class MainForm : public Form {
   void ShowFilm();
   void ClosePage(Image& page);
 
-  // What screen readers are told: startup/, menu/ and buttons/MainForm_Accessible.cpp,
+  // What screen readers learn: startup/, menu/ and buttons/MainForm_Accessible.cpp,
   // media/MainForm_Music.cpp
   using Nodes = std::vector<AccessibleNode>;
   AccessibleNode AccessibleMenu() const;

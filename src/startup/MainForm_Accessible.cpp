@@ -1,4 +1,4 @@
-// What a screen reader is told of the main window: the view on show, the ways out of it and the buttons.
+// What a screen reader learns about the main window: the current view, the ways out of it and the buttons.
 
 #include "startup/MainForm.h"
 

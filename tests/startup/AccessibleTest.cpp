@@ -1,4 +1,4 @@
-// What a screen reader is told of each view, and what it can do.
+// What a screen reader learns about each view, and what it can do.
 
 #include "support/Story.h"
 
@@ -6,9 +6,9 @@ namespace orvanta::test {
 namespace {
 
 struct Accessible : Story {
-  /// The tree of the window in front.
+  /// The tree of the front window.
   std::string Look() override { return AccessibleListing(user.host.AccessibleWindows().at(0)); }
-  /// A line of it, from the word or name that it holds on; empty if there is none.
+  /// The rest of a line of the tree, starting at a word or name; empty if there is none.
   std::string Line(const std::string& part) {
     const std::string look = Look();
     const std::size_t at = look.find(part);
@@ -23,8 +23,8 @@ struct Accessible : Story {
                     end_ = "  button \"O płycie\"\n  button \"Minimalizuj\"\n";
 };
 
-// Faults: a view that is told as the one before it, what lies covered under it, a state that is not told.
-TEST_F(Accessible, EveryViewIsToldAsItIsSeen) {
+// Faults: a view that is described as the previous one; things that it covers; a state that is left out.
+TEST_F(Accessible, EveryViewIsDescribedAsItIsSeen) {
   disc.Set("Gra", "Note", "Łamigłówka & zabawa");
   disc.Set("Gra", "System", "Pentium 90");
   disc.Shots("Gra", 4);
@@ -68,8 +68,8 @@ TEST_F(Accessible, EveryViewIsToldAsItIsSeen) {
   EXPECT_EQ(Line("\"Film\""), "\"Film\"");
 }
 
-// Faults: music that is told of too late, or with the times of the piece before.
-TEST_F(Accessible, MusicIsToldAndPlayed) {
+// Faults: music that is described too late, or with the times of the previous piece.
+TEST_F(Accessible, MusicIsDescribedAndPlayed) {
   user.Do("start, choose 1");
   const auto seen = [&] {
     return Line("progress bar") + Line("\"Uruchom\"") + Line("\"Pauza\"") + Line("\"Stop\"");
@@ -91,8 +91,9 @@ TEST_F(Accessible, MusicIsToldAndPlayed) {
   EXPECT_EQ(seen(), silent) << "it has ended";
 }
 
-// Faults: a press that is lost while the program waits, goes past a modal window, or meets what has gone.
-TEST_F(Accessible, APressDoesWhatAClickDoesWheneverItComes) {
+// Faults: a press that is lost while the program waits, passes a modal window, or reaches something that is
+// gone.
+TEST_F(Accessible, APressHasTheEffectOfAClickWheneverItComes) {
   disc.Menu("Dalej", std::vector<std::string>(30, "Druga"));
   user.Do("start");
   Invoke("Dalej");
@@ -106,7 +107,7 @@ TEST_F(Accessible, APressDoesWhatAClickDoesWheneverItComes) {
   Invoke("Druga");
   EXPECT_EQ(Main().MenuLevel, 0);
   user.host.Invoke("Gra");
-  user.host.Invoke("Dalej");  // gone with the list when its turn comes
+  user.host.Invoke("Dalej");  // it is gone, with the list, when its turn comes
   user.Run(2000);
   EXPECT_EQ(Line("heading"), "heading \"Gra\"");
   After(500, [&] {
@@ -115,7 +116,7 @@ TEST_F(Accessible, APressDoesWhatAClickDoesWheneverItComes) {
   });
   After(1000, [&] { user.host.Invoke("Zrzut ekranu 1 z 1"); });
   Invoke("Zrzut ekranu 1 z 1");
-  EXPECT_EQ(Line("heading"), "heading \"Gra\"") << "the viewer stands before the way back";
+  EXPECT_EQ(Line("heading"), "heading \"Gra\"") << "the viewer is in front of the way back";
   Invoke("Wstecz");
   Invoke("Wstecz");
   EXPECT_EQ(Line("list"), "list \"Menu główne\"");
