@@ -20,10 +20,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A copy on its way. Whoever holds the lock knows that nobody is at work on one that he finds.
+/// The extension of an unfinished copy. Whoever holds the lock knows that no other process is working on it.
 constexpr std::string_view kUnfinished = ".part";
 constexpr const char* kLockName = "lock";
-/// Counts up when copies of an older program are no longer of use.
+/// Raised when copies made by older versions can no longer be used.
 constexpr const char* kFormat = "1";
 
 fs::path CacheHome() {
@@ -31,7 +31,7 @@ fs::path CacheHome() {
     const char* value = std::getenv(name);
     return fs::path(value ? value : "");
   };
-  // Paths that are not absolute are to be ignored, by the rules that name these folders.
+  // The XDG rules demand that relative paths are ignored.
   if (fs::path cache = variable("XDG_CACHE_HOME"); cache.is_absolute()) return cache;
   const fs::path home = variable("HOME");
   return (home.is_absolute() ? home : fs::path("/")) / ".cache";
@@ -45,7 +45,7 @@ std::string Digest(const std::string& text) {
       .toStdString();
 }
 
-/// A name for the image as it is now: its place, then its state. Empty if it is no regular file.
+/// A name for the image in its present state: its path, then its state. Empty if it is not a regular file.
 std::string NameOf(const fs::path& image) {
   struct stat status {};
   std::error_code error;
@@ -63,7 +63,7 @@ std::string_view PlaceOf(std::string_view name) { return name.substr(0, name.fin
 
 std::string Problem(const fs::path& path) { return path.string() + ": " + std::strerror(errno); }
 
-/// Held by every shell that has a copy open.
+/// A lock that every shell holds while it has the copy open.
 Descriptor Hold(const fs::path& copy, int operation) {
   Descriptor folder(open(copy.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
   if (folder && flock(folder.get(), operation) != 0) folder.reset();
@@ -80,12 +80,12 @@ std::vector<std::string> NamesIn(const fs::path& folder) {
 
 constexpr std::uintmax_t kMegabyte = 1'000'000;
 
-/// Why a copy has no room; empty if it has.
+/// Why there is no room for a copy; empty if there is.
 std::string NoRoom(const fs::path& folder, const ImageContents& contents) {
   struct statvfs disk {};
   if (statvfs(folder.c_str(), &disk) != 0) return Problem(folder);
   const std::uintmax_t free = std::uintmax_t{disk.f_bavail} * disk.f_frsize;
-  // Each file begins a block of its own.
+  // Each file starts a new block.
   const std::uintmax_t needed = contents.bytes + contents.files * disk.f_frsize;
   if (needed <= free) return {};
   return "unpacking takes " + std::to_string((needed + kMegabyte - 1) / kMegabyte) + " MB, but " +
@@ -105,7 +105,7 @@ Descriptor DiscCache::Lock(std::string& problem) const {
   struct stat status {};
   const Descriptor folder(open(folder_.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
   if (!folder || fstat(folder.get(), &status) != 0) return problem = Problem(folder_), Descriptor();
-  // A stranger could put programs into a disc.
+  // Otherwise somebody else could put programs onto a disc.
   if (status.st_uid != geteuid() || (status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
     return problem = folder_.string() + " is not the user's alone", Descriptor();
   Descriptor lock(
@@ -140,7 +140,7 @@ OpenedDisc DiscCache::Unpack(const fs::path& image, const std::string& name, con
   if (mkdir(unfinished.c_str(), S_IRWXU) != 0) return Failed(Problem(unfinished));
   std::string problem = UnpackImage(image, contents, unfinished, progress);
   if (problem.empty() && NameOf(image) != name) problem = "the image has changed while it was read";
-  // What has been moved into place must be whole after a power cut too.
+  // A copy in its final place must be complete even after a power cut.
   const Descriptor folder = Hold(unfinished, LOCK_SH);
   if (problem.empty() && (!folder || syncfs(folder.get()) != 0)) problem = Problem(unfinished);
   std::error_code error;

@@ -11,25 +11,24 @@ namespace orvanta {
 /// A disc as a folder.
 struct OpenedDisc {
   std::filesystem::path folder;
-  std::string problem;  ///< why there is none, empty if there is one
-  Descriptor inUse;     ///< keeps an unpacked image from being removed
+  std::string problem;  ///< why there is none; empty if there is one
+  Descriptor inUse;     ///< prevents an unpacked image from being removed
 };
 
-/// Copies of images, unpacked into a folder that only the user may enter. A copy is made beside its place and
-/// moved there when it is whole, so that what is there is never half of something. It is used again for as
-/// long as the image's place, size, date and inode are the same; one of an older state of the image is
-/// removed.
+/// Unpacked copies of images, in a folder that only the user may enter. A copy is made beside its final place
+/// and moved there when it is complete, so nothing incomplete is ever found there. It is used again as long
+/// as the path, size, date and inode of the image stay the same; the copy of an older state is removed.
 class DiscCache {
  public:
-  /// In `$XDG_CACHE_HOME/orvanta`, or `~/.cache/orvanta` (XDG Base Directories).
+  /// Uses `$XDG_CACHE_HOME/orvanta` or `~/.cache/orvanta` (XDG Base Directories).
   DiscCache();
   explicit DiscCache(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
-  /// `disc` is a folder or an ISO 9660 image; a folder is taken as it is. Waits for another process that is
+  /// `disc` is a folder or an ISO 9660 image; a folder is used as it is. Waits if another process is
   /// unpacking.
   OpenedDisc Open(const std::filesystem::path& disc, const Progress& progress) const;
 
-  /// Removes every copy that no shell has open. Gives what could not be removed, empty if all is gone.
+  /// Removes all copies that no shell has open. Returns what could not be removed; empty on success.
   std::string Clear() const;
 
   const std::filesystem::path& Folder() const { return folder_; }

@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A disc has thousands of files; an image with more than this is made to do harm.
+/// A disc has thousands of files; an image with more than this is malicious.
 constexpr std::uintmax_t kMostFiles = 1'000'000;
 
 fs::path Joined(const fs::path& folder, const std::vector<std::string>& names) {
@@ -48,7 +48,7 @@ class Unpacker {
     fs::create_directories(entry.isFolder ? path : path.parent_path(), error);
     if (error) return path.string() + ": " + error.message();
     if (entry.isFolder) return {};
-    // No entry is ever a link, so nothing here leads out of the folder; O_EXCL refuses a name given twice.
+    // No entry is a link, so nothing here leads out of the folder. O_EXCL refuses a name that occurs twice.
     constexpr mode_t kOwner = S_IRUSR | S_IWUSR;
     const mode_t mode = kOwner | (entry.mode & S_IXUSR);
     const Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode));
@@ -106,7 +106,7 @@ class Unpacker {
 ImageContents ReadImage(const fs::path& image) {
   ImageContents contents;
   ImageReader reader(image);
-  // A name for the content of another has no size of its own, but takes as much space.
+  // A second name for the same content has no size in the image, but takes up as much space.
   std::map<std::vector<std::string>, std::uintmax_t> sizes;
   while (const auto entry = reader.Next()) {
     const std::uintmax_t size = entry->sameAs.empty() ? entry->size : sizes[entry->sameAs];

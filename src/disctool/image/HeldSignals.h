@@ -4,8 +4,8 @@
 
 namespace orvanta {
 
-/// Holds back the signals with which a user ends a program, for as long as it lives; one that has come
-/// meanwhile then ends the program as ever. What is half made can be removed in between.
+/// Blocks the signals with which a user ends a program. A signal that arrives meanwhile takes effect when
+/// this object is destroyed, so that incomplete files can be removed before.
 class HeldSignals {
  public:
   HeldSignals();
@@ -17,7 +17,7 @@ class HeldSignals {
   sigset_t before_{};
 };
 
-/// Whether such a signal is being held back.
+/// Whether such a signal is pending.
 bool EndPending();
 
 }  // namespace orvanta

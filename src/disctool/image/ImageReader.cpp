@@ -10,10 +10,10 @@
 namespace orvanta {
 namespace {
 
-/// The longest path of a file in an image; the folder's own comes on top.
+/// The longest path of a file in an image, in bytes; the path of the folder is added to it.
 constexpr std::size_t kLongestName = 2000;
 
-/// The names that lead to an entry, empty for the root; nothing if they lead out of the image.
+/// The names that lead to an entry; none for the root. Nothing if they lead out of the image.
 std::optional<std::vector<std::string>> NamesOf(std::string_view path) {
   std::vector<std::string> names;
   if (path.starts_with('/') || path.size() > kLongestName) return std::nullopt;
@@ -22,7 +22,7 @@ std::optional<std::vector<std::string>> NamesOf(std::string_view path) {
     const std::string name(path.substr(0, length));
     path.remove_prefix(std::min(length + 1, path.size()));
     if (name.empty() || name == ".") continue;
-    // A backslash is a separator to the discs themselves.
+    // On the discs themselves a backslash is a separator.
     if (name == ".." || name.find('\\') != name.npos) return std::nullopt;
     names.push_back(name);
   }
@@ -47,7 +47,7 @@ std::optional<ImageEntry> ImageReader::Next() {
   archive_entry* header = nullptr;
   const int result = archive_read_next_header(Get(), &header);
   if (result == ARCHIVE_EOF) return std::nullopt;
-  // A warning tells of a name that could not be converted or of a broken directory.
+  // A warning means that a name could not be converted or that a directory is damaged.
   if (result != ARCHIVE_OK) return Refuse(ProblemOf(Get()));
   return Take(header);
 }

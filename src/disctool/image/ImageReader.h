@@ -13,16 +13,17 @@
 
 namespace orvanta {
 
-/// One entry of an image, found fit to be unpacked. Names lead from the image's root, which has none.
+/// One entry of an image that may be unpacked. Its names lead from the root of the image; the root itself has
+/// none.
 struct ImageEntry {
   std::vector<std::string> names;
   bool isFolder = false;
-  std::vector<std::string> sameAs;  ///< the names of an entry before it with the same content
+  std::vector<std::string> sameAs;  ///< the names of an earlier entry with the same content
   std::uintmax_t size = 0;
   mode_t mode = 0;
 };
 
-/// libarchive gives names in the character set of the locale, whatever that is of the user.
+/// libarchive returns names in the character set of the locale, which must be UTF-8 whatever the user has.
 class Utf8Locale {
  public:
   Utf8Locale() : utf8_(newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr)), before_(uselocale(utf8_)) {}
@@ -37,13 +38,13 @@ class Utf8Locale {
   locale_t utf8_, before_;
 };
 
-/// Goes through an ISO 9660 image entry by entry, and stops at the first that is not fit.
+/// Reads an ISO 9660 image entry by entry, and stops at the first one that must not be unpacked.
 class ImageReader {
  public:
   explicit ImageReader(const std::filesystem::path& image);
 
-  std::string problem;  ///< empty while all is well
-  /// Whence the content of the entry that came last is read.
+  std::string problem;  ///< empty as long as there is none
+  /// What the content of the last entry is read from.
   archive* Get() const { return archive_.get(); }
 
   /// The next entry; nothing at the end and after a problem.
@@ -61,7 +62,7 @@ class ImageReader {
   const std::unique_ptr<archive, CloseArchive> archive_;
 };
 
-/// What libarchive says of its last failure.
+/// libarchive's message about its last failure.
 std::string ProblemOf(archive* image);
 
 }  // namespace orvanta

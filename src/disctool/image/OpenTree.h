@@ -9,7 +9,7 @@
 namespace orvanta {
 
 /// Opens what a user has named as a disc: a folder, or an image, which is read in place. Null if it is
-/// neither; `problem` then says why, the name first.
+/// neither; then `problem` says why, starting with the name.
 std::unique_ptr<DiscTree> OpenTree(const std::filesystem::path& disc, std::string& problem);
 
 }  // namespace orvanta

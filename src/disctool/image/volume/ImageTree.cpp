@@ -12,10 +12,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// As many links as Linux follows on one way (path_resolution(7)).
+/// As many links as Linux follows in one path (path_resolution(7)).
 constexpr int kMostLinks = 40;
 
-/// Puts the names of a path before those that are still to go.
+/// Inserts the names of a path before those that remain.
 void PutFirst(std::deque<std::string>& names, std::string_view path) {
   std::deque<std::string> first;
   while (!path.empty()) {
@@ -50,7 +50,7 @@ std::optional<VolumeEntry> ImageTree::Locate(std::string_view path) const {
     if (way.back().kind != EntryKind::Folder) return std::nullopt;
     if (name == ".") continue;
     if (name == "..") {
-      // Nothing lies above the disc.
+      // There is nothing above the root of the disc.
       if (way.size() == 1) return std::nullopt;
       way.pop_back();
       continue;
@@ -120,7 +120,7 @@ fs::path ImageTree::OnHost(const std::string& path) const {
   if (const auto before = copied_.find(path); before != copied_.end()) return before->second;
   const auto entry = Locate(path);
   if (!entry || entry->kind != EntryKind::File) return {};
-  // Names of the same bytes a thousand times over would fill the host.
+  // A thousand names for the same bytes would fill the host's disk.
   if (copiedBytes_ + entry->Size() > 2 * volume_->Capacity()) return {};
   if (copies_.empty()) {
     std::error_code error;
@@ -128,7 +128,7 @@ fs::path ImageTree::OnHost(const std::string& path) const {
     if (!error && mkdtemp(pattern.data())) copies_ = pattern;
   }
   if (copies_.empty()) return {};
-  // Names of an image never become names of the host.
+  // Names in an image are never used as names on the host.
   fs::path copy = copies_ / std::to_string(copied_.size());
   copy += fs::path(path).extension();
   if (!Copy(*entry, copy)) return {};

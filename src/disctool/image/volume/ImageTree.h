@@ -10,8 +10,8 @@
 
 namespace orvanta {
 
-/// A disc that is an image. It is read where it lies: nothing is written but the files that `OnHost` is asked
-/// for, in a folder that goes with the object. A link leads within the image or nowhere.
+/// A disc that is an image, which is read in place. Nothing is written except the files that `OnHost` is
+/// asked for, in a folder that is removed with this object. Links lead to entries of the image or nowhere.
 class ImageTree : public DiscTree {
  public:
   ImageTree(std::filesystem::path name, std::unique_ptr<const Volume> volume)
@@ -34,7 +34,7 @@ class ImageTree : public DiscTree {
   bool Copy(const VolumeEntry& file, const std::filesystem::path& to) const;
 
   const std::unique_ptr<const Volume> volume_;
-  mutable std::unordered_map<std::uint32_t, Folder> folders_;  // by their first block
+  mutable std::unordered_map<std::uint32_t, Folder> folders_;  // by first block
   mutable std::filesystem::path copies_;
   mutable std::map<std::string, std::filesystem::path> copied_;
   mutable std::uint64_t copiedBytes_ = 0;

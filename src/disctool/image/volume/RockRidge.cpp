@@ -7,9 +7,9 @@
 namespace orvanta {
 namespace {
 
-/// A field begins with its name, its length and its version.
+/// A field starts with its name, its length and its version.
 constexpr std::size_t kFieldHeader = 4;
-/// A record with more of them is made to do harm; no name is so long.
+/// A record with more of them is malicious, since no name is so long.
 constexpr int kMostContinuations = 32;
 constexpr std::size_t kLongestText = 64 * 1024;
 
@@ -23,7 +23,7 @@ void AddName(RockRidge& entry, std::string_view field) {
   if (entry.name->size() < kLongestText) *entry.name += field.substr(kFieldHeader + 1);
 }
 
-/// The parts of a link's path; one that continues is joined with the next.
+/// Adds the components of a link's path; one that continues is joined with the next.
 void AddTarget(RockRidge& entry, std::string_view field, bool& joined) {
   if (!entry.target) entry.target.emplace();
   std::string& target = *entry.target;
@@ -45,7 +45,7 @@ struct Continuation {
   std::uint64_t block = 0, offset = 0, bytes = 0;
 };
 
-/// Reads the fields of one area; gives where they go on.
+/// Reads the fields of one area and returns where they continue.
 Continuation ReadArea(RockRidge& entry, std::string_view area, bool& joined) {
   Continuation next;
   while (area.size() >= kFieldHeader) {
@@ -53,7 +53,7 @@ Continuation ReadArea(RockRidge& entry, std::string_view area, bool& joined) {
     if (length < kFieldHeader || length > area.size()) break;
     const std::string_view name = area.substr(0, 2), field = area.substr(0, length);
     if (name == "ST") break;
-    // Numbers are there twice, low byte first and high byte first.
+    // Numbers are stored twice, low byte first and high byte first.
     if (name == "CE")
       next = {LittleEndian(field, 4, 4), LittleEndian(field, 12, 4), LittleEndian(field, 20, 4)};
     if (name == "NM") AddName(entry, field);
@@ -70,7 +70,7 @@ Continuation ReadArea(RockRidge& entry, std::string_view area, bool& joined) {
 }  // namespace
 
 std::optional<std::size_t> RockRidgeSkip(std::string_view systemUse) {
-  // CD-ROM XA puts 14 bytes of its own first.
+  // CD-ROM XA puts 14 bytes of its own in front.
   constexpr std::size_t kXaBytes = 14;
   for (const std::size_t skip : {std::size_t{0}, kXaBytes}) {
     if (systemUse.size() < skip + 7) break;

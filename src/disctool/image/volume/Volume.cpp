@@ -22,9 +22,9 @@ constexpr std::size_t kLabelAt = 40, kLabelBytes = 32, kEscapesAt = 88, kRootAt 
 constexpr std::size_t kRecordBytes = 33;
 constexpr unsigned kFolderFlag = 2, kAssociatedFlag = 4, kMoreExtentsFlag = 0x80;
 
-/// More than any disc has; so a hostile one costs no more memory.
+/// In bytes; larger than on any disc, so that a hostile one does not cost more memory.
 constexpr std::uint64_t kLargestFolder = 16 * 1024 * 1024;
-/// So many folders are searched for names that are not UTF-8.
+/// How many folders are searched for names that are not UTF-8.
 constexpr std::size_t kMostSearched = 5000;
 
 std::size_t NameBytes(std::string_view record) { return LittleEndian(record, 32, 1); }
@@ -33,12 +33,12 @@ unsigned FlagsOf(std::string_view record) { return static_cast<unsigned>(LittleE
 
 std::string_view SystemUse(std::string_view record) {
   const std::size_t name = NameBytes(record);
-  // A name of an even length is followed by a byte that fills up.
+  // A name of even length is followed by a padding byte.
   const std::size_t at = kRecordBytes + name + (name % 2 == 0 ? 1 : 0);
   return record.substr(std::min(at, record.size()));
 }
 
-/// Where a record's data begins, after attributes that no disc has.
+/// Where the data of a record begins, after attributes that no disc has.
 Extent ExtentOf(std::string_view record) {
   return {static_cast<std::uint32_t>(LittleEndian(record, 2, 4) + LittleEndian(record, 1, 1)),
           static_cast<std::uint32_t>(LittleEndian(record, 10, 4))};
@@ -51,13 +51,13 @@ VolumeEntry FolderAt(std::string_view record) {
   return folder;
 }
 
-/// The level of Unicode does not matter (Joliet, "SVD Identification").
+/// Whether a descriptor is Joliet's; the level of Unicode does not matter (Joliet, "SVD Identification").
 bool IsJoliet(std::string_view descriptor) {
   const std::string_view escapes = descriptor.substr(kEscapesAt, 3);
   return escapes == "%/@" || escapes == "%/C" || escapes == "%/E";
 }
 
-/// Calls `take` with each record of a folder. None crosses the end of a block.
+/// Calls `take` with each record of a folder. Records do not cross the end of a block.
 template <class Take>
 void ForEachRecord(std::string_view folder, Take take) {
   for (std::size_t begin = 0; begin < folder.size(); begin += kBlock) {
@@ -72,7 +72,7 @@ void ForEachRecord(std::string_view folder, Take take) {
   }
 }
 
-/// The first two records of a folder stand for itself and for the one that it lies in.
+/// Whether it is one of the first two records of a folder, which stand for the folder itself and its parent.
 bool IsDots(std::string_view record) {
   const std::string_view name = NameOf(record);
   return name.size() == 1 && (name[0] == '\0' || name[0] == '\1');
@@ -83,7 +83,8 @@ bool IsFolderAt(std::string_view block, std::uint32_t address) {
          NameBytes(block) == 1 && NameOf(block) == std::string_view("\0", 1);
 }
 
-/// ECMA-119, 9.1.5: years since 1900, month, day, hour, minute, second, and quarters of an hour from UTC.
+/// Converts a date (ECMA-119, 9.1.5): years since 1900, month, day, hour, minute, second, and the offset from
+/// UTC in quarters of an hour.
 std::int64_t DateOf(std::string_view record) {
   namespace time = std::chrono;
   const auto at = [&](std::size_t i) { return static_cast<int>(LittleEndian(record, 18 + i, 1)); };
@@ -97,7 +98,7 @@ std::int64_t DateOf(std::string_view record) {
 }
 
 EntryKind KindOfMode(std::uint32_t mode) {
-  // The file types of stat() as Rock Ridge writes them on every system.
+  // The file types of stat(), in the numbers that Rock Ridge uses on every system.
   switch (mode & 0170000) {
     case 0040000: return EntryKind::Folder;
     case 0100000: return EntryKind::File;
@@ -134,8 +135,8 @@ bool Volume::ReadDescriptors(std::size_t run) {
   return true;
 }
 
-/// Where the run really begins on the disc. A sheet often does not say what lies before it, but the root
-/// folder, which is never far, knows its own address.
+/// Where the run really begins on the disc. Sheets often do not say what precedes it, but the root folder,
+/// which is always near, contains its own address.
 std::uint64_t Volume::FindRoot(std::size_t run, std::uint32_t block) {
   constexpr std::uint64_t kFarthest = 1024;
   const std::uint64_t told = sectors_.runs[run].first;
@@ -199,7 +200,7 @@ VolumeEntry Volume::EntryOf(std::string_view record) const {
   entry.extents = {ExtentOf(record)};
   entry.modified = DateOf(record);
   entry.kind = (FlagsOf(record) & kFolderFlag) != 0 ? EntryKind::Folder : EntryKind::File;
-  // Unit size and gap of a file that lies in parts between those of others.
+  // Unit size and gap: the file is interleaved with others.
   entry.unreadable = LittleEndian(record, 26, 2) != 0;
   const std::string_view name = NameOf(record);
   if (names_ == Names::Joliet) {
@@ -219,7 +220,7 @@ VolumeEntry Volume::EntryOf(std::string_view record) const {
   }
   if (more.target) entry.target = NameInUtf8(*more.target);
   if (!more.child) return entry;
-  // The folder's own first record has its size.
+  // The first record of the folder itself contains its size.
   const std::string first = sectors_.Text(std::uint64_t{*more.child} * kBlock, kRootBytes);
   entry.kind = EntryKind::Folder;
   entry.extents = {{*more.child, static_cast<std::uint32_t>(LittleEndian(first, 10, 4))}};

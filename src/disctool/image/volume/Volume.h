@@ -11,20 +11,20 @@
 
 namespace orvanta {
 
-/// The ISO 9660 file system of a disc (ECMA-119), with the names of Rock Ridge or Joliet where it has them.
-/// Everything is read where it lies and when it is asked for; what a hostile image claims is never trusted.
+/// The ISO 9660 file system of a disc (ECMA-119), with the names of Rock Ridge or Joliet if it has them.
+/// Everything is read in place and only when it is needed. Nothing that an image claims is trusted.
 class Volume {
  public:
-  /// Rock Ridge's names are taken if all of them are UTF-8, or if there are no others. Null if the data has
-  /// no file system.
+  /// The names of Rock Ridge are used if all of them are UTF-8, or if there are no others. Null if the data
+  /// has no file system.
   static std::unique_ptr<Volume> Open(SessionData data);
 
   const VolumeEntry& Root() const { return root_; }
-  /// What a folder holds, each name once. Names that lead out of it are left out; `fault` then says so.
+  /// The content of a folder, each name once. Names that lead out of it are left out; then `fault` says so.
   std::vector<VolumeEntry> List(const VolumeEntry& folder, std::string* fault = nullptr) const;
-  /// Up to `most` bytes of a file from the place `from` on; nothing if they cannot be read.
+  /// At most `most` bytes of a file, starting at `from`; nothing if they cannot be read.
   std::optional<std::string> Read(const VolumeEntry& file, std::uint64_t from, std::uint64_t most) const;
-  /// All the data of the disc in bytes. No file is larger.
+  /// The size of all data on the disc, in bytes. No file is larger.
   std::uint64_t Capacity() const;
   /// The name of the disc, in UTF-8.
   const std::string& Label() const { return label_; }
@@ -43,7 +43,7 @@ class Volume {
   DataSectors sectors_;
   VolumeEntry root_;
   Names names_ = Names::Plain;
-  std::size_t skip_ = 0;  // of Rock Ridge
+  std::size_t skip_ = 0;  // bytes before those of Rock Ridge
   std::string label_;
 };
 

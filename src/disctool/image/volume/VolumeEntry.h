@@ -6,9 +6,9 @@
 
 namespace orvanta {
 
-/// Where a part of a file lies.
+/// Where a part of a file is.
 struct Extent {
-  std::uint32_t block = 0;  ///< address of its first sector
+  std::uint32_t block = 0;  ///< the address of its first sector
   std::uint32_t bytes = 0;
 };
 
@@ -16,7 +16,7 @@ enum class EntryKind {
   File,
   Folder,
   Link,
-  Other  ///< a device or the like
+  Other  ///< something else, such as a device
 };
 
 /// A file, a folder or a link of a volume.
@@ -24,12 +24,12 @@ struct VolumeEntry {
   std::string name;  ///< UTF-8
   EntryKind kind = EntryKind::File;
   std::vector<Extent> extents;
-  /// Its bytes do not lie there as they are: compressed, interleaved, or more than the disc has.
+  /// Whether its bytes cannot be read as they are: compressed, interleaved, or more than the disc has.
   bool unreadable = false;
-  /// Everybody may read and execute, as a kernel mounts a disc that says nothing of it.
+  /// Everybody may read and execute it, as if the disc says nothing about permissions.
   std::uint32_t permissions = 0555;
   std::int64_t modified = 0;  ///< seconds since 1970 in UTC; 0 if unknown
-  std::string target;         ///< of a link, as it stands there
+  std::string target;         ///< the target of a link, as written there
 
   std::uint64_t Size() const {
     std::uint64_t size = 0;

@@ -11,7 +11,7 @@
 namespace orvanta {
 namespace {
 
-/// Bytes 80 to FF of CP852, by Unicode's mapping table CP852.TXT.
+/// The bytes 80 to FF of CP852, from Unicode's mapping table CP852.TXT.
 constexpr std::array<char16_t, 128> kCp852 = {
     0x00C7, 0x00FC, 0x00E9, 0x00E2, 0x00E4, 0x016F, 0x0107, 0x00E7, 0x0142, 0x00EB, 0x0150, 0x0151, 0x00EE,
     0x0179, 0x00C4, 0x0106, 0x00C9, 0x0139, 0x013A, 0x00F4, 0x00F6, 0x013D, 0x013E, 0x015A, 0x015B, 0x00D6,
@@ -24,7 +24,7 @@ constexpr std::array<char16_t, 128> kCp852 = {
     0x0154, 0x00DA, 0x0155, 0x0170, 0x00FD, 0x00DD, 0x0163, 0x00B4, 0x00AD, 0x02DD, 0x02DB, 0x02C7, 0x02D8,
     0x00A7, 0x00F7, 0x00B8, 0x00B0, 0x00A8, 0x02D9, 0x0171, 0x0158, 0x0159, 0x25A0, 0x00A0};
 
-/// The Polish letters, large and small, in either code page.
+/// The Polish letters, capital and small, in either code page.
 constexpr std::string_view kPolish1250 =
     "\xA5\xC6\xCA\xA3\xD1\xD3\x8C\x8F\xAF\xB9\xE6\xEA\xB3\xF1\xF3\x9C\x9F\xBF";
 constexpr std::string_view kPolish852 =
@@ -75,7 +75,7 @@ std::string JolietNameInUtf8(std::string_view bytes) {
   for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
     auto character = static_cast<std::uint32_t>(BigEndian(bytes, i, 2));
     const auto next = static_cast<std::uint32_t>(BigEndian(bytes, i + 2, 2));
-    // Written by Windows since it knows characters beyond U+FFFF.
+    // Newer versions of Windows write such pairs for characters above U+FFFF.
     if (character >= kHigh && character < kLow && next >= kLow && next < kAfter) {
       character = 0x10000 + ((character - kHigh) << 10) + (next - kLow);
       i += 2;
