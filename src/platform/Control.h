@@ -17,7 +17,6 @@ enum MouseButton : int { kLeftButton = 1, kRightButton = 2, kMiddleButton = 4 };
 
 struct MouseEvent {
   int Button = 0;
-  int Shift = 0;
   double X = 0;  ///< in the control's own pixels
   double Y = 0;
 };

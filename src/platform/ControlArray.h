@@ -50,22 +50,15 @@ class ControlArray {
     ForEach([&](T& element) { element.Visible = visible; });
   }
 
-  /// Handlers of all elements, with the element's index first.
-  std::function<void(std::int16_t)> Click, MouseDown, MouseUp;
+  /// The handler of all elements; gets the element's index.
+  std::function<void(std::int16_t)> Click;
 
  private:
   void Add(int i) {
     const auto index = static_cast<std::int16_t>(i);
     elements_.push_back(std::make_unique<T>(parent_, name_, index));
-    T& added = *elements_.back();
-    added.Click = [this, index] {
+    elements_.back()->Click = [this, index] {
       if (Click) Click(index);
-    };
-    added.MouseDown = [this, index](const MouseEvent&) {
-      if (MouseDown) MouseDown(index);
-    };
-    added.MouseUp = [this, index](const MouseEvent&) {
-      if (MouseUp) MouseUp(index);
     };
   }
 

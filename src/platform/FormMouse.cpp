@@ -72,7 +72,7 @@ void Form::MouseMoved(Point place, int held) {
   Control* target = captured_ ? captured_ : ControlAt(place);
   if (!target) return;
   const Point inside = place - OriginOf(*target);
-  Call(target->MouseMove, MouseEvent{held, 0, static_cast<double>(inside.x), static_cast<double>(inside.y)});
+  Call(target->MouseMove, MouseEvent{held, static_cast<double>(inside.x), static_cast<double>(inside.y)});
 }
 
 void Form::MousePressed(const FormEvent& event) {
@@ -86,7 +86,7 @@ void Form::MousePressed(const FormEvent& event) {
   if (!captured_) return;
   const Point inside = cursor_ - OriginOf(*captured_);
   Call(captured_->MouseDown,
-       MouseEvent{event.button, 0, static_cast<double>(inside.x), static_cast<double>(inside.y)});
+       MouseEvent{event.button, static_cast<double>(inside.x), static_cast<double>(inside.y)});
 }
 
 void Form::MouseReleased(Point place, int button, int held) {
@@ -105,7 +105,7 @@ void Form::MouseReleased(Point place, int button, int held) {
   const bool clicked = wasHeld && button == kLeftButton && Rect{0, 0, box.width, box.height}.Contains(inside);
   // Copied before the release is delivered, since its handler may unload the control.
   const auto click = target->Click;
-  Call(target->MouseUp, MouseEvent{button, 0, static_cast<double>(inside.x), static_cast<double>(inside.y)});
+  Call(target->MouseUp, MouseEvent{button, static_cast<double>(inside.x), static_cast<double>(inside.y)});
   if (clicked) Call(click);
 }
 

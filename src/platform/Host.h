@@ -16,10 +16,6 @@ namespace orvanta {
 /// Thrown where a host ends the program by unwinding. Whoever runs the shell catches it.
 struct ProgramEnd {};
 
-/// How the first window of a started program is to appear. Where the window manager decides that, it is not
-/// used.
-enum class ShowMode { Normal = 1 };
-
 /// A word of a started program's command line.
 struct StartArgument {
   std::string text;              ///< UTF-8, as written in the catalogue
@@ -38,7 +34,6 @@ struct StartRequest {
   std::filesystem::path file{};  ///< the file on the host, if found
   std::string parameters{};      ///< the command line as written in the catalogue
   std::vector<StartArgument> arguments{};  ///< its words, split as Windows programs do
-  ShowMode show = ShowMode::Normal;
 };
 
 /// The screen in twips.

@@ -6,6 +6,10 @@
 
 #include "platform/ControlFilesHost.h"
 
+// Every disc carries two control files and their registrar in SYSTEM, and the start of the program brings the
+// installed copies up to date. This is part of the start wherever a host has a registry of components. The
+// desktop has none, so today only the tests' host runs it.
+
 namespace orvanta {
 
 /// The folders between which the control files are copied, each with a trailing backslash.

@@ -31,8 +31,6 @@ class DiscCache {
   /// Removes all copies that no shell has open. Returns what could not be removed; empty on success.
   std::string Clear() const;
 
-  const std::filesystem::path& Folder() const { return folder_; }
-
  private:
   Descriptor Lock(std::string& problem) const;
   OpenedDisc Unpack(const std::filesystem::path& image, const std::string& name,

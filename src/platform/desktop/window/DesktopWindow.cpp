@@ -157,7 +157,6 @@ void DesktopWindow::PaintNow() {
 }
 
 void DesktopWindow::paintEvent(QPaintEvent* event) {
-  ++paints_;
   dirty_ -= event->region();
   QPainter painter(this);
   const WindowZoom zoom = Zoom();

@@ -25,7 +25,6 @@ class DesktopWindow : public QWidget, public FormWindow {
 
   Form& TheForm() const { return form_; }
   /// How often the widget was painted.
-  int PaintCount() const { return paints_; }
   /// The screen has another size, place or zoom.
   void FollowScreen();
 
@@ -72,7 +71,6 @@ class DesktopWindow : public QWidget, public FormWindow {
   QRegion dirty_;  // in screen pixels
   bool wasMinimised_ = false;
   bool showing_ = false;
-  int paints_ = 0;
 };
 
 }  // namespace orvanta
