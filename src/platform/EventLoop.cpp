@@ -15,7 +15,7 @@ EventLoop::Modal::Modal(EventLoop& loop, Form* form) : loop_(loop), form_(form) 
 
 EventLoop::Delivery::~Delivery() {
   if (--loop_.depth_ > 0) return;
-  // A form's end may bury another (the whole-screen window of a film), so the list is taken first.
+  // Deleting a form may hand over another (the whole-screen window of a film), so the list is taken first.
   while (!loop_.deletedLater_.empty()) std::exchange(loop_.deletedLater_, {}).clear();
 }
 
