@@ -30,8 +30,7 @@ int main(int argc, char** argv) {
   const std::filesystem::path folder = orvanta::ShellFolder(argc > 0 ? argv[0] : "");
   orvanta::DesktopHost host(argc, argv, folder);
   if (const std::string message = MissingDisc(folder); !message.empty()) {
-    constexpr int kCriticalBox = 16;
-    host.MsgBox(message, kCriticalBox, "Orvanta Shell");
+    host.MsgBox(message, orvanta::kCriticalBox, "Orvanta Shell");
     return 1;
   }
   orvanta::Shell shell(host);

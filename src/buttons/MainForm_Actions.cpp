@@ -7,8 +7,6 @@ namespace orvanta {
 
 namespace {
 
-constexpr int kCriticalBox = 16;
-
 // How long a button stays pressed.
 constexpr Milliseconds kSwitchPause = 300, kMinimisePause = 500;
 

@@ -8,7 +8,6 @@ namespace orvanta {
 
 namespace {
 
-constexpr int kCriticalBox = 16;
 /// The greatest number with which the host reports a failure.
 constexpr int LastFailure = 32;
 

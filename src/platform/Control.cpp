@@ -100,7 +100,7 @@ Rect BoxControl::Bounds() const {
 
 Control* BoxControl::Hit(Point p) { return Visible && Enabled && Bounds().Contains(p) ? this : nullptr; }
 
-void BoxControl::CopyLook(const BoxControl& from) {
+void BoxControl::CopyDesign(const BoxControl& from) {
   Visible.SetQuietly(false);
   Enabled.SetQuietly(from.Enabled);
   MouseIcon.SetQuietly(from.MouseIcon);

@@ -77,7 +77,7 @@ class BoxControl : public Control {
   Pointer PointerHere() const override { return MouseIcon; }
 
  protected:
-  void CopyLook(const BoxControl& from);
+  void CopyDesign(const BoxControl& from);
 };
 
 }  // namespace orvanta

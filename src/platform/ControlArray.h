@@ -34,10 +34,10 @@ class ControlArray {
   /// Highest index.
   int UBound() const { return static_cast<int>(elements_.size()) - 1; }
 
-  /// Adds the next element: the look of element 0, not visible.
+  /// Adds the next element: designed like element 0, not visible.
   void LoadNext() {
     Add(UBound() + 1);
-    elements_.back()->CopyLook(*elements_.front());
+    elements_.back()->CopyDesign(*elements_.front());
   }
   /// Unloads every element above 0.
   void UnloadAbove0() { elements_.resize(1); }

@@ -28,11 +28,11 @@ void FitTo(BoxControl& control, const PicturePtr& picture, int edge) {
 Image::Image(Container& parent, std::string name, std::int16_t index)
     : BoxControl(parent, std::move(name), index), Picture(*this), Stretch(*this), BorderStyle(*this) {}
 
-void Image::CopyLook(const Image& from) {
+void Image::CopyDesign(const Image& from) {
   Picture.SetQuietly(from.Picture);
   Stretch.SetQuietly(from.Stretch);
   BorderStyle.SetQuietly(from.BorderStyle);
-  BoxControl::CopyLook(from);
+  BoxControl::CopyDesign(from);
 }
 
 void Image::Paint(Canvas& canvas, Point origin, const Rect&) const {
@@ -99,7 +99,7 @@ Label::Label(Container& parent, std::string name, std::int16_t index)
       FontSize(*this, 8.25),
       Align(*this, Alignment::Left) {}
 
-void Label::CopyLook(const Label& from) {
+void Label::CopyDesign(const Label& from) {
   Caption.SetQuietly(from.Caption);
   ForeColor.SetQuietly(from.ForeColor);
   BackColor.SetQuietly(from.BackColor);
@@ -108,7 +108,7 @@ void Label::CopyLook(const Label& from) {
   FontBold.SetQuietly(from.FontBold);
   FontSize.SetQuietly(from.FontSize);
   Align.SetQuietly(from.Align);
-  BoxControl::CopyLook(from);
+  BoxControl::CopyDesign(from);
 }
 
 void Label::Paint(Canvas& canvas, Point origin, const Rect&) const {
@@ -139,7 +139,7 @@ void Line::Place(double x1, double y1, double x2, double y2) {
   Touch();
 }
 
-void Line::CopyLook(const Line& from) {
+void Line::CopyDesign(const Line& from) {
   BorderWidth.SetQuietly(from.BorderWidth);
   BorderColor.SetQuietly(from.BorderColor);
   Visible.SetQuietly(false);

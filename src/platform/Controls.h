@@ -18,7 +18,7 @@ class Image : public BoxControl {
   /// 1 is a thin line inside the edge, 0 means none.
   Property<int> BorderStyle;
 
-  void CopyLook(const Image& from);
+  void CopyDesign(const Image& from);
   void Paint(Canvas& canvas, Point origin, const Rect& area) const override;
   void PropertyChanged(const void* property) override;
 };
@@ -56,7 +56,7 @@ class Label : public BoxControl {
   Property<double> FontSize;
   Property<Alignment> Align;
 
-  void CopyLook(const Label& from);
+  void CopyDesign(const Label& from);
   void Paint(Canvas& canvas, Point origin, const Rect& area) const override;
 };
 
@@ -71,7 +71,7 @@ class Line : public Control {
   Property<ColourValue> BorderColor;
 
   void Place(double x1, double y1, double x2, double y2);
-  void CopyLook(const Line& from);
+  void CopyDesign(const Line& from);
   Rect Bounds() const override;
   void Paint(Canvas& canvas, Point origin, const Rect& area) const override;
 };

@@ -16,6 +16,9 @@ namespace orvanta {
 /// Thrown where a host ends the program by unwinding. Whoever runs the shell catches it.
 struct ProgramEnd {};
 
+/// The style of a message box with the critical icon.
+inline constexpr int kCriticalBox = 16;
+
 /// A word of a started program's command line.
 struct StartArgument {
   std::string text;              ///< UTF-8, as written in the catalogue
@@ -74,7 +77,7 @@ class Host : public EventSource {
   /// The form whose window is active; null while another program is.
   virtual Form* ActiveForm() const = 0;
   virtual std::unique_ptr<FormWindow> MakeWindow(Form& form, WindowKind kind) = 0;
-  /// Blocks until the user has closed the box; ticks go on. Style 16 shows the critical icon. `text` is
+  /// Blocks until the user has closed the box; ticks go on. `style` is `kCriticalBox`; `text` is
   /// UTF-8.
   virtual void MsgBox(const std::string& text, int style, const std::string& title) = 0;
 

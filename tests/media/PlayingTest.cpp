@@ -165,7 +165,7 @@ TEST_F(Cinema, ALargeFilmTakesTheClicksAboveTheButtonsAndFillsTheScreenInOneDime
       "Play latched, playing, Play pressed, Pause over");  // looks depend only on the position of the cursor
   After(2500, [&] {
     Kino().ButtonM_Click(KinoButton::FullScreen);
-    EXPECT_EQ(WholeScreen()->Look().strokes.back().whole, (Rect{0, 0, 1920, 1079}));
+    EXPECT_EQ(WholeScreen()->Painted().strokes.back().whole, (Rect{0, 0, 1920, 1079}));
   });
   user.Do("click Film");
 }

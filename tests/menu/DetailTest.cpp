@@ -20,7 +20,7 @@ TEST_F(Detail, ShowsItsTextsAndNothingOfThePreviousEntry) {
   disc.Set("Gra", "System", "Pentium 90");
   disc.Set("Film", "Shot1", "brak.gif");
   user.Do("start, choose 0");
-  const auto painted = user.host.WindowOf(Main()).Look().strokes;
+  const auto painted = user.host.WindowOf(Main()).Painted().strokes;
   for (const std::string text :
        {"Łamigłówka & zabawa", "  Minimalne wymagania sprzętowe:", "Pentium 90", "Gra"})
     EXPECT_TRUE(std::ranges::any_of(painted, [&](const auto& s) { return s.text == text; })) << text;

@@ -102,7 +102,7 @@ void MainSize(CheckJob& job, const std::string& naming, const Setting& found) {
 }
 
 /// The three pictures of a button.
-void Looks(CheckJob& job, const SchemaKey& key, const std::string& naming, const Setting& found) {
+void ButtonArt(CheckJob& job, const SchemaKey& key, const std::string& naming, const Setting& found) {
   constexpr const char* kEndings[] = {"0.gif", "1.gif", "2.gif"};
   bool differ = false;
   for (const char* ending : kEndings) {
@@ -123,7 +123,7 @@ void Fixed(CheckJob& job, const SchemaKey& key, const std::string& name, const S
       Picture(job, {found.place, naming, PicturePath(found.value)});
       if (name == "MainGfx") MainSize(job, naming, found);
       return;
-    case Kind::Base: return Looks(job, key, naming, found);
+    case Kind::Base: return ButtonArt(job, key, naming, found);
     case Kind::Font: return Font(job, {found.place, naming, PicturePath(found.value)});
     case Kind::Sound: return Sound(job, naming, found);
     default: return;

@@ -14,7 +14,7 @@ Catalogue::File ReadFile(const DiscTree& disc, const std::string& name) {
   Catalogue::File file;
   file.path = disc.Place("Data/" + name);
   const FoundPath found = disc.Find(std::string(Catalogue::kDiscRoot) + "Data\\" + name);
-  const DiscTree::Entry entry = disc.Look(found.path.native());
+  const DiscTree::Entry entry = disc.EntryAt(found.path.native());
   if (!found || entry.kind != DiscTree::Kind::File) return file;
   file.path = disc.Place(found.path.native());
   file.found = true;

@@ -12,7 +12,7 @@ template <class Value, class Try>
 Value DiscFiles::Once(std::unordered_map<std::string, Value>& known, const std::string& path, Try attempt) {
   if (const auto before = known.find(path); before != known.end()) return before->second;
   Value value{};
-  if (disc_.Look(path).kind == DiscTree::Kind::File) {
+  if (disc_.EntryAt(path).kind == DiscTree::Kind::File) {
     const std::filesystem::path file = disc_.OnHost(path);
     if (!file.empty()) value = attempt(file);
   }

@@ -18,7 +18,7 @@ class DiscFiles {
   /// As `DiscTree::Find`.
   const FoundPath& Find(const std::string& windowsPath);
 
-  DiscTree::Kind KindOf(const std::string& path) const { return disc_.Look(path).kind; }
+  DiscTree::Kind KindOf(const std::string& path) const { return disc_.EntryAt(path).kind; }
   /// As those of the probe, for paths of the disc; what is not a file is none of anything.
   std::optional<Size> PictureSize(const std::string& path);
   bool IsFont(const std::string& path);

@@ -21,9 +21,9 @@ FoundPath DiscTree::Find(std::string_view windowsPath) const {
   return hasDrive || rooted ? DiscDrive(fs::path()).Find(windowsPath, *this) : FoundPath();
 }
 
-bool DiscTree::Exists(const fs::path& path) const { return Look(path.native()).kind != Kind::Missing; }
+bool DiscTree::Exists(const fs::path& path) const { return EntryAt(path.native()).kind != Kind::Missing; }
 
-bool DiscTree::IsFolder(const fs::path& path) const { return Look(path.native()).kind == Kind::Folder; }
+bool DiscTree::IsFolder(const fs::path& path) const { return EntryAt(path.native()).kind == Kind::Folder; }
 
 std::string DiscTree::EntryNoCase(const fs::path& folder, const std::string& name) const {
   const auto [at, isNew] = folders_.try_emplace(folder.native());
@@ -32,7 +32,7 @@ std::string DiscTree::EntryNoCase(const fs::path& folder, const std::string& nam
   return at->second.Find(name);
 }
 
-DiscTree::Entry FolderTree::Look(const std::string& path) const {
+DiscTree::Entry FolderTree::EntryAt(const std::string& path) const {
   struct stat status {};
   if (stat(Place(path).c_str(), &status) != 0) return {};
   if (S_ISDIR(status.st_mode)) return {Kind::Folder};
@@ -58,7 +58,7 @@ std::vector<std::string> FolderTree::List(const std::string& folder) const {
 std::optional<std::string> FolderTree::Read(const std::string& path, std::uintmax_t from,
                                             std::uintmax_t most) const {
   // A FIFO or a device would be waited for.
-  if (Look(path).kind != Kind::File) return std::nullopt;
+  if (EntryAt(path).kind != Kind::File) return std::nullopt;
   std::ifstream in(Place(path), std::ios::binary);
   if (!in || !in.seekg(static_cast<std::streamoff>(from))) return std::nullopt;
   std::string bytes;

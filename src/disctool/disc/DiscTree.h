@@ -41,7 +41,7 @@ class DiscTree : public PathLookup {
   DiscTree& operator=(const DiscTree&) = delete;
 
   /// Links are followed.
-  virtual Entry Look(const std::string& path) const = 0;
+  virtual Entry EntryAt(const std::string& path) const = 0;
   /// Whether the entry is a link to another place.
   virtual bool IsLink(const std::string&) const { return false; }
   /// The label of an image's volume; empty without one.
@@ -77,7 +77,7 @@ class FolderTree : public DiscTree {
  public:
   using DiscTree::DiscTree;
 
-  Entry Look(const std::string& path) const override;
+  Entry EntryAt(const std::string& path) const override;
   bool IsLink(const std::string& path) const override;
   std::vector<std::string> List(const std::string& folder) const override;
   std::optional<std::string> Read(const std::string& path, std::uintmax_t from = 0,

@@ -22,7 +22,7 @@ std::vector<DiscFile> FilesOf(const DiscTree& disc) {
     folders.pop_back();
     for (const std::string& name : disc.List(folder.path)) {
       const std::string path = folder.path.empty() ? name : folder.path + "/" + name;
-      const DiscTree::Entry entry = disc.Look(path);
+      const DiscTree::Entry entry = disc.EntryAt(path);
       if (entry.kind == DiscTree::Kind::File) files.push_back({path, entry});
       const bool enter = entry.kind == DiscTree::Kind::Folder && folder.depth < kDeepest;
       if (enter && !disc.IsLink(path)) folders.push_back({path, folder.depth + 1});

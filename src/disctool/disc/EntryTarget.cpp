@@ -50,7 +50,7 @@ EntryTarget TargetOf(const DiscTree& disc, const std::string& value) {
   const FoundPath found = disc.Find(path);
   if (!found) return {};
   const std::string name = found.path.native();
-  const DiscTree::Entry entry = disc.Look(name);
+  const DiscTree::Entry entry = disc.EntryAt(name);
   if (entry.kind == DiscTree::Kind::Folder) return {Place::Folder, name};
   if (entry.kind != DiscTree::Kind::File) return {Place::Special, name};
   return {Place::File, name, FactsOf(BytesOn(disc, name, entry.size), name, entry.executable)};

@@ -19,8 +19,6 @@ namespace orvanta {
 
 namespace {
 
-constexpr int kCriticalIcon = 16;
-
 /// Before Qt starts: a pixel is one of the screen, and windows can say where they stand, which Wayland alone
 /// does not let them.
 int& PreparedForQt(int& argc) {
@@ -104,7 +102,7 @@ std::unique_ptr<FormWindow> DesktopHost::MakeWindow(Form& form, WindowKind kind)
 }
 
 void DesktopHost::MsgBox(const std::string& text, int style, const std::string& title) {
-  QMessageBox box(style == kCriticalIcon ? QMessageBox::Critical : QMessageBox::NoIcon, WindowTitle(title),
+  QMessageBox box(style == kCriticalBox ? QMessageBox::Critical : QMessageBox::NoIcon, WindowTitle(title),
                   QString::fromStdString(text).remove(QLatin1Char('\r')), QMessageBox::Ok);
   box.setWindowIcon(ShellIcon());
   box.setTextFormat(Qt::PlainText);

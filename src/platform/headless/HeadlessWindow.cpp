@@ -2,7 +2,7 @@
 
 namespace orvanta {
 
-RecordingCanvas HeadlessWindow::Look() const {
+RecordingCanvas HeadlessWindow::Painted() const {
   RecordingCanvas canvas;
   form.Paint(canvas, form.ClientArea());
   return canvas;

@@ -16,7 +16,7 @@ class HeadlessWindow final : public StackedWindow {
   Pointer pointer = Pointer::Default;
 
   /// Everything that the whole form would paint now.
-  RecordingCanvas Look() const;
+  RecordingCanvas Painted() const;
 
   void SetCaption(const std::string& to) override { caption = to; }
   void SetPointer(Pointer to) override { pointer = to; }
