@@ -12,12 +12,18 @@
 
 namespace orvanta {
 
+/// Whether `char` has a sign does not matter: bytes from 0x80 on are not ASCII.
+constexpr bool IsVisibleAscii(char c) { return static_cast<signed char>(c) > ' '; }
+
+/// Whether two ASCII letters are equal, ignoring case. Some other characters pass as well.
+constexpr bool IsSameLetter(char a, char b) { return ((a ^ b) & ~0x20) == 0; }
+
 /// The bytes that may precede a byte that is searched for: a given letter in either case, or any byte that is
 /// not a visible ASCII character. This rules out most candidates cheaply, so that few have to be examined one
 /// by one.
-struct Behind {
+struct PrecededBy {
   char letter;
-  bool operator()(char before) const { return before <= ' ' || ((before ^ letter) & ~0x20) == 0; }
+  bool operator()(char before) const { return !IsVisibleAscii(before) || IsSameLetter(before, letter); }
 };
 
 /// Any byte may precede it; for candidates that are rare.
@@ -26,12 +32,12 @@ struct Anywhere {
 };
 
 /// The first of the bytes `kBytes` in [begin, end) that `accept(const char*)` accepts, or `end`. Candidates
-/// are offered in order and at most once. Those preceded by a byte that `behind` rejects may be left out,
+/// are offered in order and at most once. Those preceded by a byte that `mayPrecede` rejects may be left out,
 /// which only saves work: `accept` decides, and must reject them too.
 ///
 /// Calls std::memchr for each of the bytes and takes the nearest find first.
 template <char... kBytes, class Before, class Accept>
-const char* FindPortably(const char* begin, const char* end, Before behind, Accept accept) {
+const char* FindPortably(const char* begin, const char* end, Before mayPrecede, Accept accept) {
   const auto find = [end](const char* at, char byte) {
     if (at == end) return end;
     const void* found = std::memchr(at, byte, static_cast<std::size_t>(end - at));
@@ -41,7 +47,7 @@ const char* FindPortably(const char* begin, const char* end, Before behind, Acce
   std::array nearest{find(begin, kBytes)...};
   for (;;) {
     const auto first = std::min_element(nearest.begin(), nearest.end());
-    if (*first == end || ((*first == begin || behind((*first)[-1])) && accept(*first))) return *first;
+    if (*first == end || ((*first == begin || mayPrecede((*first)[-1])) && accept(*first))) return *first;
     *first = find(*first + 1, kWanted[static_cast<std::size_t>(first - nearest.begin())]);
   }
 }
@@ -63,8 +69,8 @@ template <char... kBytes>
   return _mm256_alignr_epi8(bytes, _mm256_permute2x128_si256(bytes, bytes, 0x08), 15);
 }
 
-[[gnu::target("avx2")]] inline __m256i AllowedAvx2(__m256i before, Behind behind) {
-  const __m256i other = _mm256_xor_si256(before, _mm256_set1_epi8(behind.letter));
+[[gnu::target("avx2")]] inline __m256i AllowedAvx2(__m256i before, PrecededBy wanted) {
+  const __m256i other = _mm256_xor_si256(before, _mm256_set1_epi8(wanted.letter));
   const __m256i same = _mm256_cmpeq_epi8(_mm256_and_si256(other, _mm256_set1_epi8(~0x20)), __m256i{});
   return _mm256_or_si256(same, _mm256_cmpgt_epi8(_mm256_set1_epi8(' ' + 1), before));
 }
@@ -87,7 +93,7 @@ const char* FirstAccepted(const char* at, std::uint64_t candidates, Accept& acce
 
 /// The same as FindPortably, 128 bytes at a time.
 template <char... kBytes, class Before, class Accept>
-[[gnu::target("avx2")]] const char* FindWithAvx2(const char* begin, const char* end, Before behind,
+[[gnu::target("avx2")]] const char* FindWithAvx2(const char* begin, const char* end, Before mayPrecede,
                                                  Accept accept) {
   const char* const stop = begin + (end - begin) / 128 * 128;
   for (const char* at = begin; at != stop; at += 128) {
@@ -95,7 +101,7 @@ template <char... kBytes, class Before, class Accept>
     const __m256i c = MatchesAvx2<kBytes...>(at + 64), d = MatchesAvx2<kBytes...>(at + 96);
     if (_mm256_movemask_epi8(_mm256_or_si256(_mm256_or_si256(a, b), _mm256_or_si256(c, d))) == 0) continue;
     const auto allowed = [&](const char* place, __m256i found) __attribute__((target("avx2"))) {
-      return _mm256_and_si256(found, AllowedAvx2(BeforeAvx2(place, begin), behind));
+      return _mm256_and_si256(found, AllowedAvx2(BeforeAvx2(place, begin), mayPrecede));
     };
     const char* found = FirstAccepted(at, BitsAvx2(allowed(at, a), allowed(at + 32, b)), accept);
     if (!found) {
@@ -105,7 +111,7 @@ template <char... kBytes, class Before, class Accept>
     _mm256_zeroupper();  // GCC 12 omits it here, and the code that follows would run at half the speed
     return found;
   }
-  return FindPortably<kBytes...>(stop, end, behind, accept);
+  return FindPortably<kBytes...>(stop, end, mayPrecede, accept);
 }
 
 #endif
@@ -113,11 +119,11 @@ template <char... kBytes, class Before, class Accept>
 /// Uses the fastest search that the processor supports. Vectors pay off because they do not start again after
 /// each candidate; a catalogue has one in every 40 to 500 bytes.
 template <char... kBytes, class Before, class Accept>
-const char* FindAccepted(const char* begin, const char* end, Before behind, Accept accept) {
+const char* FindAccepted(const char* begin, const char* end, Before mayPrecede, Accept accept) {
 #if defined(__x86_64__) && !defined(ORVANTA_PORTABLE_SEARCH)
-  if (__builtin_cpu_supports("avx2")) return FindWithAvx2<kBytes...>(begin, end, behind, accept);
+  if (__builtin_cpu_supports("avx2")) return FindWithAvx2<kBytes...>(begin, end, mayPrecede, accept);
 #endif
-  return FindPortably<kBytes...>(begin, end, behind, accept);
+  return FindPortably<kBytes...>(begin, end, mayPrecede, accept);
 }
 
 }  // namespace orvanta

@@ -2,21 +2,16 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
 #include <cstring>
 
 #include "config/ByteSearch.h"
 #include "config/Fold1250.h"
+#include "config/IniText.h"
 #include "config/ProfileString.h"
 
 namespace orvanta {
 namespace {
 
-bool IsBlank(char c) {
-  constexpr std::uint64_t kBlanks = 1ull << ' ' | 1ull << '\t' | 1ull << '\v' | 1ull << '\f' | 1ull << 0x1A;
-  const auto byte = static_cast<unsigned char>(c);
-  return byte <= ' ' && (kBlanks >> byte & 1) != 0;
-}
 bool IsLineEnd(char c) { return c == '\n' || c == '\r'; }
 
 const char* Find(const char* begin, const char* end, char wanted) {
@@ -35,52 +30,35 @@ const char* LastLineEnd(const char* begin, const char* end) {
 
 /// Rules out most candidates by the one byte beside them: a visible ASCII character that is not the expected
 /// letter in either case.
-bool CannotMatch(char found, char asked) { return found > ' ' && ((found ^ asked) & ~0x20) != 0; }
+bool CannotMatch(char found, char asked) { return IsVisibleAscii(found) && !IsSameLetter(found, asked); }
 
 bool OnlyBlanksBefore(const char* begin, const char* at) {
-  while (at != begin && IsBlank(at[-1])) --at;
+  while (at != begin && IsIniBlank(at[-1])) --at;
   return at == begin || IsLineEnd(at[-1]);
 }
 
-std::string_view Trimmed(std::string_view text) {
-  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
-  return text;
-}
-
-std::string_view Unquoted(std::string_view text) {
-  if (text.size() < 2 || text.front() != text.back()) return text;
-  if (text.front() != '"' && text.front() != '\'') return text;
-  return text.substr(1, text.size() - 2);
-}
-
-std::string ValueOf(std::string_view text) {
-  return std::string(Unquoted(Trimmed(text.substr(0, text.find('\0')))).substr(0, kLongestValue));
-}
-
 bool CanBeName(std::string_view name, char forbidden) {
-  if (!name.empty() && (IsBlank(name.front()) || IsBlank(name.back()))) return false;
   return std::none_of(name.begin(), name.end(),
                       [forbidden](char c) { return c == forbidden || IsLineEnd(c); });
 }
 
 /// `at` is after the "[".
 bool NamesSection(const char* at, const char* end, std::string_view section) {
-  while (at != end && IsBlank(*at)) ++at;
+  while (at != end && IsIniBlank(*at)) ++at;
   if (static_cast<std::size_t>(end - at) < section.size()) return false;
   if (!EqualNoCase1250({at, section.size()}, section)) return false;
   at += section.size();
-  while (at != end && IsBlank(*at)) ++at;
+  while (at != end && IsIniBlank(*at)) ++at;
   return at == end || *at == ']' || IsLineEnd(*at);
 }
 
 }  // namespace
 
 ProfileScanner::ProfileScanner(std::string_view section, std::string_view key)
-    : section_(section),
-      key_(key),
-      canMatch_(CanBeName(section, ']') && CanBeName(key, '=') && !key.starts_with(';') &&
-                !key.starts_with('[')) {}
+    : section_(IniName(section)),
+      key_(IniName(key)),
+      canMatch_(CanBeName(section_, ']') && CanBeName(key_, '=') && !key_.starts_with(';') &&
+                !key_.starts_with('[')) {}
 
 bool ProfileScanner::Take(std::string_view lines) {
   if (!canMatch_) return true;
@@ -104,11 +82,11 @@ const char* ProfileScanner::SkipToSection(const char* begin, const char* end) co
 
 bool ProfileScanner::FindKey(const char* begin, const char* end) {
   const char last = key_.empty() ? '\n' : key_.back();
-  const char* stop = FindAccepted<'[', '='>(begin, end, Behind{last}, [=, this](const char* at) {
+  const char* stop = FindAccepted<'[', '='>(begin, end, PrecededBy{last}, [=, this](const char* at) {
     return *at == '[' ? OnlyBlanksBefore(begin, at) : NamesKey(begin, at);
   });
   if (stop == end) return false;
-  if (*stop == '=') value_ = ValueOf({stop + 1, LineEnd(stop, end)});
+  if (*stop == '=') value_ = IniValue({stop + 1, LineEnd(stop, end)}).substr(0, kLongestValue);
   return true;
 }
 
@@ -116,7 +94,7 @@ bool ProfileScanner::FindKey(const char* begin, const char* end) {
 /// `Menu2`.
 bool ProfileScanner::NamesKey(const char* begin, const char* equals) const {
   const char* last = equals;
-  while (last != begin && IsBlank(last[-1])) --last;
+  while (last != begin && IsIniBlank(last[-1])) --last;
   if (static_cast<std::size_t>(last - begin) < key_.size()) return false;
   const char* first = last - key_.size();
   return EqualNoCase1250({first, key_.size()}, key_) && OnlyBlanksBefore(begin, first);

@@ -13,11 +13,10 @@ namespace orvanta {
 /// section, and then from '=' to '='.
 class ProfileScanner {
  public:
-  /// Both names must outlive the scanner.
+  /// Both names must outlive the scanner. Blanks around them do not count.
   ProfileScanner(std::string_view section, std::string_view key);
 
-  /// False if no line can match the names, for instance because the key contains an equals sign, or a name
-  /// begins or ends with a blank.
+  /// False if no line can match the names, for instance because the key contains an equals sign.
   bool canMatch() const { return canMatch_; }
 
   /// Continues with `lines`: whole lines that follow those of the previous call; only the last one may lack

@@ -19,7 +19,7 @@ inline constexpr int kLongestValue = 254;
 /// - Only the first section of a name is searched, and keys above the first section cannot be reached.
 /// - "key=value" is split at the first "=", and the first line with the key counts. A line that begins with
 ///   ";" is a comment; a line without "=" is ignored.
-/// - Names match whatever their case. The names that are looked up are not trimmed.
+/// - Names match whatever their case. Blanks around the names that are looked up do not count.
 /// - A value ends at a NUL. Blanks around it are removed, and then one pair of equal quotes.
 std::string ProfileString(const std::filesystem::path& file, std::string_view section, std::string_view key);
 

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "config/Windows1250.h"
+#include "platform/AsciiText.h"
 
 namespace orvanta {
 namespace {
@@ -23,12 +24,7 @@ Whole Rounded(double value) {
   return static_cast<Whole>(up ? below + 1 : below);
 }
 
-std::string_view Trimmed(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\v\f";
-  const auto first = text.find_first_not_of(kBlanks);
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
+constexpr std::string_view kBlanks = " \t\v\f";
 
 /// Whether a number is too small for its type rather than too large; std::from_chars does not distinguish
 /// them.
@@ -41,7 +37,7 @@ bool IsTiny(std::string_view number) {
 
 template <class Real>
 std::optional<Real> Parsed(std::string_view text) {
-  std::string number(Trimmed(text));
+  std::string number(Trimmed(text, kBlanks));
   // Rejects the words and the hexadecimal digits that std::from_chars would accept.
   if (number.find_first_not_of("0123456789+-.,eE") != number.npos) return std::nullopt;
   std::replace(number.begin(), number.end(), ',', '.');
@@ -71,7 +67,7 @@ double DoubleOf(std::string_view text) { return NumberOf<double>(text); }
 std::int32_t ColourOf(std::string_view text) { return CLng(NumberOf<double>(text)); }
 
 bool BooleanOf(std::string_view text) {
-  return EqualNoCase(Trimmed(text), "True") || NumberOf<double>(text) != 0.0;
+  return EqualNoCase(Trimmed(text, kBlanks), "True") || NumberOf<double>(text) != 0.0;
 }
 
 bool IsNumber(std::string_view text) { return Parsed<double>(text).has_value(); }

@@ -5,23 +5,19 @@
 #include <charconv>
 #include <limits>
 
+#include "platform/AsciiText.h"
+
 namespace orvanta {
 namespace {
 
 constexpr std::array ControlNames = {"COMCT232.OCX", "COMCTL32.OCX"};
 constexpr std::int32_t LastFailure = 32;
 
-std::string_view Trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 /// As everywhere in the program, text that is not a number counts as 0, and a number outside the range is
 /// clamped.
 std::int16_t Number(std::string_view text) {
   using Limits = std::numeric_limits<std::int16_t>;
-  text = Trimmed(text);
+  text = Trimmed(text, " ");
   std::int64_t value = 0;
   const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
   if (read.ec == std::errc::result_out_of_range) return text.front() == '-' ? Limits::min() : Limits::max();
@@ -44,7 +40,7 @@ std::string FileVersionText(ControlFilesHost& host, const std::string& path) {
 }
 
 std::int16_t VersionPart(std::string_view text, std::uint8_t part) {
-  text = Trimmed(text);
+  text = Trimmed(text, " ");
   std::int16_t number = 0;
   for (int i = 0; i < part; ++i) {
     const auto point = text.find('.');

@@ -17,6 +17,8 @@ inline constexpr auto kLookupCases = std::to_array<LookupCase>({
     {"lf cr order", "[s]\n\rk=v\n\r", "s", "k", "v"},
     {"section prefix does not match", "[MAINMENU2]\r\nk=2\r\n[MAINMENU]\r\nk=1\r\n", "MAINMENU", "k", "1"},
     {"case polish section", "[\257\363\263w]\r\nk=v\r\n", "\257\323\243W", "k", "v"},
+    {"case polish at the deciding ends", "[\263s]\r\nk\263=v\r\n", "\243S", "K\243", "v"},
+    {"blanks around the names asked for", "[s]\r\nk=v\r\n", "  s\t", " k ", "v"},
     {"fold trap bracket brace", "[s]\r\nk{=1\r\n", "s", "k[", ""},
     {"blank space around key", "[s]\r\n k =val\r\n", "s", "k", "val"},
     {"blank tab in brackets", "[\tx\t]\r\nk=val\r\n", "x", "k", "val"},

@@ -27,7 +27,9 @@ inline std::string Lowered(std::string_view text) {
 }
 
 /// The rules of `ProfileString`, written as slowly and plainly as possible, to compare it with.
-inline std::string ReferenceLookup(std::string_view text, std::string_view section, std::string_view key) {
+inline std::string ReferenceLookup(std::string_view text, std::string_view askedSection,
+                                   std::string_view askedKey) {
+  const std::string section = Trimmed(std::string(askedSection)), key = Trimmed(std::string(askedKey));
   bool inSection = false;
   for (std::string rest = std::string(text) + '\n'; !rest.empty();) {
     const std::string line = Trimmed(rest.substr(0, rest.find_first_of("\r\n")));

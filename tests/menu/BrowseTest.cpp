@@ -51,6 +51,11 @@ TEST_F(Browse, GoesDownBothFilesAndComesBackLevelByLevelOrInOneStep) {
   Tell({{"click imgUp2", "0: Gry Muzyka Filmy"}});
 }
 
+TEST_F(Browse, OpensTheSectionOfAnItemThatQuotesIndent) {
+  disc.Set("MAINMENU", "Menu1", "\"  Gry\"");
+  Tell({{"start", "0:   Gry Muzyka Filmy"}, {"choose 0", "1   Gry: Logiczne"}});
+}
+
 TEST_F(Browse, FollowsTheUserWhileTheMusicFadesForAnEntry) {
   disc.Menu("Gry", {"Film"});
   Tell({{"start, choose 0, hover lblPos10, after 900 click imgBack, click lblPos10, run 100", "1 Gry: Film"},

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "config/Fold1250.h"
+#include "config/IniText.h"
 #include "config/ProfileString.h"
 #include "config/Windows1250.h"
 
@@ -11,22 +12,9 @@ namespace {
 
 using Kind = IniRemark::Kind;
 
-constexpr std::string_view kBlanks = " \t\v\f\x1a";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 /// The bytes for which Windows-1250 has no character.
 constexpr std::string_view kUndefined = "\x81\x83\x88\x90\x98";
-
-std::string_view Trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(kBlanks);
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
-std::string_view Unquoted(std::string_view text) {
-  const bool quoted =
-      text.size() >= 2 && text.front() == text.back() && (text.front() == '"' || text.front() == '\'');
-  return quoted ? text.substr(1, text.size() - 2) : text;
-}
 
 /// Letters beyond ASCII, all of them in sequences that only UTF-8 makes.
 bool LooksLikeUtf8(std::string_view line) {
@@ -57,7 +45,7 @@ class Reader {
     } else if (line.find_first_of(kUndefined) != line.npos) {
       Remark(Kind::OutsideCodePage);
     }
-    const std::string_view text = Trimmed(line);
+    const std::string_view text = Trimmed(line, kIniBlanks);
     if (text.empty() || text.front() == ';') return;
     if (text.front() == '[') return Header(text.substr(1));
     Entry(text);
@@ -68,7 +56,7 @@ class Reader {
 
   void Header(std::string_view text) {
     if (text.find(']') == text.npos) Remark(Kind::NoBracket);
-    const std::string name(Trimmed(text.substr(0, text.find(']'))));
+    const std::string name(IniName(text.substr(0, text.find(']'))));
     file_.byName.try_emplace(Folded1250(name), file_.sections.size());
     file_.sections.push_back({number_, name, {}, {}});
   }
@@ -76,11 +64,10 @@ class Reader {
   void Entry(std::string_view text) {
     const auto equals = text.find('=');
     if (equals == text.npos) return Remark(Kind::NoEquals);
-    const std::string_view key = Trimmed(text.substr(0, equals));
+    const std::string_view key = IniName(text.substr(0, equals));
     if (key.empty()) return Remark(Kind::NoKey);
     if (file_.sections.empty()) return Remark(Kind::AboveSections);
-    const std::string_view rest = text.substr(equals + 1);
-    const std::string_view value = Unquoted(Trimmed(rest.substr(0, rest.find('\0'))));
+    const std::string_view value = IniValue(text.substr(equals + 1));
     IniSection& section = file_.sections.back();
     section.byName.try_emplace(Folded1250(key), section.entries.size());
     section.entries.push_back(
@@ -94,12 +81,12 @@ class Reader {
 }  // namespace
 
 const IniEntry* IniSection::Find(std::string_view key) const {
-  const auto found = byName.find(Folded1250(key));
+  const auto found = byName.find(Folded1250(IniName(key)));
   return found == byName.end() ? nullptr : &entries[found->second];
 }
 
 const IniSection* IniFile::Find(std::string_view name) const {
-  const auto found = byName.find(Folded1250(name));
+  const auto found = byName.find(Folded1250(IniName(name)));
   return found == byName.end() ? nullptr : &sections[found->second];
 }
 

@@ -22,7 +22,7 @@ struct IniSection {
   std::vector<IniEntry> entries;
   std::unordered_map<std::string, std::size_t> byName;  ///< folded key to the first entry of that name
 
-  /// The entry that a lookup finds; null if there is none.
+  /// The entry that a lookup of `key` finds; null if there is none.
   const IniEntry* Find(std::string_view key) const;
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "config/IniText.h"
 #include "config/NumberedKey.h"
 #include "config/Windows1250.h"
 #include "disctool/JsonObject.h"
@@ -28,13 +29,14 @@ class Builder {
   explicit Builder(const Catalogue& catalogue) : catalogue_(catalogue) {}
 
   MenuTree Build() {
-    Add(std::string(kRoot));
+    Add(kRoot);
     for (std::size_t i = 0; i < tree_.nodes.size(); ++i) Fill(i);
     return std::move(tree_);
   }
 
  private:
-  std::size_t Add(const std::string& name) {
+  std::size_t Add(std::string_view caption) {
+    const std::string name(IniName(caption));
     const auto [at, isNew] = tree_.byName.try_emplace(FoldedName(name), tree_.nodes.size());
     if (isNew) tree_.nodes.push_back({name, NodeKind::Inert, {}, 0});
     return at->second;

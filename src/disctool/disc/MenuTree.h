@@ -20,7 +20,7 @@ struct MenuItem {
   DiscPlace place;  ///< the line that names it
 };
 
-/// A section of the tree. Items with the same caption are the same node.
+/// A section of the tree. Items with the same caption are the same node, whatever blanks stand around it.
 struct MenuNode {
   std::string name;
   NodeKind kind = NodeKind::Inert;
