@@ -2,6 +2,7 @@
 
 #include "buttons/PictureButtons.h"
 #include "media/AccessibleTime.h"
+#include "startup/Design.h"
 #include "startup/Shell.h"
 
 namespace orvanta {
@@ -18,8 +19,8 @@ std::int16_t CentredEdge(std::int16_t middle, double extent) {
 
 frmKino::frmKino(Shell& shell)
     : Form(shell.host, {.name = "frmKino",
-                        .width = 9600,
-                        .height = 7200,
+                        .width = kCinema.width * kTwipsPerPixel,
+                        .height = kCinema.height * kTwipsPerPixel,
                         .scale = ScaleMode::Twips,
                         .window = WindowKind::Modal}),
       Picture1(*this, "Picture1"),
@@ -29,9 +30,9 @@ frmKino::frmKino(Shell& shell)
       shell_(shell) {
   Caption = "Orvanta - Kino";
   Picture1.AutoSize = true;
-  Picture1.Move(0, 0, 9600, 7200);
-  // So that a button whose art is missing can still be clicked.
-  ButtonM.ForEach([](Image& button) { button.Move(0, 0, 32, 32); });
+  Picture1.Move(0, 0, Width, Height);
+  ButtonM.ForEach(
+      [](Image& button) { button.Move(0, 0, kButtonWithoutArt.width, kButtonWithoutArt.height); });
   ButtonM.Click = [this](std::int16_t Index) { ButtonM_Click(KinoButton{Index}); };
   // A film that fills the screen covers the buttons.
   AM0.ScreenClick = [this] { ButtonM_Click(KinoButton::Window); };

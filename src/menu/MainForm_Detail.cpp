@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "config/NumberedKey.h"
+#include "startup/Design.h"
 #include "startup/Shell.h"
 
 namespace orvanta {
@@ -97,7 +98,7 @@ void MainForm::LoadShots(const std::string& name) {
     shot.Visible = shot.Stretch = true;
     shot.Picture = picture(i + 1);
     shot.Left = first.Left();
-    shot.Top = picShot(i - 1).Top + picShot(i - 1).Height + 3;
+    shot.Top = picShot(i - 1).Top + picShot(i - 1).Height + kShotGap;
     PosTop[static_cast<std::size_t>(i)] = CLng(shot.Top);
   }
   const Image& last = picShot(picShot.UBound());

@@ -1,6 +1,7 @@
 // The menu tree: a list of labels for the current node, and the ways down and up.
 
 #include "config/NumberedKey.h"
+#include "startup/Design.h"
 #include "startup/Shell.h"
 
 namespace orvanta {
@@ -47,7 +48,7 @@ void MainForm::MenuInit(const std::string& menu) {
   first.Top = settings.Whole({"MENUITEM", "LabelPosY"});
   LabelTop = CLng(first.Top);
   first.Visible = true;
-  if (MenuLevel > 0) first.Top = first.Top + LabelTop + first.Height + 6;
+  if (MenuLevel > 0) first.Top = first.Top + LabelTop + first.Height + kSubmenuGap;
   const bool opaque = settings.Whole({"MENUITEM", "BackStyle"}) != 0;
   const ColourValue backColour = settings.Colour({"MENUITEM", "BackColor"});
   for (int i = 0; i <= lblPos1.UBound(); ++i) BuildLabel(i, menu, opaque, backColour);
@@ -73,7 +74,7 @@ void MainForm::BuildLabel(int i, const std::string& menu, bool opaque, ColourVal
     label.FontSize = first.FontSize();
     label.FontName = first.FontName();
     label.FontBold = first.FontBold();
-    label.Move(first.Left, first.Top + i * (first.Height + 1), first.Width, first.Height);
+    label.Move(first.Left, first.Top + i * (first.Height + kLabelGap), first.Width, first.Height);
     label.Visible = true;
   }
   PosTop[static_cast<std::size_t>(i)] = CLng(label.Top);

@@ -1,5 +1,6 @@
 // The screenshots of an entry: their slider, and opening the viewer.
 
+#include "startup/Design.h"
 #include "startup/Shell.h"
 
 namespace orvanta {
@@ -18,7 +19,7 @@ void MainForm::SSuwakInit() {
                               .yMax = {"SHOTSLIDER", "YMax"},
                               .yStep = {"SHOTSLIDER", "YStep"}});
   // The space above the first picture is repeated below the last one.
-  slider.SetRange(CLng(bottom - picShotTlo.Height + 6));
+  slider.SetRange(CLng(bottom - picShotTlo.Height + kFirstShot.top));
 }
 
 void MainForm::ScrollShots() {

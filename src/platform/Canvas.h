@@ -27,6 +27,10 @@ class Canvas {
   virtual void Fill(const Rect& area, ColourValue colour) = 0;
   /// Paints the whole picture, scaled to `target` if the sizes differ.
   virtual void Draw(const Picture& picture, const Rect& target) = 0;
+  /// Paints the whole picture at its real size.
+  void DrawAt(Point corner, const Picture& picture) {
+    Draw(picture, {corner.x, corner.y, picture.PixelSize().width, picture.PixelSize().height});
+  }
   /// Paints UTF-8 text, wrapped at the width of `area`, starting at its top. The text has no markup.
   virtual void Text(const std::string& text, const Rect& area, const Font& font, ColourValue colour,
                     Alignment alignment) = 0;

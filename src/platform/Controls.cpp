@@ -69,9 +69,11 @@ Rect PictureBox::ClientArea() const {
 void PictureBox::Paint(Canvas& canvas, Point origin, const Rect& area) const {
   const Rect box = Bounds().Moved(origin);
   canvas.PushClip(box);
-  if (!Picture()) canvas.Fill(box, BackColor);
-  if (Picture())
-    canvas.Draw(*Picture(), {box.left, box.top, Picture()->PixelSize().width, Picture()->PixelSize().height});
+  if (Picture()) {
+    canvas.DrawAt({box.left, box.top}, *Picture());
+  } else {
+    canvas.Fill(box, BackColor);
+  }
   PaintChildren(canvas, {box.left, box.top}, Intersection(area, box));
   canvas.PopClip();
 }

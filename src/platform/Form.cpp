@@ -142,7 +142,7 @@ void Form::Paint(Canvas& canvas, const Rect& area) const {
   const Size art = Picture() ? Picture()->PixelSize() : Size{};
   const Rect client = ClientArea();
   if (art.width < client.width || art.height < client.height) canvas.Fill(area, 0);
-  if (Picture()) canvas.Draw(*Picture(), {0, 0, art.width, art.height});
+  if (Picture()) canvas.DrawAt({0, 0}, *Picture());
   PaintChildren(canvas, {0, 0}, area);
   canvas.PopClip();
 }

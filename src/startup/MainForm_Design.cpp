@@ -1,11 +1,15 @@
 // MainForm before Form_Load: everything that no key of the disc changes.
 
+#include "startup/Design.h"
 #include "startup/Shell.h"
 
 namespace orvanta {
 
 MainForm::MainForm(Shell& shell)
-    : Form(shell.host, {.name = "MainForm", .width = 10005, .height = 7440, .window = WindowKind::Main}),
+    : Form(shell.host, {.name = "MainForm",
+                        .width = kMainWindow.width * kTwipsPerPixel,
+                        .height = kMainWindow.height * kTwipsPerPixel,
+                        .window = WindowKind::Main}),
       lblNote(*this, "lblNote"),
       Shape1(*this, "Shape1"),
       Label1(*this, "Label1"),
@@ -45,21 +49,20 @@ MainForm::MainForm(Shell& shell)
 
 void MainForm::DesignControls() {
   picTlo.AutoSize = true;
-  picTlo.Move(0, 0, 472, 309);
+  picTlo.Move(0, 0, kMenuArea.width, kMenuArea.height);
   imgKreska.AutoSize = true;
-  imgKreska.Move(0, 0, 472, 33);
+  imgKreska.Move(0, 0, kKreska.width, kKreska.height);
   lblTitle.Move(0, 0, 427, 30);
   lblBackTxt.Move(0, 0, 391, 26);
   lblBackTxt2.Move(0, 0, 393, 26);
 
-  lblPos1(0).Move(0, 0, 401, 26);
+  lblPos1(0).Move(0, 0, 401, kLabelHeight);
   lblPos1(0).MouseIcon = Pointer::Hand;
   for (Image* zone : {&imgBack, &imgUp, &ImgBack2, &imgUp2}) {
     zone->BorderStyle = 1;
     zone->MouseIcon = Pointer::Hand;
   }
-  // So that a button whose art is missing can still be clicked.
-  ButtonM(0).Move(0, 0, 32, 32);
+  ButtonM(0).Move(0, 0, kButtonWithoutArt.width, kButtonWithoutArt.height);
   ButtonM(0).MouseIcon = Pointer::Hand;
 }
 
@@ -87,9 +90,9 @@ void MainForm::DesignDetail() {
   lblSystem.FontBold = true;
   lblSystem.FontSize = 9.75;
 
-  picShotTlo.Move(388, 184, 161, 259);
+  picShotTlo.Move(kShotFrame.left, kShotFrame.top, kShotFrame.width, kShotFrame.height);
   picShotTlo.BackColor = 0xFFFFFF;
-  picShot(0).Move(7, 6, 123, 82);
+  picShot(0).Move(kFirstShot.left, kFirstShot.top, kFirstShot.width, kFirstShot.height);
   picShot(0).Stretch = true;
   picShot(0).BorderStyle = 1;
   imgSSlider.Visible = imgSSuwak.Visible = false;

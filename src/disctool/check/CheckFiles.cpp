@@ -7,6 +7,7 @@
 #include "config/Windows1250.h"
 #include "disctool/check/CheckJob.h"
 #include "disctool/disc/EntryTarget.h"
+#include "startup/Design.h"
 
 namespace orvanta {
 namespace {

@@ -26,9 +26,6 @@ struct CheckJob {
   std::optional<Size> PictureOf(std::string_view section, std::string_view key, std::string_view ending = {});
 };
 
-/// The main window as it is designed, in pixels.
-inline constexpr Size kMainWindow{667, 496};
-
 /// The fixed section that a name means in any mix of capitals; empty if it is none.
 std::string_view FixedSection(std::string_view name);
 /// "BackX of [GLOBAL]"

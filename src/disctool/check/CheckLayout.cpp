@@ -1,45 +1,38 @@
 // Places: what cannot be seen, clicked or moved where the disc has put it.
 
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <optional>
+#include <span>
 #include <string>
 
+#include "buttons/PictureButtons.h"
 #include "config/Values.h"
 #include "disctool/check/CheckJob.h"
 #include "platform/Region.h"
+#include "startup/Design.h"
 #include "startup/modFormShape.h"
 
 namespace orvanta {
 namespace {
 
-// As the shell's windows are designed, in pixels.
-constexpr Size kMenuArea{472, 309}, kStrip{472, 33}, kCinema{640, 480};
-constexpr Size kButtonWithoutArt{32, 32}, kShotFrame{161, 259};
-constexpr int kLabelHeight = 26, kShotTop = 6, kShotHeight = 82, kShotGap = 3;
-
-struct ButtonKeys {
-  std::string_view base, left, top;
-};
-constexpr std::array<ButtonKeys, 10> kBar{{{"ExtB", "ExtX", "ExtY"},
-                                           {"Snd1B", "Snd1X", "Snd1Y"},
-                                           {"Snd2B", "Snd2X", "Snd2Y"},
-                                           {"HlpB", "HlpX", "HlpY"},
-                                           {"StartB", "StartX", "StartY"},
-                                           {"PauzaB", "PauzaX", "PauzaY"},
-                                           {"StopB", "StopX", "StopY"},
-                                           {"InfoB", "InfoX", "InfoY"},
-                                           {"MinB", "MinX", "MinY"},
-                                           {"PokazB", "PokazX", "PokazY"}}};
-constexpr std::array<ButtonKeys, 5> kCinemaButtons{{{"CPlayB", "CPlayX", "CPlayY"},
-                                                    {"CStopB", "CStopX", "CStopY"},
-                                                    {"CpauseB", "CPauseX", "CPauseY"},
-                                                    {"CScaleB", "CScaleX", "CScaleY"},
-                                                    {"CFScaleB", "CFScaleX", "CFScaleY"}}};
-
 int Pixels(const CheckJob& job, std::string_view section, std::string_view key) {
   return WholeOf(job.catalogue.Find(section, key).value);
+}
+
+int Pixels(const CheckJob& job, const KeyRef<Kind::Whole>& key) { return Pixels(job, key.section, key.name); }
+
+/// What a button covers on its window.
+Rect AreaOf(CheckJob& job, const ButtonKeys& keys) {
+  const Size size = job.PictureOf(keys.base.section, keys.base.name, "0.gif").value_or(kButtonWithoutArt);
+  return {Pixels(job, keys.left), Pixels(job, keys.top), size.width, size.height};
+}
+
+/// Calls `check` with each button that the disc has put somewhere: its place in the file, name and area.
+template <class Check>
+void ForEachButton(CheckJob& job, std::span<const ButtonKeys> buttons, Check check) {
+  for (const ButtonKeys& keys : buttons) {
+    const Setting at = job.catalogue.Find(keys.left.section, keys.left.name);
+    if (at && job.catalogue.Find(keys.base.section, keys.base.name))
+      check(at, Translated("the button of %1", keys.base.name), AreaOf(job, keys));
+  }
 }
 
 /// How many pixels of a rectangle belong to the main window's outline.
@@ -58,34 +51,24 @@ void Outside(CheckJob& job, const Setting& at, const std::string& what, bool who
 
 void BarButtons(CheckJob& job) {
   const Region outline = BuildFormRegion();
-  for (const ButtonKeys& keys : kBar) {
-    const Setting at = job.catalogue.Find("GLOBAL", keys.left);
-    if (!at || !job.catalogue.Find("GLOBAL", keys.base)) continue;
-    const Size size = job.PictureOf("GLOBAL", keys.base, "0.gif").value_or(kButtonWithoutArt);
-    const Rect area{Pixels(job, "GLOBAL", keys.left), Pixels(job, "GLOBAL", keys.top), size.width,
-                    size.height};
+  ForEachButton(job, kBarButtons, [&](const Setting& at, const std::string& what, const Rect& area) {
     const bool inside = Intersection(area, {0, 0, kMainWindow.width, kMainWindow.height}) == area;
     const int seen = PixelsInOutline(outline, area);
     // Art may well run into the corners that the outline cuts off.
-    if (!inside || seen == 0) Outside(job, at, Translated("the button of %1", keys.base), seen == 0);
-  }
+    if (!inside || seen == 0) Outside(job, at, what, seen == 0);
+  });
 }
 
 void CinemaButtons(CheckJob& job) {
   const Size window = job.PictureOf("CINEMA", "CBackground").value_or(kCinema);
-  for (const ButtonKeys& keys : kCinemaButtons) {
-    const Setting at = job.catalogue.Find("CINEMA", keys.left);
-    if (!at || !job.catalogue.Find("CINEMA", keys.base)) continue;
-    const Size size = job.PictureOf("CINEMA", keys.base, "0.gif").value_or(kButtonWithoutArt);
-    const Rect area{Pixels(job, "CINEMA", keys.left), Pixels(job, "CINEMA", keys.top), size.width,
-                    size.height};
+  ForEachButton(job, kKinoButtons, [&](const Setting& at, const std::string& what, const Rect& area) {
     const Rect seen = Intersection(area, {0, 0, window.width, window.height});
-    if (seen != area) Outside(job, at, Translated("the button of %1", keys.base), seen.Empty());
-  }
+    if (seen != area) Outside(job, at, what, seen.Empty());
+  });
 }
 
 void Zones(CheckJob& job) {
-  const Size strip = job.PictureOf("GLOBAL", "LinePic").value_or(kStrip);
+  const Size strip = job.PictureOf("GLOBAL", "LinePic").value_or(kKreska);
   for (const std::string zone : {"Back", "Up", "Back2", "Up2"}) {
     const Size box = zone.ends_with('2') ? strip : kMainWindow;
     const Rect area{Pixels(job, "GLOBAL", zone + "X"), Pixels(job, "GLOBAL", zone + "Y"),
@@ -130,8 +113,8 @@ void CheckSlider(CheckJob& job, const Slider& slider) {
 /// Whether a list of so many labels is higher than the menu area.
 bool Overflows(const CheckJob& job, int items, bool isRoot, int areaHeight) {
   const int first = Pixels(job, "MENUITEM", "LabelPosY");
-  const int top = isRoot ? first : 2 * first + kLabelHeight + 6;
-  return top + (items - 1) * (kLabelHeight + 1) + kLabelHeight > areaHeight;
+  const int top = isRoot ? first : 2 * first + kLabelHeight + kSubmenuGap;
+  return top + (items - 1) * (kLabelHeight + kLabelGap) + kLabelHeight > areaHeight;
 }
 
 void Sliders(CheckJob& job) {
@@ -142,12 +125,13 @@ void Sliders(CheckJob& job) {
     if (node.kind == NodeKind::Menu)
       list = list || Overflows(job, items, &node == &job.tree.nodes.front(), area.height);
     else if (node.kind != NodeKind::Inert)
-      shots = shots || kShotTop + node.shots * (kShotHeight + kShotGap) - kShotGap > kShotFrame.height;
+      shots = shots ||
+              kFirstShot.top + node.shots * (kFirstShot.height + kShotGap) - kShotGap > kShotFrame.height;
   }
   for (const char* page : {"HelpB", "AboutB"})
     list = list || job.PictureOf("GLOBAL", page).value_or(Size{}).height > area.height;
   CheckSlider(job, {"SLIDER", "SliderB", area, list});
-  CheckSlider(job, {"SHOTSLIDER", "SSuwakB", kShotFrame, shots});
+  CheckSlider(job, {"SHOTSLIDER", "SSuwakB", {kShotFrame.width, kShotFrame.height}, shots});
 }
 
 }  // namespace

@@ -5,11 +5,11 @@
 #include "config/NumberedKey.h"
 #include "config/Windows1250.h"
 #include "disctool/gallery/GalleryWalk.h"
+#include "startup/Design.h"
 
 namespace orvanta {
 namespace {
 
-constexpr int kLabelHeight = 26, kShotHeight = 82;
 /// The cinema waits for a second and then places the film; in milliseconds.
 constexpr Milliseconds kCinemaTime = 3000;
 /// Long enough for two ticks, which look where the mouse is; in milliseconds.
@@ -96,7 +96,7 @@ void GalleryWalk::Texts(const MenuNode& node) {
 
 /// Saves the strip of screenshots as it scrolls, and then each screenshot at its own size.
 void GalleryWalk::Shots(const MenuNode& node) {
-  Scroll(true, static_cast<int>(shell_.MainForm->picShotTlo.Height()) - kShotHeight);
+  Scroll(true, static_cast<int>(shell_.MainForm->picShotTlo.Height()) - kFirstShot.height);
   for (int number = 1; number <= node.shots; ++number) {
     const std::string value = catalogue_.Find(node.name, NumberedKey("Shot", number)).value;
     const std::filesystem::path file = shell_.HostFile(shell_.ini.PicturePath(value));

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <array>
 
+#include "startup/Design.h"
 #include "startup/modFormShape.h"
 
 namespace orvanta {
@@ -39,7 +40,7 @@ void Letter(QImage& image, const QRect& area, const QString& text, int size, con
 
 /// The main window: an edge along its outline, and frames around its parts.
 QImage Main() {
-  QImage image = Sheet(667, 496, kShell.lighter(130), kShell);
+  QImage image = Sheet(kMainWindow.width, kMainWindow.height, kShell.lighter(130), kShell);
   const Region outline = BuildFormRegion();
   const auto outside = [&](int x, int y) { return !outline.Contains({x, y}); };
   for (int y = 0; y < image.height(); ++y)
@@ -98,7 +99,7 @@ constexpr std::array<ButtonArt, 15> kButtons{{{"ext", "×", 26},
                                               {"cfscale", "OKNO", 70}}};
 
 QImage Line() {
-  QImage image = Sheet(472, 33, kShell, kShell.darker(130));
+  QImage image = Sheet(kKreska.width, kKreska.height, kShell, kShell.darker(130));
   Letter(image, {5, 2, 30, 29}, QStringLiteral("←"), 22, kEdge);
   Letter(image, {37, 2, 30, 29}, QStringLiteral("↑"), 22, kEdge);
   return image;
@@ -110,7 +111,7 @@ std::map<std::string, QImage> NewDiscArt() {
   std::map<std::string, QImage> art;
   art["main"] = Main();
   // The marks for "back" and "to the first menu" are also below the strip.
-  art["area"] = Sheet(472, 306, kDeep.lighter(130), kDeep);
+  art["area"] = Sheet(kMenuArea.width, 306, kDeep.lighter(130), kDeep);
   art["line"] = Line();
   QPainter(&art["main"]).drawImage(95, 151, art["line"]);
   art["slider"] = Sheet(24, 255, kDeep, kDeep.darker(150));
