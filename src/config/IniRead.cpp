@@ -1,6 +1,10 @@
 #include "config/IniRead.h"
 
 #include <algorithm>
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <system_error>
 #include <utility>
 
 #include "config/ProfileString.h"
@@ -8,8 +12,6 @@
 
 namespace orvanta {
 namespace {
-
-constexpr std::string_view kSecondFile = "Param.ini";
 
 std::size_t CharacterLength(std::string_view utf8) {
   std::size_t length = std::min<std::size_t>(1, utf8.size());
@@ -36,6 +38,15 @@ std::string INI_Read::IniRead(std::string_view section, std::string_view key, st
 std::string INI_Read::ReadFile(std::string_view section, std::string_view key, std::string_view file) const {
   const FoundPath found = drive_.Find(PicturePath(file));
   return found ? ProfileString(found.path, section, key) : std::string();
+}
+
+bool INI_Read::HasDisc() const {
+  return std::ranges::any_of(std::array{kMenuFile, kSecondFile}, [this](std::string_view name) {
+    const std::filesystem::path file = drive_.Find(PicturePath(name)).path;
+    std::error_code error;
+    // Nothing else is opened: a FIFO would be waited for.
+    return std::filesystem::is_regular_file(file, error) && std::ifstream(file).good();
+  });
 }
 
 std::string INI_Read::PicturePath(std::string_view value) const {

@@ -1,7 +1,5 @@
 #include "config/NumberedKey.h"
 
-#include "config/Settings.h"
-
 namespace orvanta {
 
 std::string NumberedKey(std::string_view prefix, int number) {

@@ -9,9 +9,6 @@
 
 namespace orvanta {
 
-/// The file in which every setting is looked up first.
-inline constexpr std::string_view kMenuFile = "Menu.ini";
-
 /// The settings of the fixed sections, by their kind: `settings.Whole({"GLOBAL", "BackX"})`. Each call does
 /// one lookup and one conversion; `Values.h` defines the result for empty and malformed values.
 class Settings {

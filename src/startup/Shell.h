@@ -28,8 +28,9 @@ class Shell {
  public:
   explicit Shell(Host& host);
 
-  /// Runs until the program ends.
-  void Run();
+  /// Runs until the program ends. False, and the user has been told, if there is no disc to show; a second
+  /// instance of the program ends without a word either way.
+  bool Run();
 
   /// The file or folder that a path of the disc leads to; empty if it does not exist.
   std::filesystem::path HostFile(const std::string& path) const { return ini.Drive().Find(path).path; }

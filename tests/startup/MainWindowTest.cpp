@@ -65,6 +65,22 @@ TEST_F(MainWindow, BuildsItselfInTheOrderThatTheUserSees) {
   EXPECT_EQ(Main().imgUp2.Bounds(), (Rect{430, 5, 20, 20}));
 }
 
+struct SecondStart : HeadlessHost {
+  using HeadlessHost::HeadlessHost;
+  bool PrevInstance() const override { return true; }
+};
+
+TEST(Start, WithoutADiscIsExplainedUnlessTheProgramRunsAlready) {
+  const TemporaryFolder folder;
+  HeadlessHost first(folder.Path());
+  EXPECT_FALSE(Shell(first).Run());
+  ASSERT_EQ(first.messages.size(), 1U);
+  EXPECT_NE(first.messages[0].text.find(folder.Path()), std::string::npos) << "the folder that was looked at";
+  SecondStart second(folder.Path());
+  EXPECT_TRUE(Shell(second).Run());
+  EXPECT_TRUE(second.messages.empty());
+}
+
 TEST_F(MainWindow, SitsInTheLowerLeftCornerOfASmallScreenAlone) {
   for (const auto& [screen, at] :
        {std::pair{Size{640, 480}, Point{0, -17}}, {{799, 600}, {0, 102}}, {{800, 600}, {66, 52}}}) {

@@ -41,8 +41,7 @@ Findings CheckDisc(const DiscTree& disc, DiscProbe& probe) {
   Findings findings;
   const Catalogue catalogue(disc);
   if (catalogue.Empty()) {
-    findings.Error({disc.Name(), 0}, "no-disc",
-                   Translated("there is no disc here: neither %1 nor %2", "Data/Menu.ini", "Data/Param.ini"));
+    findings.Error({disc.Name(), 0}, "no-disc", NoDisc());
     return findings;
   }
   const MenuTree tree = ReadMenuTree(catalogue);

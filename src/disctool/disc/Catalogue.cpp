@@ -2,15 +2,17 @@
 
 #include <optional>
 
+#include "config/IniRead.h"
 #include "config/Windows1250.h"
 #include "disctool/Translation.h"
 
 namespace orvanta {
 namespace {
 
-constexpr std::array<const char*, 2> kNames = {"Menu.ini", "Param.ini"};
+constexpr std::array kNames = {kMenuFile, kSecondFile};
 
-Catalogue::File ReadFile(const DiscTree& disc, const std::string& name) {
+Catalogue::File ReadFile(const DiscTree& disc, std::string_view fileName) {
+  const std::string name(fileName);
   Catalogue::File file;
   file.path = disc.Place("Data/" + name);
   const FoundPath found = disc.Find(std::string(Catalogue::kDiscRoot) + "Data\\" + name);
@@ -60,9 +62,11 @@ bool Catalogue::HasSection(std::string_view section) const {
   return bytes && (files_[0].ini.Find(*bytes) || files_[1].ini.Find(*bytes));
 }
 
-std::string NoDiscIn(const std::filesystem::path& disc) {
-  return disc.string() + ": " +
-         Translated("there is no disc here: neither %1 nor %2", "Data/Menu.ini", "Data/Param.ini");
+std::string NoDisc() {
+  return Translated("there is no disc here: neither %1 nor %2", "Data/" + std::string(kMenuFile),
+                    "Data/" + std::string(kSecondFile));
 }
+
+std::string NoDiscIn(const std::filesystem::path& disc) { return disc.string() + ": " + NoDisc(); }
 
 }  // namespace orvanta

@@ -58,7 +58,9 @@ class Catalogue {
   std::array<File, 2> files_;
 };
 
-/// Says that there is no disc in a place: "PLACE: there is no disc here: ..."
+/// Says what is missing where there is no disc: "there is no disc here: ..."
+std::string NoDisc();
+/// The same with the place in front: "PLACE: there is no disc here: ..."
 std::string NoDiscIn(const std::filesystem::path& disc);
 
 }  // namespace orvanta

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <chrono>
 #include <csignal>
-#include <cstdlib>
 #include <optional>
 #include <system_error>
 
@@ -19,19 +18,13 @@
 #include "disctool/disc/Catalogue.h"
 #include "disctool/image/DiscCache.h"
 #include "platform/desktop/DesktopHost.h"
+#include "platform/desktop/Display.h"
 #include "platform/desktop/window/QtScaling.h"
 #include "platform/desktop/window/ShellIcon.h"
 #include "startup/Shell.h"
 
 namespace orvanta {
 namespace {
-
-/// Without a display Qt ends the process, and not with a word that helps.
-bool HasDisplay() {
-  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-    if (const char* value = std::getenv(name); value && *value) return true;
-  return false;
-}
 
 constexpr std::chrono::milliseconds kPatience{500};
 constexpr int kSteps = 1000;
@@ -42,7 +35,7 @@ class ProgressWindow {
   ProgressWindow(std::optional<int> zoom, int& argc, char** argv) : zoom_(zoom), argc_(argc), argv_(argv) {}
 
   void Show(std::uintmax_t done, std::uintmax_t all) {
-    if (!bar_ && (std::chrono::steady_clock::now() < due_ || !HasDisplay())) return;
+    if (!bar_ && (!hasDisplay_ || std::chrono::steady_clock::now() < due_)) return;
     if (!bar_) Open();
     const auto part = static_cast<double>(done) / static_cast<double>(std::max(done, all));
     if (const int step = static_cast<int>(part * kSteps); step != bar_->value()) bar_->setValue(step);
@@ -67,6 +60,7 @@ class ProgressWindow {
   const std::optional<int> zoom_;
   int& argc_;
   char** argv_;
+  const bool hasDisplay_ = HasDisplay();
   const std::chrono::steady_clock::time_point due_ = std::chrono::steady_clock::now() + kPatience;
   std::optional<QApplication> application_;
   std::optional<QProgressDialog> bar_;

@@ -41,9 +41,19 @@ TEST_F(StartWays, WithoutADiscAMessageSaysSoAndTheStatusIs1) {
     Launch();
     ASSERT_TRUE(Soon([&] { return Windows().size() == 1 && screen_.Active() == Windows().front(); }));
     EXPECT_EQ(screen_.TitleOf(screen_.Active()), "Orvanta Shell");
+    EXPECT_EQ(Program({disc_.Folder() / "orvanta"}).Ended(), 0) << "a second start says nothing";
     EXPECT_TRUE(program_->Runs());
     Screen::Hand(byKey ? "key Return" : "key alt+F4");
     EXPECT_EQ(program_->Ended(), 1);
+  }
+}
+
+// Fault: a core dump where there is no display, or none that answers.
+TEST_F(StartWays, WithoutADisplayOneLineSaysSoAndTheStatusIs1) {
+  for (const char* display : {"DISPLAY=", "DISPLAY=:32767"}) {
+    Program shell({"env", "-u", "WAYLAND_DISPLAY", display, disc_.Folder() / "orvanta"});
+    EXPECT_EQ(shell.Ended(), 1);
+    EXPECT_EQ(shell.Printed(), "orvanta: nie ma ekranu, na którym można otworzyć okno\n");
   }
 }
 
