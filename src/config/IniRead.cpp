@@ -41,7 +41,8 @@ std::string INI_Read::ReadFile(std::string_view section, std::string_view key, s
 }
 
 bool INI_Read::HasDisc() const {
-  return std::ranges::any_of(std::array{kMenuFile, kSecondFile}, [this](std::string_view name) {
+  constexpr std::array kFiles{kMenuFile, kSecondFile};
+  return std::any_of(kFiles.begin(), kFiles.end(), [this](std::string_view name) {
     const std::filesystem::path file = drive_.Find(PicturePath(name)).path;
     std::error_code error;
     // Nothing else is opened: a FIFO would be waited for.

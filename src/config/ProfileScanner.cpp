@@ -37,6 +37,10 @@ bool OnlyBlanksBefore(const char* begin, const char* at) {
   return at == begin || IsLineEnd(at[-1]);
 }
 
+std::string_view Between(const char* begin, const char* end) {
+  return {begin, static_cast<std::size_t>(end - begin)};
+}
+
 bool CanBeName(std::string_view name, char forbidden) {
   return std::none_of(name.begin(), name.end(),
                       [forbidden](char c) { return c == forbidden || IsLineEnd(c); });
@@ -86,7 +90,7 @@ bool ProfileScanner::FindKey(const char* begin, const char* end) {
     return *at == '[' ? OnlyBlanksBefore(begin, at) : NamesKey(begin, at);
   });
   if (stop == end) return false;
-  if (*stop == '=') value_ = IniValue({stop + 1, LineEnd(stop, end)}).substr(0, kLongestValue);
+  if (*stop == '=') value_ = IniValue(Between(stop + 1, LineEnd(stop, end))).substr(0, kLongestValue);
   return true;
 }
 
@@ -113,7 +117,7 @@ std::string StreamedProfileString(const ByteSource& read, std::string_view secti
     const char* const begin = piece - kept;
     const char* const end = piece + got;
     const char* const whole = got == 0 ? end : LastLineEnd(begin, end);
-    if (scanner.Take({begin, whole}) || got == 0) return scanner.value();
+    if (scanner.Take(Between(begin, whole)) || got == 0) return scanner.value();
     // Only the end of a value shows whether it is quoted, so an overlong line loses its middle, not its end.
     kept = std::min(static_cast<std::size_t>(end - whole), kPiece);
     std::memmove(piece - kept, whole, kept);

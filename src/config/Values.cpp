@@ -1,11 +1,14 @@
 #include "config/Values.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 #include <optional>
 #include <string>
+#include <type_traits>
 
 #include "config/Windows1250.h"
 #include "platform/AsciiText.h"
@@ -35,6 +38,24 @@ bool IsTiny(std::string_view number) {
   return first != number.npos && number[first] == '.';
 }
 
+#ifdef __cpp_lib_to_chars
+template <class Real>
+std::from_chars_result ReadNumber(const std::string& number, Real& value) {
+  return std::from_chars(number.data(), number.data() + number.size(), value);
+}
+#else
+/// For libraries whose std::from_chars knows whole numbers alone. The locale must be that of C.
+template <class Real>
+std::from_chars_result ReadNumber(const std::string& number, Real& value) {
+  char* stop = nullptr;
+  errno = 0;
+  value = static_cast<Real>(std::is_same_v<Real, float> ? std::strtof(number.c_str(), &stop)
+                                                        : std::strtod(number.c_str(), &stop));
+  const bool none = stop == number.c_str() || number.starts_with('+');
+  return {stop, none ? std::errc::invalid_argument : static_cast<std::errc>(errno)};
+}
+#endif
+
 template <class Real>
 std::optional<Real> Parsed(std::string_view text) {
   std::string number(Trimmed(text, kBlanks));
@@ -44,7 +65,7 @@ std::optional<Real> Parsed(std::string_view text) {
   if (number.starts_with('+') && !number.starts_with("+-")) number.erase(0, 1);
   Real value = 0;
   const char* end = number.data() + number.size();
-  const auto [stop, error] = std::from_chars(number.data(), end, value);
+  const auto [stop, error] = ReadNumber(number, value);
   if (stop != end || error == std::errc::invalid_argument) return std::nullopt;
   if (error != std::errc::result_out_of_range) return value;
   if (IsTiny(number)) return Real{0};

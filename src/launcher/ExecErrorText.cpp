@@ -42,7 +42,8 @@ constexpr std::array Failures = {
 };
 
 Failure FailureOf(std::int32_t code) {
-  const auto known = std::ranges::find(Failures, code, &Failure::code);
+  const auto known = std::find_if(Failures.begin(), Failures.end(),
+                                  [code](const Failure& failure) { return failure.code == code; });
   if (known != Failures.end()) return *known;
   return {code, ObjectErrorBase + code, "Przy próbie otwarcia pliku wystąpił nieznany błąd."};
 }

@@ -18,7 +18,7 @@ char Capital(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' +
 
 std::string Capitals(std::string_view text) {
   std::string capitals(text);
-  std::ranges::transform(capitals, capitals.begin(), Capital);
+  std::transform(capitals.begin(), capitals.end(), capitals.begin(), Capital);
   return capitals;
 }
 
@@ -32,8 +32,9 @@ bool IsDosName(std::string_view name) {
   const std::string_view stem = name.substr(0, name.find('.'));
   const std::string_view extension = name.substr(std::min(stem.size() + 1, name.size()));
   return !stem.empty() && stem.size() <= LongestStem && extension.size() <= LongestExtension &&
-         extension.empty() == (stem.size() == name.size()) && std::ranges::all_of(stem, IsDosCharacter) &&
-         std::ranges::all_of(extension, IsDosCharacter);
+         extension.empty() == (stem.size() == name.size()) &&
+         std::all_of(stem.begin(), stem.end(), IsDosCharacter) &&
+         std::all_of(extension.begin(), extension.end(), IsDosCharacter);
 }
 
 /// The hash over all bytes of the name, as Wine 1.0 computed it. `name` is not empty.
@@ -89,7 +90,7 @@ std::string Quoted(const std::string& word) {
 
 std::string Parameters(const StartRequest& request, const fs::path& disc) {
   const auto onDisc = [](const StartArgument& argument) { return !argument.file.empty(); };
-  if (std::ranges::none_of(request.arguments, onDisc)) return request.parameters;
+  if (std::none_of(request.arguments.begin(), request.arguments.end(), onDisc)) return request.parameters;
   std::string line;
   for (const StartArgument& argument : request.arguments) {
     std::string word = argument.text;
@@ -106,8 +107,8 @@ std::string Label(const fs::path& disc) {
   std::ifstream file(disc / VolumeLabelFile);
   if (!std::getline(file, label)) label = (disc / "").parent_path().filename().string();
   label = Capitals(label);
-  std::ranges::replace_if(
-      label, [](char c) { return !IsLetterOrDigit(c); }, '_');
+  std::replace_if(
+      label.begin(), label.end(), [](char c) { return !IsLetterOrDigit(c); }, '_');
   return label.empty() ? "DISC" : label.substr(0, LongestLabel);
 }
 

@@ -96,7 +96,8 @@ FileFacts FactsOfElf(const FileBytes& file, std::string_view header) {
     const std::uint64_t length = wide ? Little(segment, 0x20, 8) : Little(segment, 0x10, 4);
     if (place > file.size || length > file.size - place) return {FileKind::Broken};
     if (Little(segment, 0, 4) != LoaderSegment) continue;
-    const std::string loader = file.read(place, std::min<std::uint64_t>(length, LongestPath));
+    const std::string loader =
+        file.read(place, static_cast<std::size_t>(std::min<std::uint64_t>(length, LongestPath)));
     return {FileKind::Native, loader.substr(0, loader.find('\0'))};
   }
   return {FileKind::Native};
@@ -122,9 +123,8 @@ FileFacts FactsOfScript(std::string_view beginning) {
 
 std::string LowerExtension(const std::filesystem::path& name) {
   std::string extension = name.extension().string();
-  std::ranges::transform(extension, extension.begin(), [](char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-  });
+  std::transform(extension.begin(), extension.end(), extension.begin(),
+                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; });
   return extension;
 }
 
@@ -153,7 +153,8 @@ FileFacts FactsOf(const FileBytes& file, const std::filesystem::path& name, bool
   if (executable && beginning.starts_with("#!")) return FactsOfScript(beginning);
   if (beginning.starts_with("MZ")) return {KindOfMz(file, header)};
   const std::string extension = LowerExtension(name);
-  if (std::ranges::find(WindowsFiles, extension) != WindowsFiles.end()) return {FileKind::WindowsFile};
+  if (std::find(WindowsFiles.begin(), WindowsFiles.end(), extension) != WindowsFiles.end())
+    return {FileKind::WindowsFile};
   if (extension == ".com") return {beginning.empty() ? FileKind::Broken : FileKind::Dos};
   if (extension == ".exe") return {FileKind::Broken};
   return {FileKind::Document};

@@ -115,7 +115,8 @@ void Form::Invoke(const FormEvent& event) {
   const AccessibleNode window = Accessible();
   const AccessibleNode* node = FindAccessible(window, event.control);
   if (!node || node->unavailable) return;
-  const auto control = std::ranges::find(controls_, event.control, &Control::Id);
+  const auto control = std::find_if(controls_.begin(), controls_.end(),
+                                    [&](const Control* each) { return each->Id == event.control; });
   if (event.kind == FormEvent::Kind::SetValue) {
     if (node->settable && control != controls_.end()) Call((*control)->SetValue, event.value);
   } else if (node->clickable) {

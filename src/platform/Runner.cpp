@@ -16,8 +16,8 @@ bool HasWine32(const fs::path& wine) {
                                  "lib32/wine/i386-windows", "lib/i386-linux-gnu/wine", "lib32/wine"};
   std::error_code error;
   const fs::path root = fs::canonical(wine, error).parent_path().parent_path();
-  return std::ranges::any_of(Places,
-                             [&](const char* place) { return fs::is_directory(root / place, error); });
+  return std::any_of(Places.begin(), Places.end(),
+                     [&](const char* place) { return fs::is_directory(root / place, error); });
 }
 
 Runner Find(const std::string& name, std::string_view searchPath) {

@@ -1,7 +1,6 @@
 #include "platform/StackingHost.h"
 
 #include <algorithm>
-#include <ranges>
 #include <stdexcept>
 
 namespace orvanta {
@@ -74,7 +73,8 @@ void StackingHost::Restore(Form& form) {
 
 std::vector<AccessibleNode> StackingHost::AccessibleWindows() const {
   std::vector<AccessibleNode> trees;
-  for (const StackedWindow* window : windows | std::views::reverse) {
+  for (auto at = windows.rbegin(); at != windows.rend(); ++at) {
+    const StackedWindow* window = *at;
     if (!window->visible || window->minimised) continue;
     trees.push_back(window->form.Accessible());
     if (trees.back().role == AccessibleRole::Decoration) trees.pop_back();

@@ -18,9 +18,9 @@ bool modActiveWindow::CheckActive() {
 }
 
 bool modActiveWindow::IsStrip(const Form* form) const {
-  return form && std::ranges::any_of(shell_.Strips(), [form](const Shell::StripSlot* strip) {
-           return form == strip->Loaded();
-         });
+  const auto strips = shell_.Strips();
+  return form && std::any_of(strips.begin(), strips.end(),
+                             [form](const Shell::StripSlot* strip) { return form == strip->Loaded(); });
 }
 
 }  // namespace orvanta

@@ -1,7 +1,5 @@
 // The scripted screen reader.
 
-#include <ranges>
-
 #include "platform/headless/HeadlessHost.h"
 
 namespace orvanta {
@@ -18,7 +16,8 @@ const AccessibleNode* FindByName(const AccessibleNode& tree, const std::string& 
 }  // namespace
 
 void HeadlessHost::Assist(const std::string& name, FormEvent::Kind kind, double value) {
-  for (const StackedWindow* window : windows | std::views::reverse) {
+  for (auto at = windows.rbegin(); at != windows.rend(); ++at) {
+    const StackedWindow* window = *at;
     if (!window->visible) continue;
     const AccessibleNode tree = window->form.Accessible();
     const AccessibleNode* node = FindByName(tree, name);
