@@ -27,7 +27,7 @@ const std::string kStandard =
 const Room kRooms[] = {
     {"apps/", ".*", ".*"},
     {"src/disctool/image/sectors/",
-     "disctool/(image/sectors/)?\\w+\\.h|platform/desktop/Descriptor\\.h|" + kLogic, kStandard},
+     "disctool/(image/sectors/|disc/)?\\w+\\.h|platform/desktop/Descriptor\\.h|" + kLogic, kStandard},
     {"src/disctool/image/volume/", "disctool/(image/(sectors|volume)/|disc/)?\\w+\\.h|" + kLogic, kStandard},
     {"src/disctool/image/",
      "disctool/(image/((sectors|volume)/)?|disc/)?\\w+\\.h|platform/desktop/Descriptor\\.h|" + kLogic, ".*"},

@@ -42,7 +42,7 @@ TEST_F(ImageTreeTest, SaysTheSameAsItsFolder) {
   for (const auto& [rockRidge, joliet] : {std::pair(false, false), {true, false}, {false, true}})
     EXPECT_EQ(SaidOf(*Open(IsoImage(disc.Folder(), {rockRidge, joliet}))), expected) << rockRidge << joliet;
   const std::string iso = IsoImage(disc.Folder());
-  for (const auto& [stride, userData] : {std::pair(2352, 16), {2352, 24}, {2336, 8}, {2448, 16}})
+  for (const auto& [stride, userData] : {std::pair(2352U, 16U), {2352, 24}, {2336, 8}, {2448, 16}})
     EXPECT_EQ(SaidOf(*Open(InSectors(iso, stride, userData, userData == 24 ? 150 : 0))), expected) << stride;
 }
 

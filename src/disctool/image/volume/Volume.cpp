@@ -121,7 +121,9 @@ std::unique_ptr<Volume> Volume::Open(SessionData data) {
 }
 
 bool Volume::ReadDescriptors(std::size_t run) {
-  const std::uint64_t begin = sectors_.runs[run].first;
+  // The session's own sectors come first, wherever a bad sheet puts them.
+  std::swap(sectors_.runs[0], sectors_.runs[run]);
+  const std::uint64_t begin = sectors_.runs[0].first;
   std::string primary, joliet;
   for (std::uint64_t i = 0; i < kMostDescriptors; ++i) {
     const std::string found = sectors_.Text((begin + kFirstDescriptor + i) * kBlock, kBlock);
@@ -130,23 +132,24 @@ bool Volume::ReadDescriptors(std::size_t run) {
     if (found[0] == kSupplementary && joliet.empty() && IsJoliet(found)) joliet = found;
   }
   if (primary.empty()) return false;
-  sectors_.runs[run].first = FindRoot(run, ExtentOf(primary.substr(kRootAt, kRootBytes)).block);
+  sectors_.runs[0].first = FindRoot(ExtentOf(primary.substr(kRootAt, kRootBytes)).block);
   UseNames(primary, joliet);
   return true;
 }
 
-/// Where the run really begins on the disc. Sheets often do not say what precedes it, but the root folder,
-/// which is always near, contains its own address.
-std::uint64_t Volume::FindRoot(std::size_t run, std::uint32_t block) {
+/// Where the session really begins on the disc. Sheets often do not say what precedes it, but the root folder,
+/// which is always near and in the same session, contains its own address.
+std::uint64_t Volume::FindRoot(std::uint32_t block) const {
   constexpr std::uint64_t kFarthest = 1024;
-  const std::uint64_t told = sectors_.runs[run].first;
-  if (IsFolderAt(sectors_.Text(std::uint64_t{block} * kBlock, kBlock), block)) return told;
+  const DataSectors::Run& session = sectors_.runs[0];
+  const bool inside = block >= session.first && block - session.first < session.count;
+  if (inside && IsFolderAt(sectors_.Text(std::uint64_t{block} * kBlock, kBlock), block)) return session.first;
   for (std::uint64_t at = kFirstDescriptor + 1; at < kFarthest; ++at) {
-    const std::string found = sectors_.Text((told + at) * kBlock, kBlock);
+    const std::string found = sectors_.Text((session.first + at) * kBlock, kBlock);
     if (found.size() < kBlock) break;
     if (block >= at && IsFolderAt(found, block)) return block - at;
   }
-  return told;
+  return session.first;
 }
 
 void Volume::UseNames(const std::string& primary, const std::string& joliet) {

@@ -34,7 +34,7 @@ class Volume {
 
   explicit Volume(SessionData data) : sectors_(std::move(data.sectors)) {}
   bool ReadDescriptors(std::size_t run);
-  std::uint64_t FindRoot(std::size_t run, std::uint32_t block);
+  std::uint64_t FindRoot(std::uint32_t block) const;
   void UseNames(const std::string& primary, const std::string& joliet);
   bool AllNamesAreUtf8() const;
   VolumeEntry EntryOf(std::string_view record) const;
