@@ -29,7 +29,7 @@ struct FirstBytesProbe : DiscProbe {
                                                 const std::filesystem::path& b) override {
     const auto left = PictureSize(a), right = PictureSize(b);
     if (!left || left != right) return std::nullopt;
-    return TextOf(a) == TextOf(b) ? 0U : static_cast<std::uintmax_t>(left->width) * left->height;
+    return TextOf(a) == TextOf(b) ? 0U : static_cast<std::uintmax_t>(left->width * left->height);
   }
 };
 

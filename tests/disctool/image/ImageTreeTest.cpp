@@ -73,7 +73,7 @@ TEST_F(ImageTreeTest, FollowsLinksWithinTheImageAlone) {
   const auto tree = Open(IsoImage(disc.Folder(), {true}));
   EXPECT_EQ(tree->Read("Data/deep/Data/again.gif"), TextOf(disc.Data() / "main.gif"));
   for (const char* link : {"out", "root", "loop", "Data/deep/../.."})
-    EXPECT_EQ(tree->Look(link).kind, DiscTree::Kind::Missing) << link;
+    EXPECT_EQ(tree->EntryAt(link).kind, DiscTree::Kind::Missing) << link;
 }
 
 // The host gets whole copies that end as the files do, and they go with the disc.

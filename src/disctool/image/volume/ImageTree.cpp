@@ -69,7 +69,7 @@ std::optional<VolumeEntry> ImageTree::Locate(std::string_view path) const {
   return way.back();
 }
 
-DiscTree::Entry ImageTree::Look(const std::string& path) const {
+DiscTree::Entry ImageTree::EntryAt(const std::string& path) const {
   const auto entry = Locate(path);
   if (!entry) return {};
   switch (entry->kind) {

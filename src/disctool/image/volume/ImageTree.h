@@ -18,7 +18,7 @@ class ImageTree : public DiscTree {
       : DiscTree(std::move(name)), volume_(std::move(volume)) {}
   ~ImageTree() override;
 
-  Entry Look(const std::string& path) const override;
+  Entry EntryAt(const std::string& path) const override;
   bool IsLink(const std::string& path) const override;
   std::string Label() const override { return volume_->Label(); }
   std::vector<std::string> List(const std::string& folder) const override;

@@ -137,8 +137,8 @@ bool Volume::ReadDescriptors(std::size_t run) {
   return true;
 }
 
-/// Where the session really begins on the disc. Sheets often do not say what precedes it, but the root folder,
-/// which is always near and in the same session, contains its own address.
+/// Where the session really begins on the disc. Sheets often do not say what precedes it, but the root
+/// folder, which is always near and in the same session, contains its own address.
 std::uint64_t Volume::FindRoot(std::uint32_t block) const {
   constexpr std::uint64_t kFarthest = 1024;
   const DataSectors::Run& session = sectors_.runs[0];
