@@ -12,6 +12,7 @@
 #include <optional>
 #include <vector>
 
+#include "disctool/Translation.h"
 #include "disctool/image/DiscImage.h"
 #include "disctool/image/HeldSignals.h"
 
@@ -88,8 +89,8 @@ std::string NoRoom(const fs::path& folder, const ImageContents& contents) {
   // Each file starts a new block.
   const std::uintmax_t needed = contents.bytes + contents.files * disk.f_frsize;
   if (needed <= free) return {};
-  return "unpacking takes " + std::to_string((needed + kMegabyte - 1) / kMegabyte) + " MB, but " +
-         folder.string() + " has only " + std::to_string(free / kMegabyte) + " MB left";
+  return Translated("unpacking takes %1 MB, but %2 has only %3 MB left", (needed + kMegabyte - 1) / kMegabyte,
+                    folder.string(), free / kMegabyte);
 }
 
 OpenedDisc Failed(std::string problem) { return {{}, std::move(problem), {}}; }
@@ -107,7 +108,8 @@ Descriptor DiscCache::Lock(std::string& problem) const {
   if (!folder || fstat(folder.get(), &status) != 0) return problem = Problem(folder_), Descriptor();
   // Otherwise somebody else could put programs onto a disc.
   if (status.st_uid != geteuid() || (status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
-    return problem = folder_.string() + " is not the user's alone", Descriptor();
+    return problem = folder_.string() + ": " + Translated("other users may write to this folder"),
+           Descriptor();
   Descriptor lock(
       openat(folder.get(), kLockName, O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR));
   if (!lock || flock(lock.get(), LOCK_EX) != 0) return problem = Problem(folder_ / kLockName), Descriptor();
@@ -119,9 +121,11 @@ Descriptor DiscCache::Lock(std::string& problem) const {
 OpenedDisc DiscCache::Open(const fs::path& disc, const Progress& progress) const {
   std::error_code error;
   if (fs::is_directory(disc, error)) return {fs::absolute(disc, error), {}, {}};
-  if (!fs::exists(disc, error)) return Failed(disc.string() + ": there is nothing of that name");
+  if (!fs::exists(disc, error))
+    return Failed(disc.string() + ": " + Translated("there is nothing of that name"));
   const std::string name = NameOf(disc);
-  if (name.empty()) return Failed(disc.string() + " is neither a folder nor an image of a disc");
+  if (name.empty())
+    return Failed(disc.string() + ": " + Translated("this is neither a folder nor an image of a disc"));
   std::string problem;
   const Descriptor lock = Lock(problem);
   if (!lock) return Failed(problem);
@@ -139,7 +143,8 @@ OpenedDisc DiscCache::Unpack(const fs::path& image, const std::string& name, con
   const fs::path unfinished = folder_ / (name + std::string(kUnfinished));
   if (mkdir(unfinished.c_str(), S_IRWXU) != 0) return Failed(Problem(unfinished));
   std::string problem = UnpackImage(image, contents, unfinished, progress);
-  if (problem.empty() && NameOf(image) != name) problem = "the image has changed while it was read";
+  if (problem.empty() && NameOf(image) != name)
+    problem = Translated("the image has changed while it was read");
   // A copy in its final place must be complete even after a power cut.
   const Descriptor folder = Hold(unfinished, LOCK_SH);
   if (problem.empty() && (!folder || syncfs(folder.get()) != 0)) problem = Problem(unfinished);

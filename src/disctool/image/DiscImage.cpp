@@ -9,6 +9,7 @@
 #include <map>
 #include <span>
 
+#include "disctool/Translation.h"
 #include "disctool/image/HeldSignals.h"
 #include "disctool/image/ImageReader.h"
 #include "platform/desktop/Descriptor.h"
@@ -112,7 +113,7 @@ ImageContents ReadImage(const fs::path& image) {
     const std::uintmax_t size = entry->sameAs.empty() ? entry->size : sizes[entry->sameAs];
     sizes.emplace(entry->names, size);
     contents.bytes += size;
-    if (++contents.files > kMostFiles) reader.problem = "the image has too many files";
+    if (++contents.files > kMostFiles) reader.problem = Translated("the image has too many files");
   }
   contents.problem = reader.problem;
   return contents;

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "disctool/OutputText.h"
+#include "disctool/Translation.h"
 
 namespace orvanta {
 namespace {
@@ -33,7 +34,7 @@ std::optional<std::vector<std::string>> NamesOf(std::string_view path) {
 
 std::string ProblemOf(archive* image) {
   const char* text = archive_error_string(image);
-  return std::string("the image cannot be read: ") + (text ? text : "unknown fault");
+  return Translated("the image cannot be read: %1", text ? text : "?");
 }
 
 ImageReader::ImageReader(const std::filesystem::path& image) : archive_(archive_read_new()) {
@@ -59,24 +60,25 @@ std::optional<ImageEntry> ImageReader::Refuse(std::string why) {
 
 std::optional<ImageEntry> ImageReader::Take(archive_entry* header) {
   const char* path = archive_entry_pathname(header);
-  if (!path) return Refuse("the image has a name that cannot be read");
+  if (!path) return Refuse(Translated("the image has a name that cannot be read"));
   const std::string shown = "'" + Printable(path) + "'";
   const auto names = NamesOf(path);
-  if (!names) return Refuse("the image has a name that leads out of it: " + shown);
+  if (!names) return Refuse(Translated("the image has a name that leads out of it: %1", shown));
   const auto type = archive_entry_filetype(header);
   const char* same = archive_entry_hardlink(header);
-  if (type == AE_IFLNK) return Refuse("the image has a link in it: " + shown);
+  if (type == AE_IFLNK) return Refuse(Translated("the image has a link in it: %1", shown));
   if (type != AE_IFREG && type != AE_IFDIR && !same)
-    return Refuse("the image has something in it that is neither file nor folder: " + shown);
+    return Refuse(Translated("the image has something in it that is neither file nor folder: %1", shown));
   ImageEntry entry{*names, type == AE_IFDIR, {}, 0, archive_entry_perm(header)};
-  if (names->empty() && !entry.isFolder) return Refuse("the image has a file without a name");
+  if (names->empty() && !entry.isFolder) return Refuse(Translated("the image has a file without a name"));
   if (same) {
     const auto first = NamesOf(same);
-    if (!first || first->empty()) return Refuse("the image has a name that leads out of it: " + shown);
+    if (!first || first->empty())
+      return Refuse(Translated("the image has a name that leads out of it: %1", shown));
     entry.sameAs = *first;
   }
   const auto size = archive_entry_size(header);
-  if (size < 0) return Refuse("the image has a file of an impossible size: " + shown);
+  if (size < 0) return Refuse(Translated("the image has a file of an impossible size: %1", shown));
   entry.size = static_cast<std::uintmax_t>(size);
   return entry;
 }

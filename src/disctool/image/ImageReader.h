@@ -24,9 +24,11 @@ struct ImageEntry {
 };
 
 /// libarchive returns names in the character set of the locale, which must be UTF-8 whatever the user has.
+/// The language of messages stays the user's.
 class Utf8Locale {
  public:
-  Utf8Locale() : utf8_(newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr)), before_(uselocale(utf8_)) {}
+  Utf8Locale()
+      : utf8_(newlocale(LC_CTYPE_MASK, "C.UTF-8", duplocale(LC_GLOBAL_LOCALE))), before_(uselocale(utf8_)) {}
   Utf8Locale(const Utf8Locale&) = delete;
   Utf8Locale& operator=(const Utf8Locale&) = delete;
   ~Utf8Locale() {

@@ -66,6 +66,10 @@ TEST_F(DiscTool, TellsMisuseFromFaults) {
     EXPECT_TRUE(Told(std::string("\n  ") + command + " "));
   EXPECT_EQ(Run("open " + folder, "-u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM"), 1);
   EXPECT_TRUE(Told("no display"));
+  // Unpacking needs UTF-8 for the names, and must leave the language alone.
+  const fs::path image = scratch.File("cut.iso", "CD001");
+  EXPECT_EQ(Run("gallery " + image.string() + " " + there, "LC_ALL=C.UTF-8 LANGUAGE=pl"), 1);
+  EXPECT_TRUE(Told("obrazu nie da się odczytać")) << output;
 }
 
 // No display: what is there to see needs none.
