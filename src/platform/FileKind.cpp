@@ -121,6 +121,19 @@ FileFacts FactsOfScript(std::string_view beginning) {
   return {FileKind::Script, interpreter};
 }
 
+bool IsConsoleProgram(const FileBytes& file, std::string_view header) {
+  constexpr std::size_t SubsystemPlace = PeHeaderSize + 68, Console = 3;
+  const std::string subsystem = file.read(Little(header, NewHeaderPlace, 4) + SubsystemPlace, 2);
+  return subsystem.size() == 2 && Little(subsystem, 0, 2) == Console;
+}
+
+FileFacts FactsOfMz(const FileBytes& file, const std::string& header) {
+  FileFacts facts{KindOfMz(file, header)};
+  const bool isPe = facts.kind == FileKind::Windows32 || facts.kind == FileKind::Windows64;
+  facts.isConsole = isPe && IsConsoleProgram(file, header);
+  return facts;
+}
+
 std::string LowerExtension(const std::filesystem::path& name) {
   std::string extension = name.extension().string();
   std::transform(extension.begin(), extension.end(), extension.begin(),
@@ -151,7 +164,7 @@ FileFacts FactsOf(const FileBytes& file, const std::filesystem::path& name, bool
   const std::string header = beginning.substr(0, LongDosHeaderSize);
   if (executable && beginning.starts_with(ElfMark)) return FactsOfElf(file, header);
   if (executable && beginning.starts_with("#!")) return FactsOfScript(beginning);
-  if (beginning.starts_with("MZ")) return {KindOfMz(file, header)};
+  if (beginning.starts_with("MZ")) return FactsOfMz(file, header);
   const std::string extension = LowerExtension(name);
   if (std::find(WindowsFiles.begin(), WindowsFiles.end(), extension) != WindowsFiles.end())
     return {FileKind::WindowsFile};

@@ -37,6 +37,7 @@ struct FileFacts {
   /// What must exist to run it: the interpreter of a script (a path or, after `env`, a name for the search
   /// path) or the loader of a native program. Empty if nothing is needed.
   std::string interpreter{};
+  bool isConsole = false;  ///< a program for Windows without windows of its own
 };
 
 /// Decides by content, or by name if the content has no signature (.com, .bat; an .exe must have one).

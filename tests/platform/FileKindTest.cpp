@@ -52,6 +52,8 @@ TEST(FileKind, DependsOnContentBeforeNameAndOnTheBitForNativeProgramsAlone) {
   for (const auto& [expected, contents] : programs)
     for (const std::string& content : contents)
       EXPECT_EQ(Facts("a.exe", content, true).kind, expected) << content;
+  for (const bool console : {true, false})
+    EXPECT_EQ(Facts("a.exe", With(windows, 0x80 + 24 + 68, console ? 3 : 2), true).isConsole, console);
   const std::string native = "\x7f\x45LF\2\1" + std::string(58, '\0');
   EXPECT_EQ(Facts("setup.bat", native, true).kind, Native);
   EXPECT_EQ(Facts("setup", native, false).kind, Document);

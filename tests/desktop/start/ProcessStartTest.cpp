@@ -55,7 +55,7 @@ TEST_F(Started, WhoWatchesAProgramHasNothingOfTheShellOpen) {
   Descriptor held(open(lock.c_str(), O_RDWR));
   ASSERT_EQ(flock(held.get(), LOCK_EX), 0);
   const ProcessStart started =
-      StartProcess({"/bin/sleep", "5"}, CurrentEnvironment(), std::chrono::seconds(5));
+      StartProcess({"/bin/sleep", "5"}, CurrentEnvironment(), {.time = std::chrono::seconds(5)});
   EXPECT_EQ(started.error, 0);
   held.reset();
   const Descriptor again(open(lock.c_str(), O_RDWR));

@@ -22,12 +22,13 @@ namespace orvanta {
 namespace {
 
 using Arguments = std::vector<std::string>;
-using std::chrono::milliseconds;
 
 /// A program that fails within this time counts as not started.
-constexpr milliseconds Patience{500};
+constexpr Watching Patience{.time = std::chrono::milliseconds(500)};
+/// Without its 32-bit half Wine 8 takes longer to give up, and then reports success.
+constexpr Watching PatienceWithoutHalf{.time = std::chrono::seconds(10), .anyEnd = true};
 /// The first Windows program of a user waits until Wine has filled its prefix.
-constexpr milliseconds PatienceForPrefix{120'000};
+constexpr std::chrono::seconds TimeForPrefix{120};
 
 /// The scheme of an address to be opened as such; empty for anything else.
 std::string_view SchemeOf(std::string_view text) {
@@ -97,8 +98,8 @@ StartCode FileStarter::StartFound(const std::filesystem::path& file, const Start
     case FileKind::Script: return runner.missing.empty() ? native() : StartCode::IncompleteAssociation;
     case FileKind::Windows16:
     case FileKind::Windows32:
-    case FileKind::Windows64: return StartWine(runner, {file}, request);
-    case FileKind::WindowsFile: return StartWine(runner, {"start", "/unix", file}, request);
+    case FileKind::Windows64:
+    case FileKind::WindowsFile: return StartWine(runner, facts, file, request);
     case FileKind::Dos: return StartForeign(runner, DosBoxArguments(file, request, disc_));
     case FileKind::Broken: return StartCode::BadProgram;
     case FileKind::Document: break;
@@ -107,8 +108,8 @@ StartCode FileStarter::StartFound(const std::filesystem::path& file, const Start
 }
 
 StartCode FileStarter::Run(const std::vector<std::string>& command,
-                           const std::vector<std::string>& environment, std::chrono::milliseconds watched) {
-  ProcessStart start = StartProcess(command, environment, watched);
+                           const std::vector<std::string>& environment, const Watching& watching) {
+  ProcessStart start = StartProcess(command, environment, watching);
   latest_ = std::move(start.watch);
   return CodeOfError(start.error);
 }
@@ -120,14 +121,23 @@ StartCode FileStarter::StartForeign(const Runner& runner, const std::vector<std:
   return code == StartCode::FileNotFound ? StartCode::NoAssociation : code;
 }
 
-StartCode FileStarter::StartWine(const Runner& runner, std::vector<std::string> arguments,
-                                 const StartRequest& request) {
+StartCode FileStarter::StartWine(const Runner& runner, const FileFacts& facts,
+                                 const std::filesystem::path& file, const StartRequest& request) {
   if (runner.path.empty()) return StartCode::NoAssociation;
   const WineDisc disc(disc_, environment_);
   if (disc.Error() != 0) return CodeOfError(disc.Error());
+  Arguments arguments{file};
+  if (facts.kind == FileKind::WindowsFile || facts.isConsole) {
+    // Wine's `start` opens what is not a program, and gives a console program a window. Without `/d` it would
+    // enter the file's folder.
+    std::error_code error;
+    const std::filesystem::path here = std::filesystem::current_path(error);
+    arguments = {"start", "/d", disc.WindowsPath(here), "/unix", file};
+  }
   for (const StartArgument& argument : request.arguments) arguments.push_back(disc.Argument(argument));
-  const auto watched = disc.IsNew() ? PatienceForPrefix : Patience;
-  const StartCode code = Run(disc.Command(runner.path, arguments), disc.Environment(), watched);
+  Watching watching = runner.missing.empty() ? Patience : PatienceWithoutHalf;
+  if (disc.IsNew()) watching.time += TimeForPrefix;
+  const StartCode code = Run(disc.Command(runner.path, arguments), disc.Environment(), watching);
   return code == StartCode::FileNotFound ? StartCode::NoAssociation : code;
 }
 

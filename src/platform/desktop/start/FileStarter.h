@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <map>
@@ -34,17 +33,19 @@ class FileStarter {
   /// folders and addresses take no arguments.
   std::int32_t Start(const StartRequest& request);
   /// The result of a start as it is known now, by the number of the start. A program that fails within half a
-  /// second has not really started: Wine without its 32-bit half, DOSBox without a display, a program without
-  /// one of its libraries. Then it is `StartCode::BadProgram`, otherwise the same number.
+  /// second has not really started: DOSBox without a display, or a program without one of its libraries. If
+  /// the 32-bit half of Wine seems to be missing, a program that ends within ten seconds has not started
+  /// either. Then it is `StartCode::BadProgram`, otherwise the same number.
   std::int32_t Result(std::int32_t start);
 
  private:
   StartCode StartFound(const std::filesystem::path& file, const StartRequest& request);
-  StartCode StartWine(const Runner& runner, std::vector<std::string> arguments, const StartRequest& request);
+  StartCode StartWine(const Runner& runner, const FileFacts& facts, const std::filesystem::path& file,
+                      const StartRequest& request);
   StartCode StartForeign(const Runner& runner, const std::vector<std::string>& arguments);
   /// Starts a program and watches it.
   StartCode Run(const std::vector<std::string>& command, const std::vector<std::string>& environment,
-                std::chrono::milliseconds watched);
+                const Watching& watching);
   StartCode OpenFolder(const std::filesystem::path& folder) const;
   StartCode OpenWithApplication(const OpenTarget& target) const;
   std::string_view SearchPath() const;

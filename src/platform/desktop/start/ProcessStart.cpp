@@ -29,6 +29,7 @@ struct Plan {
   int report;  ///< for the error that prevented the program from being loaded
   int end;     ///< for a failure of the program while it is watched
   int rounds;  ///< for how many times `Round` milliseconds the program is watched
+  bool anyEnd;
   char* const* arguments;
   char* const* environment;
 };
@@ -132,7 +133,7 @@ void CloseAllBut(int kept) {
   for (int round = 0; round < plan.rounds; ++round) {
     int status = 0;
     if (waitpid(program, &status, WNOHANG) == program) {
-      if (status != 0) Report(FirstOwnDescriptor, status);
+      if (status != 0 || plan.anyEnd) Report(FirstOwnDescriptor, status);
       break;
     }
     poll(nullptr, 0, Round);
@@ -189,7 +190,7 @@ bool EndWatch::HasFailed() {
 }
 
 ProcessStart StartProcess(std::vector<std::string> arguments, std::vector<std::string> environment,
-                          std::chrono::milliseconds watched) {
+                          const Watching& watching) {
   int error = 0;
   Pipe report = MakePipe(error);
   if (error != 0) return {error};
@@ -199,9 +200,10 @@ ProcessStart StartProcess(std::vector<std::string> arguments, std::vector<std::s
   const std::vector<char*> argumentPointers = Pointers(arguments);
   const std::vector<char*> environmentPointers = Pointers(environment);
   pid_t child = -1;
-  error = ForkAndLeave({report.writing.get(), end.writing.get(), static_cast<int>(watched.count() / Round),
-                        argumentPointers.data(), environmentPointers.data()},
-                       child);
+  error =
+      ForkAndLeave({report.writing.get(), end.writing.get(), static_cast<int>(watching.time.count() / Round),
+                    watching.anyEnd, argumentPointers.data(), environmentPointers.data()},
+                   child);
   if (error != 0) return {error};
   report.writing.reset();
   while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) continue;

@@ -12,13 +12,18 @@ namespace orvanta {
 /// The environment of this process, as `NAME=value`.
 std::vector<std::string> CurrentEnvironment();
 
-/// Learns how a program ends, while the program is watched.
+/// For how long a started program is watched, and what counts as its failure.
+struct Watching {
+  std::chrono::milliseconds time{0};
+  bool anyEnd = false;  ///< every end, not only an exit status other than 0 or a signal
+};
+
+/// Learns whether a program fails while it is watched.
 class EndWatch {
  public:
   EndWatch() = default;
   explicit EndWatch(Descriptor reading) : reading_(std::move(reading)) {}
 
-  /// Whether the program has failed while it was watched: its exit status was not 0, or a signal ended it.
   bool HasFailed();
   /// Whether nothing more can be learned: the program has ended, or the time is over.
   bool IsOver() const { return !reading_; }
@@ -33,14 +38,13 @@ struct ProcessStart {
   EndWatch watch{};
 };
 
-/// Starts the program with the path `arguments[0]`, returns as soon as the system has loaded it, and watches
-/// it for the given time.
+/// Starts the program with the path `arguments[0]` and returns as soon as the system has loaded it.
 ///
 /// The program is independent: it is not a child of this process, has its own session, default signal
 /// handlers and no blocked signals, and inherits no open files. Its input is empty and its output is
 /// discarded (`/dev/null`), so that a pipe or a log file that takes the output of this process ends with this
 /// process. It starts in the current folder of this process.
 ProcessStart StartProcess(std::vector<std::string> arguments, std::vector<std::string> environment,
-                          std::chrono::milliseconds watched = std::chrono::milliseconds(0));
+                          const Watching& watching = {});
 
 }  // namespace orvanta

@@ -141,17 +141,18 @@ void WineDisc::Link(char drive) const {
   fs::rename(made, Drive(drive), error);
 }
 
+std::string WineDisc::WindowsPath(const fs::path& path) const {
+  const fs::path below = path.lexically_relative(disc_);
+  const bool onDrive = !prefix_.empty() && !below.empty() && *below.begin() != "..";
+  if (!onDrive) return "Z:" + WithBackslashes(path.string());
+  return DriveLetter() + ":\\" + (below == "." ? "" : WithBackslashes(below.string()));
+}
+
 std::string WineDisc::Argument(const StartArgument& argument) const {
-  if (prefix_.empty())
-    return argument.file.empty() ? argument.text : "Z:" + WithBackslashes(argument.file.string());
-  const std::string letter(1, static_cast<char>(drive_ - 'a' + 'A'));
-  if (!argument.file.empty()) {
-    const fs::path below = argument.file.lexically_relative(disc_);
-    return letter + ":\\" + (below == "." ? "" : WithBackslashes(below.string()));
-  }
-  const std::string_view text = argument.text;
+  if (!argument.file.empty()) return WindowsPath(argument.file);
+  const std::string& text = argument.text;
   const bool onDisc = text.starts_with("D:") || text.starts_with("d:");
-  return onDisc ? letter + argument.text.substr(1) : argument.text;
+  return onDisc && !prefix_.empty() ? DriveLetter() + text.substr(1) : text;
 }
 
 std::vector<std::string> WineDisc::Command(const fs::path& wine,

@@ -31,6 +31,8 @@ class WineDisc {
   int Error() const { return error_; }
   /// The environment for the program.
   const std::vector<std::string>& Environment() const { return environment_; }
+  /// The path by which Windows programs open a file or folder of the host, absolute.
+  std::string WindowsPath(const std::filesystem::path& path) const;
   /// An argument as a Windows program needs it: what it names on the disc becomes a path that Wine can open.
   std::string Argument(const StartArgument& argument) const;
   /// The whole command line. The first time, it lets Wine fill the prefix and learn the types of the drives
@@ -45,6 +47,7 @@ class WineDisc {
   char TakeDrive() const;
   void Link(char drive) const;
   std::filesystem::path Drive(char drive) const;
+  std::string DriveLetter() const { return {static_cast<char>(drive_ - 'a' + 'A')}; }
 
   std::filesystem::path disc_, prefix_;  ///< `prefix_` is empty if the user has set one
   std::vector<std::string> environment_;
