@@ -10,8 +10,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Behind a link to a folder, `..` is the parent of the link's target; dropping both by their spelling would
-/// lead elsewhere, so the spelling is only tidied where it still names the same file.
+/// After a link to a folder, `..` is the parent of the link's target, so removing both names could lead
+/// elsewhere. The path is only simplified if it still leads to the same file.
 fs::path Tidied(const fs::path& path) {
   std::error_code error;
   const fs::path tidied = path.lexically_normal();

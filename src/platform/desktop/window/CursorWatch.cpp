@@ -6,7 +6,7 @@ namespace orvanta {
 
 namespace {
 
-// Another program that grabs the mouse, as a window manager does to move a window, keeps its moves to itself.
+// While another program grabs the mouse, as a window manager does to move a window, no moves are reported.
 constexpr Milliseconds kLongestBelief = 500;
 
 }  // namespace

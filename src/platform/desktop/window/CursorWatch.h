@@ -7,17 +7,17 @@
 
 namespace orvanta {
 
-/// Where the cursor is, in pixels of all the screens together. Asking the server wakes two threads and is
-/// most of what a tick costs, and over a window of the program every move is told anyway.
+/// Where the cursor is, in pixels of all screens together. Asking the X server wakes two threads and is most
+/// of the cost of a tick, although every move over a window of the program is reported anyway.
 class CursorWatch {
  public:
-  /// A window of the program was told of the cursor.
+  /// A window of the program has reported the cursor.
   void Saw(Point place);
-  /// It is no longer over a window of the program, or the windows changed under it.
+  /// The cursor has left the windows of the program, or the windows have changed.
   void Lose();
-  /// The next `Place` asks anew: time has passed without a look at the input.
+  /// Lets the next `Place` ask the server, since time has passed without reading the input.
   void Doubt() { place_.reset(); }
-  /// The input was looked at.
+  /// The input has been read.
   void Look(Milliseconds now);
   Point Place(Milliseconds now);
 

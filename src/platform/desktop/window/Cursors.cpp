@@ -11,7 +11,8 @@ namespace orvanta {
 
 namespace {
 
-// White with a black outline, so that they are seen on any art. Themes' hands have other hot spots and sizes.
+// White with a black outline, so that they are visible on any art. The hands of cursor themes have other hot
+// spots and sizes.
 constexpr std::array kPointingHand{"",
                                    "",
                                    "",

@@ -6,9 +6,9 @@
 
 namespace orvanta {
 
-/// The pointer's picture. The hands are 32 by 32 pixels; the pointing one's hot spot is at (3, 4), that of
-/// the open and the closed one at (8, 7); all of that times `zoom`. Arrow and hourglass are the desktop's
-/// own, in the size that it gives them.
+/// The cursor for a pointer. The hands are 32 by 32 pixels large; the hot spot is at (3, 4) for the pointing
+/// hand and at (8, 7) for the open and the closed one; `zoom` multiplies all of these. Arrow and hourglass
+/// are those of the desktop, in its own size.
 QCursor CursorOf(Pointer pointer, int zoom);
 
 }  // namespace orvanta

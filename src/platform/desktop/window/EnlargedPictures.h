@@ -7,20 +7,20 @@
 
 namespace orvanta {
 
-/// The picture with its pixels repeated. A width or height that is not a multiple repeats some of them once
-/// more often than others.
+/// The picture with its pixels repeated. If a width or height is not a multiple, some pixels are repeated
+/// once more than others.
 QImage Enlarged(const QImage& picture, QSize size);
 
-/// Enlarged pictures, each made once. The ones that were not used for the longest time go when all of them
-/// together would take up more than 64 MB.
+/// A cache of enlarged pictures. When it would exceed 64 MB, those that have not been used for the longest
+/// time are dropped.
 class EnlargedPictures {
  public:
-  /// Null for one that is too large to be kept.
+  /// Null if the enlarged picture would be too large to keep.
   const QPixmap* At(const QPixmap& picture, QSize size);
 
  private:
   static constexpr qsizetype kMostBytes = 64 << 20;
-  using Key = std::pair<qint64, std::pair<int, int>>;  // of the pixels, and the size
+  using Key = std::pair<qint64, std::pair<int, int>>;  // the key of the pixels, and the size
 
   QCache<Key, QPixmap> kept_{kMostBytes};
 };

@@ -7,8 +7,9 @@
 
 namespace orvanta {
 
-/// One picture of a film. `image` keeps the decoder's own memory and pixels; its size is what it takes up on
-/// the screen, where pixels are square, so a painter draws the image scaled into a rectangle of that size.
+/// One picture of a film. `image` has the memory and the pixels of the decoder. The size of the picture is
+/// what it takes up on the screen, whose pixels are square, so a painter scales the image to a rectangle of
+/// that size.
 class FilmPicture : public Picture {
  public:
   FilmPicture(QImage pixels, Size shown) : image(std::move(pixels)), shown_(shown) {}

@@ -9,15 +9,15 @@
 
 namespace orvanta {
 
-/// The font that a text is painted with: the disc's own or an installed one of that name, else Liberation,
-/// whose letters are as wide as those of the fonts that discs ask for. Points are taken at 96 pixels to the
-/// inch.
+/// The font that a text is painted with: a font of the disc or an installed one with that name, otherwise a
+/// Liberation font, whose letters have the same widths as those of the fonts that discs ask for. 72 points
+/// are 96 pixels.
 QFont ScreenFont(const Font& font);
 
-/// The font files of the disc, known to this program alone.
+/// The font files of the disc, which only this program can use.
 class PrivateFonts {
  public:
-  /// A file that is no font changes nothing.
+  /// A file that is not a font changes nothing.
   void Add(const std::filesystem::path& file);
   void Remove(const std::filesystem::path& file);
 

@@ -60,7 +60,7 @@ void PainterCanvas::Text(const std::string& text, const Rect& area, const Font& 
   painter_.setFont(ScreenFont(font));
   painter_.setPen(ToQt(colour));
   const int side = alignment == Alignment::Right ? Qt::AlignRight : Qt::AlignLeft;
-  // Scaled, the painter breaks the lines by the letters' widths at their own size.
+  // With a scaled painter, lines break as they would at the original size.
   if (zoom_.Enlarges()) painter_.setWorldTransform(QTransform::fromScale(zoom_.ScaleX(), zoom_.ScaleY()));
   painter_.drawText(ToQt(area), side | Qt::AlignTop | Qt::TextWordWrap, QString::fromStdString(text));
   if (zoom_.Enlarges()) painter_.setWorldTransform({});

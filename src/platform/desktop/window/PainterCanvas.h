@@ -9,8 +9,8 @@
 
 namespace orvanta {
 
-/// Paints a form with Qt. Zoomed, art has its pixels repeated, films are smooth, and text is drawn large with
-/// the line breaks that it has at its own size.
+/// Paints a form with Qt. When it is enlarged, the pixels of art are repeated, films are smooth, and text is
+/// drawn large with the line breaks that it has at the original size.
 class PainterCanvas : public Canvas {
  public:
   PainterCanvas(QPainter& painter, const WindowZoom& zoom, EnlargedPictures& pictures)

@@ -18,10 +18,10 @@ PicturePtr LoadQtPicture(const std::filesystem::path& file) {
   std::error_code error;
   if (!std::filesystem::is_regular_file(file, error)) return nullptr;
   QImageReader reader(QString::fromStdString(file.string()));
-  // A disc's names say little about what is in a file.
+  // The file names on discs often do not match the content.
   reader.setDecideFormatFromContent(true);
   QPixmap pixels = QPixmap::fromImageReader(&reader);
-  pixels.setDevicePixelRatio(1);  // Qt takes a name like "main@2x.gif" for a picture of twice the resolution
+  pixels.setDevicePixelRatio(1);  // Qt considers "main@2x.gif" a picture of twice the resolution
   return pixels.isNull() ? nullptr : std::make_shared<QtPicture>(std::move(pixels));
 }
 

@@ -7,13 +7,14 @@
 
 namespace orvanta {
 
-/// A picture of a file, ready to be painted.
+/// A picture from a file, ready to be painted.
 class QtPicture : public Picture {
  public:
   explicit QtPicture(QPixmap pixels) : pixels_(std::move(pixels)) {}
   Size PixelSize() const override { return {pixels_.width(), pixels_.height()}; }
 
-  /// The picture at a size. The last one is kept: a stretched picture is painted at one size again and again.
+  /// The picture scaled to a size. The last one is kept, since a stretched picture is painted at the same
+  /// size again and again.
   const QPixmap& At(QSize size) const;
 
  private:
@@ -21,8 +22,8 @@ class QtPicture : public Picture {
   mutable QPixmap scaled_;
 };
 
-/// The picture in a file, of any format that Qt reads; null if there is none that can be read. What is no
-/// regular file is not opened: a FIFO would hold the program up.
+/// The picture in a file of any format that Qt reads; null if it cannot be read. Only regular files are
+/// opened: a FIFO would block the program.
 PicturePtr LoadQtPicture(const std::filesystem::path& file);
 
 }  // namespace orvanta

@@ -16,7 +16,7 @@ namespace orvanta {
 
 namespace {
 
-/// The desktop's style with every distance so many times as large.
+/// The desktop's style with all distances multiplied.
 class LargeStyle : public QProxyStyle {
  public:
   explicit LargeStyle(double times) : times_(times) {}
@@ -52,11 +52,11 @@ void MakeReadable(QWidget& window, int zoom) {
   window.setStyle(style.release());
   auto* box = qobject_cast<QMessageBox*>(&window);
   if (!box) return;
-  // The icon comes in a size of its own, whatever the style says.
+  // The icon has its own size, whatever the style says.
   if (const QPixmap icon = box->iconPixmap(); !icon.isNull())
     box->setIconPixmap(
         icon.scaled((QSizeF(icon.size()) * times).toSize(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
-  // Qt breaks the lines of a message at a width of 500 pixels, however large the letters are.
+  // Qt breaks the lines of a message at 500 pixels, however large the letters are.
   constexpr int kLine = 400;
   if (auto* text = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label")))
     text->setMinimumWidth(std::min(text->sizeHint().width(), static_cast<int>(kLine * times)));

@@ -15,13 +15,13 @@ int Floor(std::int64_t number, std::int64_t by) {
   return static_cast<int>(quotient * by > number ? quotient - 1 : quotient);
 }
 
-/// The first of the `shown` screen pixels that program pixel `number` of `program` covers. A window without
-/// an area scales nothing.
+/// The first of the `shown` screen pixels that show program pixel `number` of `program`. If the window has no
+/// area, nothing is scaled.
 int FirstOf(int number, int program, int shown) {
   return program > 0 && shown > 0 ? Floor(std::int64_t{number} * shown, program) : number;
 }
 
-/// The program pixel whose screen pixels hold `number`: the last one that begins there or before.
+/// The program pixel that is shown at screen pixel `number`: the last one that begins there or before.
 int Holding(int number, int program, int shown) {
   return program > 0 && shown > 0 ? Floor((std::int64_t{number} + 1) * program - 1, shown) : number;
 }
