@@ -48,7 +48,8 @@ TEST_F(Instances, ACrashLeavesTheWayFreeEvenWhileAStartedProgramRuns) {
   const std::string game = scratch.Script("game", "echo $$ > '" + told.string() + "'; exec sleep 60");
   InAnotherProcess([&] {
     const auto lock = InstanceLock::Acquire(place);
-    return StartProcess({game}, CurrentEnvironment()) + raise(SIGKILL);
+    return StartProcess({game}, CurrentEnvironment(), {.time = std::chrono::seconds(5)}).error +
+           raise(SIGKILL);
   });
   ASSERT_TRUE(Soon([&] { return ContentOf(told).ends_with('\n'); }));
   EXPECT_TRUE(InstanceLock::Acquire(place));
