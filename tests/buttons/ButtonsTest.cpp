@@ -131,8 +131,9 @@ TEST_F(Buttons, OpenAndClosePagesOverAListAndAnEntry) {
         {"press About", "about, none latched"},
         {"press Start", "about, none latched"},  // ignored, since the page covers the entry
         {"press About", "entry, none latched"}});
-  EXPECT_TRUE(user.host.started.empty() && user.Button(BarButton::Start).Visible &&
-              Main().picShot(0).Visible);
+  EXPECT_TRUE(user.host.started.empty());
+  EXPECT_TRUE(user.Button(BarButton::Start).Visible());
+  EXPECT_TRUE(Main().picShot(0).Visible());
   Tell({{"click imgUp, choose 1, press Help",
          "help, Stop latched, Stop pressed"},  // the player has never had a file
         {"press Help, press Start", "entry, Start latched, Start pressed"},

@@ -1,7 +1,5 @@
 // The background music, the cues and the exit voice.
 
-#include <set>
-
 #include "support/Story.h"
 
 namespace orvanta::test {
@@ -18,7 +16,10 @@ TEST_F(Loop, FadesAndGoesOnFromTheSamePlace) {
   while (user.Calls("loop.wav").empty()) user.Run(10);
   EXPECT_FALSE(user.shell.basCommon.MusicLoaded);
   Tell({{"run 60000", "heard"}});
-  After(900, [&] { EXPECT_TRUE(Main().AM2.Volume() == -9640 && !Main().Timer1.Enabled()); });
+  After(900, [&] {
+    EXPECT_EQ(Main().AM2.Volume(), -9640);
+    EXPECT_FALSE(Main().Timer1.Enabled());
+  });
   Expect(900, "silent");
   EXPECT_NEAR(Takes("leave"), 1000, 100) << "a second in which events are pumped";
   const double held = Main().AM2.CurrentPosition();
@@ -69,30 +70,25 @@ TEST_F(Loop, ComesBackAfterTheSoundServerOrTheFileIsLost) {
   EXPECT_NEAR(Takes("run 1000"), 1000, 20) << "lost music does not stall the ticks";
 }
 
-/// Leaves the program twice and returns the file of the farewell voice.
+/// Leaves the program and returns the file of the farewell voice.
 std::string Farewell(const TestDisc& disc) {
-  std::set<std::string> voices;
-  for (int run = 0; run < 2; ++run) {
-    TestShell user(disc);
-    user.Do("start");
-    const Milliseconds before = user.host.Now();
-    user.Do("click Exit");
-    EXPECT_EQ(user.host.Now() - before, 200 + 2001) << "whether a voice plays or not";
-    voices.insert(user.host.playerCalls.back().file);
-  }
-  EXPECT_EQ(voices.size(), 1U) << "a disc always makes the same choice";
-  return *voices.begin();
+  TestShell user(disc);
+  user.Do("start");
+  const Milliseconds before = user.host.Now();
+  user.Do("click Exit");
+  EXPECT_EQ(user.host.Now() - before, 200 + 2001) << "whether a voice plays or not";
+  return user.host.playerCalls.back().file;
 }
 
 TEST_F(Loop, OneOfTheExitVoicesIsHeardAndAlwaysTheSame) {
-  std::set<std::string> chosen;
-  for (const std::string n : {"2", "4", "3", "5", "6", "7", "8"}) {
+  EXPECT_EQ(Farewell(disc), "exit1.wav");
+  for (const std::string n : {"2", "3", "5"}) {
     disc.Sound("exit" + n, 1);
     disc.Set("VOICES", "Exit" + n, "exit" + n);
-    chosen.insert(Farewell(disc));
-    EXPECT_FALSE(n == "4" && chosen.contains("exit4"));
   }
-  EXPECT_GE(chosen.size(), 2U) << "the choice depends on their number";
+  const std::string chosen = Farewell(disc);
+  EXPECT_EQ(chosen, "exit3") << "of three, since the run ends at the gap";
+  EXPECT_EQ(Farewell(disc), chosen) << "a disc always makes the same choice";
 }
 
 }  // namespace

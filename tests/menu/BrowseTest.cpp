@@ -61,7 +61,8 @@ TEST_F(Browse, FollowsTheUserWhileTheMusicFadesForAnEntry) {
   Tell({{"start, choose 0, hover lblPos10, after 900 click imgBack, click lblPos10, run 100", "1 Gry: Film"},
         {"hover lblPos10, after 900 click imgUp, click lblPos10, run 100", "0: Gry Muzyka Filmy"}});
   EXPECT_EQ(Main().AM2.CurrentState(), ActiveMovie::kRunning);
-  EXPECT_FALSE(Hourglass() || user.Button(9).Visible());
+  EXPECT_FALSE(Hourglass());
+  EXPECT_FALSE(user.Button(BarButton::Film).Visible());
   Tell({{"choose 0, hover lblPos10, after 900 click Help, click lblPos10", "2 (help)"},
         {"click imgPomoc", "2 Film (entry)"}});
 }
@@ -93,7 +94,8 @@ TEST_F(Browse, SweepsTheCrosshairToTheCursorBeforeAClickActs) {
   EXPECT_EQ(BoxAt(95, 15), 8);
   std::vector<double> seen;
   user.host.OnSleep = [&] {
-    EXPECT_TRUE(Main().Line2(0).Visible() && Main().MenuLevel == 0);
+    EXPECT_TRUE(Main().Line2(0).Visible());
+    EXPECT_EQ(Main().MenuLevel, 0);
     EXPECT_EQ(Main().Line2(0).X1(), std::min(95.0, static_cast<double>(seen.size() * 10)));
     seen.push_back(Main().Line2(1).Y1());
   };

@@ -1,6 +1,7 @@
 // The detail view of an entry: its texts, its screenshots and the viewer.
 
 #include <algorithm>
+#include <sstream>
 
 #include "support/Story.h"
 
@@ -8,10 +9,10 @@ namespace orvanta::test {
 namespace {
 
 struct Detail : Story {
-  /// The tops of the knob and of the first screenshot.
   std::string Look() override {
-    const std::string text = std::to_string(Main().picShot(0).Top);
-    return std::to_string(static_cast<int>(Main().imgSSuwak.Top)) + " " + text.substr(0, text.find('.') + 2);
+    std::ostringstream text;
+    text << "knob " << Main().imgSSuwak.Top << ", first shot " << Main().picShot(0).Top;
+    return text.str();
   }
 };
 
@@ -27,7 +28,9 @@ TEST_F(Detail, ShowsItsTextsAndNothingOfThePreviousEntry) {
   user.Do("click imgUp, choose 2");
   EXPECT_EQ(Main().lblNote.Caption() + Main().lblSystem.Caption(), "");
   EXPECT_EQ(Shown(Main().picShot(0)), "") << "a picture that cannot be read";
-  EXPECT_FALSE(Hourglass() || Main().picTlo.Visible() || Main().S2.Visible());
+  EXPECT_FALSE(Hourglass());
+  EXPECT_FALSE(Main().picTlo.Visible());
+  EXPECT_FALSE(Main().S2.Visible());
 }
 
 TEST_F(Detail, AFourthShotBringsTheSliderWhoseVariablesThePagesShare) {
@@ -35,20 +38,20 @@ TEST_F(Detail, AFourthShotBringsTheSliderWhoseVariablesThePagesShare) {
   disc.Shots("Film", 4);
   disc.Shots("Druga", 3);
   disc.Set("Druga", "Shot5", "shot.gif");
-  Tell({{"start, choose 0", "20 6.0"},
-        {"drag imgSSuwak 5, drop", "25 3.5"},
-        {"drag imgSSuwak 400, drop", "200 -84.0"}});
+  Tell({{"start, choose 0", "knob 20, first shot 6"},
+        {"drag imgSSuwak 5, drop", "knob 25, first shot 3.5"},
+        {"drag imgSSuwak 400, drop", "knob 200, first shot -84"}});
   EXPECT_EQ(Main().imgSSuwak.Bounds(), (Rect{140, 200, 16, 20}));
   EXPECT_EQ(Main().picShot(3).Top + Main().picShot(3).Height, 253);
-  Tell({{"drag imgSSuwak -400, drop, click Help", "20 6.0"}});
+  Tell({{"drag imgSSuwak -400, drop, click Help", "knob 20, first shot 6"}});
   EXPECT_EQ(Main().slider.SuwakRange, 600 - 309) << "set for the tall page";
   // The next entry starts at the top but remembers the last position of the knob: a move to that very
   // position does not move the pictures.
-  Tell({{"click Help, drag imgSSuwak 40, drop", "60 -14.0"},
-        {"click imgUp, choose 2", "20 6.0"},
-        {"drag imgSSuwak 40, drop", "60 6.0"},
-        {"drag imgSSuwak 1, drop", "61 -14.5"},
-        {"click imgUp, choose 3, choose 0", "61 6.0"}});
+  Tell({{"click Help, drag imgSSuwak 40, drop", "knob 60, first shot -14"},
+        {"click imgUp, choose 2", "knob 20, first shot 6"},
+        {"drag imgSSuwak 40, drop", "knob 60, first shot 6"},
+        {"drag imgSSuwak 1, drop", "knob 61, first shot -14.5"},
+        {"click imgUp, choose 3, choose 0", "knob 61, first shot 6"}});
   EXPECT_EQ(Main().picShot.UBound(), 2) << "numbered keys end at the first gap";
   EXPECT_EQ(Main().picShot(2).Bounds(), (Rect{7, 6 + 2 * 85, 123, 82})) << "whatever the size of the file";
   EXPECT_FALSE(Main().imgSSuwak.Visible()) << "three fit into the frame";
@@ -74,7 +77,8 @@ TEST_F(Detail, TheViewerShowsThePictureThatIsThereAndTheTickGoesOn) {
         << "the tick goes on, since the viewer counts as active";
   });
   user.Do("click picShot0");
-  EXPECT_TRUE(!user.shell.frmShowPic.Loaded() && !user.shell.modMain.ShowPicOpen && !user.ended);
+  EXPECT_EQ(user.shell.frmShowPic.Loaded(), nullptr);
+  EXPECT_FALSE(user.shell.modMain.ShowPicOpen);
   EXPECT_EQ(user.host.active, &Main());
 }
 

@@ -22,7 +22,7 @@ struct Slider : Story {
       const bool inView = label.Top > upper && label.Top + 26 <= 309;
       EXPECT_EQ(label.ForeColor(), inView ? 0xFFFFFF : 0x558059) << label.Index;
     });
-    return std::to_string(std::lround(Main().imgSuwak.Top)) + " " +
+    return "knob " + std::to_string(std::lround(Main().imgSuwak.Top)) + ", first label " +
            std::to_string(std::lround(Main().lblPos1(0).Top));
   }
   Pointer PointerNow() { return user.host.WindowOf(Main()).pointer; }
@@ -34,21 +34,24 @@ struct Slider : Story {
 
 TEST_F(Slider, ScrollsTheListWithinItsLimitsAndStartsAgainAtTheTop) {
   user.Do("start, run 100, drag imgSuwak 0");
-  for (const auto& [by, seen] :
-       {std::pair{1, "41 14"}, {99, "140 -81"}, {700, "240 -176"}, {-1500, "40 15"}}) {
+  for (const auto& [by, seen] : {std::pair{1, "knob 41, first label 14"},
+                                 {99, "knob 140, first label -81"},
+                                 {700, "knob 240, first label -176"},
+                                 {-1500, "knob 40, first label 15"}}) {
     Move(by);
     EXPECT_EQ(Look(), seen);
     EXPECT_EQ(Main().lblPos1(17).Top(), std::floor(474 - 0.955 * (Main().imgSuwak.Top - 40)));
     EXPECT_EQ(PointerNow(), Pointer::ClosedHand);
   }
-  Tell({{"drop", "40 15"}, {"drag imgSuwak 10, drop, hover imgSuwak", "50 5"}});
+  Tell({{"drop", "knob 40, first label 15"},
+        {"drag imgSuwak 10, drop, hover imgSuwak", "knob 50, first label 5"}});
   EXPECT_FALSE(Main().slider.SuwakDrag) << "releasing the button outside the knob ends the drag";
   EXPECT_EQ(PointerNow(), Pointer::OpenHand);
   Main().lblPos1_Click(1);
   // The last list's position is remembered: a first move to that very position does not move the labels.
-  Tell({{"run 100", "40 62"}, {"drag imgSuwak 10", "50 62"}});
+  Tell({{"run 100", "knob 40, first label 62"}, {"drag imgSuwak 10", "knob 50, first label 62"}});
   Move(1);
-  EXPECT_EQ(Look(), "51 31");
+  EXPECT_EQ(Look(), "knob 51, first label 31");
 }
 
 TEST_F(Slider, ScrollsALongPageAndNothingThatFits) {
@@ -57,7 +60,7 @@ TEST_F(Slider, ScrollsALongPageAndNothingThatFits) {
   EXPECT_EQ(Main().imgPomoc.Top(), -(101.0F * (291.0F / 202.0F))) << "pages are not rounded to whole pixels";
   user.Do("click About");
   EXPECT_FALSE(Main().imgSuwak.Visible) << "this page is not taller than the area";
-  Tell({{"click imgSeven", "40 15"}});
+  Tell({{"click imgSeven", "knob 40, first label 15"}});
   EXPECT_TRUE(Main().imgSuwak.Visible);
   for (const int top : {13, 14}) {
     TestDisc other;

@@ -33,7 +33,8 @@ TEST(Monkey, LeavesTheProgramWhole) {
     }
   }
   // A monkey that gets nowhere would find nothing.
-  EXPECT_TRUE(figures.windows > 0 && figures.waits > 0);
+  EXPECT_GT(figures.windows, 0);
+  EXPECT_GT(figures.waits, 0);
 }
 
 /// A disc with an entry of each kind and a list that needs the slider.

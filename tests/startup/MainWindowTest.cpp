@@ -107,7 +107,8 @@ TEST_F(MainWindow, TakesLeaveInOrderAndLeavesASecondShellAlone) {
   EXPECT_EQ(user.host.playerCalls.at(calls + 1).file, "exit1.wav");
   EXPECT_EQ(user.host.fonts, (Names{"-", "-"}));
   second.Do("choose 3");
-  EXPECT_TRUE(!second.ended && second.Main().MenuLevel == 1);
+  EXPECT_FALSE(second.ended);
+  EXPECT_EQ(second.Main().MenuLevel, 1);
 }
 
 }  // namespace
