@@ -110,7 +110,7 @@ std::string StreamedProfileString(const ByteSource& read, std::string_view secti
   alignas(4096) std::array<char, 2 * kPiece> buffer;
   char* const piece = buffer.data() + kPiece;
   ProfileScanner scanner(section, key);
-  if (!scanner.canMatch()) return {};
+  if (!scanner.CanMatch()) return {};
   std::size_t kept = 0;
   for (;;) {
     const std::size_t got = read({piece, kPiece});

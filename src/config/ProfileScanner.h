@@ -17,7 +17,7 @@ class ProfileScanner {
   ProfileScanner(std::string_view section, std::string_view key);
 
   /// False if no line can match the names, for instance because the key contains an equals sign.
-  bool canMatch() const { return canMatch_; }
+  bool CanMatch() const { return canMatch_; }
 
   /// Continues with `lines`: whole lines that follow those of the previous call; only the last one may lack
   /// its line break. Returns true once further text cannot change the answer; then it must not be called

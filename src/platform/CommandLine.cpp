@@ -5,29 +5,29 @@
 namespace orvanta {
 namespace {
 
-constexpr std::string_view Separators = " \t";
+constexpr std::string_view kSeparators = " \t";
 
 class Splitter {
  public:
-  explicit Splitter(std::string_view text) : rest(text) {}
+  explicit Splitter(std::string_view text) : rest_(text) {}
 
-  bool skipSeparators() {
-    rest.remove_prefix(std::min(rest.find_first_not_of(Separators), rest.size()));
-    return !rest.empty();
+  bool SkipSeparators() {
+    rest_.remove_prefix(std::min(rest_.find_first_not_of(kSeparators), rest_.size()));
+    return !rest_.empty();
   }
 
-  std::string nextArgument() {
+  std::string NextArgument() {
     std::string argument;
     bool quoted = false;
-    while (!rest.empty() && (quoted || Separators.find(rest.front()) == std::string_view::npos)) {
-      if (takeBackslashes(argument)) continue;
-      if (rest.front() != '"') {
-        argument += take();
+    while (!rest_.empty() && (quoted || kSeparators.find(rest_.front()) == std::string_view::npos)) {
+      if (TakeBackslashes(argument)) continue;
+      if (rest_.front() != '"') {
+        argument += Take();
         continue;
       }
-      take();
-      if (quoted && rest.starts_with('"'))
-        argument += take();
+      Take();
+      if (quoted && rest_.starts_with('"'))
+        argument += Take();
       else
         quoted = !quoted;
     }
@@ -35,24 +35,24 @@ class Splitter {
   }
 
  private:
-  char take() {
-    const char taken = rest.front();
-    rest.remove_prefix(1);
+  char Take() {
+    const char taken = rest_.front();
+    rest_.remove_prefix(1);
     return taken;
   }
 
   /// Takes a run of backslashes, and the quote after it if they make it literal. False if there is no run.
-  bool takeBackslashes(std::string& argument) {
-    const std::size_t count = std::min(rest.find_first_not_of('\\'), rest.size());
+  bool TakeBackslashes(std::string& argument) {
+    const std::size_t count = std::min(rest_.find_first_not_of('\\'), rest_.size());
     if (count == 0) return false;
-    rest.remove_prefix(count);
-    const bool beforeQuote = rest.starts_with('"');
+    rest_.remove_prefix(count);
+    const bool beforeQuote = rest_.starts_with('"');
     argument.append(beforeQuote ? count / 2 : count, '\\');
-    if (beforeQuote && count % 2 == 1) argument += take();
+    if (beforeQuote && count % 2 == 1) argument += Take();
     return true;
   }
 
-  std::string_view rest;
+  std::string_view rest_;
 };
 
 }  // namespace
@@ -60,7 +60,7 @@ class Splitter {
 std::vector<std::string> SplitArguments(std::string_view parameters) {
   std::vector<std::string> arguments;
   Splitter splitter(parameters);
-  while (splitter.skipSeparators()) arguments.push_back(splitter.nextArgument());
+  while (splitter.SkipSeparators()) arguments.push_back(splitter.NextArgument());
   return arguments;
 }
 

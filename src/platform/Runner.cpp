@@ -12,11 +12,11 @@ namespace {
 namespace fs = std::filesystem;
 
 bool HasWine32(const fs::path& wine) {
-  constexpr std::array Places = {"lib/wine/i386-windows", "lib/i386-linux-gnu/wine/i386-windows",
-                                 "lib32/wine/i386-windows", "lib/i386-linux-gnu/wine", "lib32/wine"};
+  constexpr std::array kPlaces = {"lib/wine/i386-windows", "lib/i386-linux-gnu/wine/i386-windows",
+                                  "lib32/wine/i386-windows", "lib/i386-linux-gnu/wine", "lib32/wine"};
   std::error_code error;
   const fs::path root = fs::canonical(wine, error).parent_path().parent_path();
-  return std::any_of(Places.begin(), Places.end(),
+  return std::any_of(kPlaces.begin(), kPlaces.end(),
                      [&](const char* place) { return fs::is_directory(root / place, error); });
 }
 

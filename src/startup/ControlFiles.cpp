@@ -10,8 +10,8 @@
 namespace orvanta {
 namespace {
 
-constexpr std::array ControlNames = {"COMCT232.OCX", "COMCTL32.OCX"};
-constexpr std::int32_t LastFailure = 32;
+constexpr std::array kControlNames = {"COMCT232.OCX", "COMCTL32.OCX"};
+constexpr std::int32_t kLastFailure = 32;
 
 /// As everywhere in the program, text that is not a number counts as 0, and a number outside the range is
 /// clamped.
@@ -63,11 +63,11 @@ bool IsNewerOnDisc(ControlFilesHost& host, const ControlFolders& folders, const 
 
 void RegisterControl(ControlFilesHost& host, const ControlFolders& folders, const std::string& path) {
   const std::int32_t result = host.Start(folders.discSysDir + "REGOCX32.EXE", path);
-  if (result >= 0 && result <= LastFailure) host.Message("Blad");
+  if (result >= 0 && result <= kLastFailure) host.Message("Blad");
 }
 
 void CheckControls(ControlFilesHost& host, const ControlFolders& folders) {
-  for (const std::string name : ControlNames) {
+  for (const std::string name : kControlNames) {
     const std::string installed = folders.winSysDir + name;
     if (!FileExists(host, installed)) host.Copy(folders.discSysDir + name, installed);
     if (IsNewerOnDisc(host, folders, name)) host.Copy(folders.discSysDir + name, installed);

@@ -10,23 +10,23 @@ namespace orvanta {
 class Descriptor {
  public:
   Descriptor() = default;
-  explicit Descriptor(int owned) : number(owned) {}
-  Descriptor(Descriptor&& other) noexcept : number(std::exchange(other.number, -1)) {}
+  explicit Descriptor(int owned) : number_(owned) {}
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
   Descriptor& operator=(Descriptor&& other) noexcept {
-    std::swap(number, other.number);
+    std::swap(number_, other.number_);
     return *this;
   }
   ~Descriptor() { reset(); }
 
   void reset() {
-    if (number >= 0) ::close(number);
-    number = -1;
+    if (number_ >= 0) ::close(number_);
+    number_ = -1;
   }
-  int get() const { return number; }
-  explicit operator bool() const { return number >= 0; }
+  int get() const { return number_; }
+  explicit operator bool() const { return number_ >= 0; }
 
  private:
-  int number = -1;
+  int number_ = -1;
 };
 
 }  // namespace orvanta

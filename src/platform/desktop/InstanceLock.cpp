@@ -77,18 +77,18 @@ InstancePlace InstancePlaceFromEnvironment() {
 }
 
 std::string InstanceFileName(std::string_view display) {
-  constexpr std::string_view Digits = "0123456789abcdef";
+  constexpr std::string_view kDigits = "0123456789abcdef";
   // File names end at 255 bytes.
-  constexpr std::size_t LongestDisplay = 200;
+  constexpr std::size_t kLongestDisplay = 200;
   std::string escaped;
   for (const char c : WithoutScreen(display)) {
     const auto byte = static_cast<unsigned char>(c);
     if (IsAsciiAlphanumeric(c) || c == '-' || c == '_')
       escaped += c;
     else
-      escaped += {'%', Digits[byte >> 4], Digits[byte & 15]};
+      escaped += {'%', kDigits[byte >> 4], kDigits[byte & 15]};
   }
-  return "orvanta-" + escaped.substr(0, LongestDisplay) + ".lock";
+  return "orvanta-" + escaped.substr(0, kLongestDisplay) + ".lock";
 }
 
 std::optional<InstanceLock> InstanceLock::Acquire(const InstancePlace& place) {
@@ -107,7 +107,7 @@ std::optional<InstanceLock> InstanceLock::Acquire(const InstancePlace& place) {
 }
 
 InstanceLock::~InstanceLock() {
-  if (file) flock(file.get(), LOCK_UN);
+  if (file_) flock(file_.get(), LOCK_UN);
 }
 
 }  // namespace orvanta

@@ -38,9 +38,9 @@ class InstanceLock {
   ~InstanceLock();
 
  private:
-  explicit InstanceLock(Descriptor locked) : file(std::move(locked)) {}
+  explicit InstanceLock(Descriptor locked) : file_(std::move(locked)) {}
 
-  Descriptor file;
+  Descriptor file_;
 };
 
 /// The name of the lock file for a display. The screen of an X display (the `.0` of `:0.0`) does not count,
