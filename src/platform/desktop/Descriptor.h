@@ -6,7 +6,7 @@
 
 namespace orvanta {
 
-/// Owns a file descriptor; closed at the end. -1 is none.
+/// Owns a file descriptor and closes it in the end. -1 means none.
 class Descriptor {
  public:
   Descriptor() = default;

@@ -22,7 +22,7 @@ bool IsAsciiAlphanumeric(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
 }
 
-/// ":0.0" and ":0" are the same display; the number behind the point is one of its screens.
+/// ":0.0" and ":0" are the same display; the number after the dot is one of its screens.
 std::string_view WithoutScreen(std::string_view display) {
   const auto colon = display.rfind(':');
   const auto point = display.rfind('.');
@@ -31,8 +31,8 @@ std::string_view WithoutScreen(std::string_view display) {
   return screen ? display.substr(0, point) : display;
 }
 
-/// Opens a folder that belongs to the user and that nobody else may enter; none otherwise. A stranger's
-/// folder could hold a lock that keeps this user out for ever.
+/// Opens a folder that belongs to the user and that nobody else may enter; otherwise returns none. A lock in
+/// somebody else's folder could keep this user out for ever.
 Descriptor OpenOwnFolder(const std::string& path) {
   Descriptor folder(open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
   struct stat status {};
@@ -44,7 +44,7 @@ Descriptor OpenOwnFolder(const std::string& path) {
 Descriptor OpenTemporaryFolder(const std::string& parent) {
   if (parent.empty()) return Descriptor();
   const std::string path = parent + "/orvanta-" + std::to_string(geteuid());
-  // It may be there from an earlier run: whatever is there is checked by the opening.
+  // It may exist from an earlier run: opening it checks what is there.
   mkdir(path.c_str(), S_IRWXU);
   return OpenOwnFolder(path);
 }
@@ -54,7 +54,8 @@ Descriptor OpenLockFile(const Descriptor& folder, const std::string& name) {
   Descriptor file(
       openat(folder.get(), name.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR));
   if (!file) return Descriptor();
-  // Cleaners of runtime and temporary folders leave files with the sticky bit alone (XDG base directories).
+  // Programs that clean up runtime and temporary folders spare files with the sticky bit (XDG base
+  // directories).
   fchmod(file.get(), S_IRUSR | S_IWUSR | S_ISVTX);
   return file;
 }
@@ -78,7 +79,7 @@ InstancePlace InstancePlaceFromEnvironment() {
 
 std::string InstanceFileName(std::string_view display) {
   constexpr std::string_view kDigits = "0123456789abcdef";
-  // File names end at 255 bytes.
+  // A file name has at most 255 bytes.
   constexpr std::size_t kLongestDisplay = 200;
   std::string escaped;
   for (const char c : WithoutScreen(display)) {

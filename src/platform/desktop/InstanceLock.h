@@ -8,33 +8,33 @@
 
 namespace orvanta {
 
-/// Where the instances of one user on one display meet.
+/// Where the instances of one user on one display find each other.
 struct InstancePlace {
-  /// The user's folder of the session, `$XDG_RUNTIME_DIR`; may be empty.
+  /// The folder of the user's session, `$XDG_RUNTIME_DIR`; may be empty.
   std::string runtimeFolder;
-  /// Taken where the first cannot be used; a folder of the user's is made in it.
+  /// Used if the first folder cannot be; a folder of the user's own is created in it.
   std::string temporaryFolder;
-  /// The display's name as the environment gives it; any bytes.
+  /// The name of the display as the environment has it; it may contain any bytes.
   std::string display;
 };
 
-/// The place that the environment of this process names.
+/// The place that the environment of this process determines.
 InstancePlace InstancePlaceFromEnvironment();
 
-/// The mark of the one instance of this program that a user runs on a display.
+/// The lock that lets a user run only one instance of this program on a display.
 ///
-/// It is a lock of the kernel (flock(2)), so it goes with the process however that ends, and programs that
-/// the process starts do not inherit it.
+/// It is a lock of the kernel (flock(2)), so it ends with the process, however that ends. Programs that the
+/// process starts do not inherit it.
 class InstanceLock {
  public:
-  /// Never waits. Nothing if another instance holds the mark. Where no lock file can be made in either folder
-  /// (missing, not the user's alone, full, read-only), the mark is given without one: the program had better
-  /// start twice than never.
+  /// Never waits. Returns nothing if another instance has the lock. If no lock file can be made in either
+  /// folder (because it is missing, open to others, full or read-only), returns a lock without a file: to run
+  /// twice is better than not to run at all.
   static std::optional<InstanceLock> Acquire(const InstancePlace& place);
 
   InstanceLock(InstanceLock&&) noexcept = default;
   InstanceLock& operator=(InstanceLock&&) noexcept = default;
-  /// Lets go at once, even if a child between its fork and its exec still has the file.
+  /// Releases the lock at once, even if a child between its fork and its exec still has the file open.
   ~InstanceLock();
 
  private:
@@ -43,8 +43,8 @@ class InstanceLock {
   Descriptor file_;
 };
 
-/// The name of the lock file for a display. The screen of an X display (the `.0` of `:0.0`) does not count,
-/// and what is no letter, digit, `-` or `_` is escaped.
+/// The name of the lock file for a display. The screen of an X display (the `.0` of `:0.0`) is left out, and
+/// every character except letters, digits, `-` and `_` is escaped.
 std::string InstanceFileName(std::string_view display);
 
 }  // namespace orvanta
