@@ -37,7 +37,7 @@ std::string PicturePath(std::string_view value) {
   return std::string(Catalogue::kDiscRoot) + "Data\\" + std::string(value);
 }
 
-Findings CheckDisc(const DiscTree& disc, DiscProbe& probe) {
+Findings CheckDisc(const DiscTree& disc, DiscProbe& probe, bool deep) {
   Findings findings;
   const Catalogue catalogue(disc);
   if (catalogue.Empty()) {
@@ -46,8 +46,11 @@ Findings CheckDisc(const DiscTree& disc, DiscProbe& probe) {
   }
   const MenuTree tree = ReadMenuTree(catalogue);
   DiscFiles files(disc, probe);
-  CheckJob job{catalogue, tree, files, findings};
-  for (auto* part : {CheckLines, CheckSettings, CheckTree, CheckUnread, CheckFiles, CheckLayout}) part(job);
+  CheckJob job{disc, catalogue, tree, files, findings, deep};
+  if (!CheckEncoding(job)) return findings;
+  for (auto* part :
+       {CheckLines, CheckSettings, CheckTree, CheckUnread, CheckFiles, CheckFonts, CheckLinks, CheckLayout})
+    part(job);
   findings.Sort();
   return findings;
 }

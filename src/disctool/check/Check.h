@@ -8,6 +8,7 @@ class DiscProbe;
 class DiscTree;
 
 /// Everything that is wrong with a disc, sorted. Never fails: a folder without a disc is a finding too.
-Findings CheckDisc(const DiscTree& disc, DiscProbe& probe);
+/// `deep` decodes sounds and films whole.
+Findings CheckDisc(const DiscTree& disc, DiscProbe& probe, bool deep = false);
 
 }  // namespace orvanta

@@ -1,5 +1,6 @@
 // The files that keys name.
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -19,7 +20,20 @@ struct NamedFile {
   const DiscPlace& place;
   std::string naming;
   std::string path;
+  std::string value{};   ///< that names it; part of the path
+  std::string ending{};  ///< what the shell appends to the value
 };
+
+/// The value in the letters that the disc has; empty if the path to the file was not a plain one.
+std::string Respelled(const NamedFile& file, const FoundPath& found) {
+  const std::string real = found.path.native();
+  const std::size_t end = file.path.size() - std::min(file.ending.size(), file.path.size());
+  if (file.value.empty() || real.size() > file.path.size() || file.value.size() > end) return {};
+  std::string path = file.path.substr(0, file.path.size() - real.size());
+  for (const char c : real) path += c == '/' ? '\\' : c;
+  if (!EqualNoCase(path, file.path)) return {};
+  return path.substr(end - file.value.size(), file.value.size());
+}
 
 /// The file on the disc; empty, and reported, if it is not there. A program may be a folder, which is opened.
 std::string Locate(CheckJob& job, const NamedFile& file, bool folderToo = false) {
@@ -32,7 +46,8 @@ std::string Locate(CheckJob& job, const NamedFile& file, bool folderToo = false)
   if (found.otherCase)
     job.findings.Warning(file.place, "other-case",
                          Translated("%1 is found only by ignoring small and capital letters: %2 is called %3",
-                                    file.naming, file.path, found.path.filename().string()));
+                                    file.naming, file.path, found.path.filename().string()),
+                         Respelled(file, found));
   const DiscTree::Kind kind = job.files.KindOf(found.path.native());
   if (kind == DiscTree::Kind::Other || (kind == DiscTree::Kind::Folder && !folderToo)) {
     job.findings.Error(file.place, "special-file",
@@ -44,24 +59,38 @@ std::string Locate(CheckJob& job, const NamedFile& file, bool folderToo = false)
 
 void Picture(CheckJob& job, const NamedFile& file) {
   const std::string path = Locate(job, file);
-  if (!path.empty() && !job.files.PictureSize(path))
+  if (path.empty()) return;
+  const auto size = job.files.PictureSize(path);
+  if (!size)
     job.findings.Error(file.place, "no-picture",
                        Translated("%1 cannot be read as a picture: %2", file.naming, file.path));
+  if (size && std::int64_t{size->width} * size->height > job.files.MostPixels())
+    job.findings.Error(file.place, "picture-too-large",
+                       Translated("%1 is %2 by %3 pixels large, which is more than the shell shows",
+                                  file.naming, size->width, size->height));
 }
 
 void Font(CheckJob& job, const NamedFile& file) {
   const std::string path = Locate(job, file);
-  if (!path.empty() && !job.files.IsFont(path))
+  if (!path.empty() && job.files.FontNames(path).empty())
     job.findings.Error(file.place, "no-font",
                        Translated("%1 cannot be read as a font: %2", file.naming, file.path));
 }
 
 void Media(CheckJob& job, const NamedFile& file, bool film) {
   const std::string path = Locate(job, file);
-  if (!path.empty() && !job.files.CanPlay(path, film))
+  if (path.empty()) return;
+  if (!job.files.CanPlay(path, film)) {
     job.findings.Error(file.place, "not-playable",
                        film ? Translated("%1 cannot be played as a film: %2", file.naming, file.path)
                             : Translated("%1 cannot be played: %2", file.naming, file.path));
+    return;
+  }
+  const std::string problem = job.deep ? job.files.DecodingProblem(path) : std::string();
+  if (!problem.empty())
+    job.findings.Error(
+        file.place, "breaks-off",
+        Translated("%1 cannot be decoded to its end: %2: %3", file.naming, file.path, problem));
 }
 
 /// Reports a path that leads off the disc, or that depends on where the shell was started.
@@ -89,7 +118,7 @@ bool LiesOnDisc(CheckJob& job, const NamedFile& file) {
 /// A sound with a drive is taken as it is, any other lies in its folder.
 void Sound(CheckJob& job, const std::string& naming, const Setting& found) {
   const bool hasDrive = found.value.size() >= 2 && found.value[1] == ':';
-  NamedFile file{found.place, naming, found.value};
+  NamedFile file{found.place, naming, found.value, found.value};
   if (!hasDrive) file.path = PicturePath("Sound\\" + found.value);
   if (LiesOnDisc(job, file)) Media(job, file, false);
 }
@@ -107,7 +136,7 @@ void ButtonArt(CheckJob& job, const SchemaKey& key, const std::string& naming, c
   constexpr const char* kEndings[] = {"0.gif", "1.gif", "2.gif"};
   bool differ = false;
   for (const char* ending : kEndings) {
-    Picture(job, {found.place, naming, PicturePath(found.value + ending)});
+    Picture(job, {found.place, naming, PicturePath(found.value + ending), found.value, ending});
     const auto first = job.PictureOf(key.section, key.name, kEndings[0]);
     const auto size = job.PictureOf(key.section, key.name, ending);
     differ = differ || (first && size && *first != *size);
@@ -121,11 +150,11 @@ void Fixed(CheckJob& job, const SchemaKey& key, const std::string& name, const S
   const std::string naming = Naming(key.section, name);
   switch (key.kind) {
     case Kind::Picture:
-      Picture(job, {found.place, naming, PicturePath(found.value)});
+      Picture(job, {found.place, naming, PicturePath(found.value), found.value});
       if (name == "MainGfx") MainSize(job, naming, found);
       return;
     case Kind::Base: return ButtonArt(job, key, naming, found);
-    case Kind::Font: return Font(job, {found.place, naming, PicturePath(found.value)});
+    case Kind::Font: return Font(job, {found.place, naming, PicturePath(found.value), found.value});
     case Kind::Sound: return Sound(job, naming, found);
     default: return;
   }
@@ -136,7 +165,7 @@ void Target(CheckJob& job, const MenuNode& node) {
   const char* key = program ? "Execute" : "Parameters";
   const Setting found = job.catalogue.Find(node.name, key);
   if (!found || (program && IsAddress(found.value))) return;
-  NamedFile file{found.place, Naming(node.name, key), found.value};
+  NamedFile file{found.place, Naming(node.name, key), found.value, found.value};
   if (!LiesOnDisc(job, file)) return;
   file.path = OnDrive(found.value);
   if (!program) return Media(job, file, node.kind == NodeKind::Film);
@@ -147,7 +176,7 @@ void Entry(CheckJob& job, const MenuNode& node) {
   for (int number = 1; number <= node.shots; ++number) {
     const std::string key = NumberedKey("Shot", number);
     const Setting found = job.catalogue.Find(node.name, key);
-    Picture(job, {found.place, Naming(node.name, key), PicturePath(found.value)});
+    Picture(job, {found.place, Naming(node.name, key), PicturePath(found.value), found.value});
   }
   Target(job, node);
 }

@@ -14,10 +14,12 @@ namespace orvanta {
 
 /// What the parts of the check look at and where they report.
 struct CheckJob {
+  const DiscTree& disc;
   const Catalogue& catalogue;
   const MenuTree& tree;
   DiscFiles& files;
   Findings& findings;
+  bool deep = false;  ///< decode sounds and films whole
 
   Setting Find(const SchemaKey& key) const { return catalogue.Find(key.section, key.name); }
   /// A text that is no number is 0 to the shell.
@@ -33,6 +35,9 @@ std::string Naming(std::string_view section, std::string_view key);
 /// The Windows path of a picture or font that a key names.
 std::string PicturePath(std::string_view value);
 
+/// Whether the files can be read at all. Those in UTF-16 or with a byte order mark are reported, once each:
+/// all else would be a consequence.
+bool CheckEncoding(CheckJob& job);
 /// Lines that the lookup passes over, values that it cuts, names that stand twice.
 void CheckLines(CheckJob& job);
 /// The fixed sections: what is missing, and what is no value of its kind.
@@ -43,6 +48,9 @@ void CheckTree(CheckJob& job);
 void CheckUnread(CheckJob& job);
 /// The files that keys name: there, spelled as they are called, of use.
 void CheckFiles(CheckJob& job);
+/// Names of fonts that are not in the disc's files, and links that lead off the disc.
+void CheckFonts(CheckJob& job);
+void CheckLinks(CheckJob& job);
 /// Buttons, zones and sliders that the user cannot reach or move.
 void CheckLayout(CheckJob& job);
 

@@ -1,5 +1,6 @@
 // What stands in the files otherwise than the lookup takes it.
 
+#include <algorithm>
 #include <string>
 #include <unordered_map>
 
@@ -22,9 +23,14 @@ struct RemarkText {
 constexpr auto kError = Finding::Severity::Error;
 constexpr auto kWarning = Finding::Severity::Warning;
 constexpr RemarkText kTexts[] = {
+    {Kind::Utf16, kError, "utf-16",
+     Translatable("the file is written in UTF-16, of which the shell can read nothing; save it as "
+                  "Windows-1250. Nothing else was checked")},
     {Kind::ByteOrderMark, kError, "byte-order-mark",
-     Translatable(
-         "the file begins with a byte order mark, which hides its first section; save it as Windows-1250")},
+     Translatable("the file begins with a byte order mark, which hides its first section; save it as "
+                  "Windows-1250. Nothing else was checked")},
+    {Kind::MixedLineEnds, kWarning, "mixed-line-ends",
+     Translatable("the lines from here on do not all end like those before; give all of them CR LF")},
     {Kind::NoBracket, kWarning, "no-bracket", Translatable("the section's name has no closing bracket")},
     {Kind::NoEquals, kWarning, "no-equals", Translatable("a line without an equals sign is passed over")},
     {Kind::NoKey, kWarning, "no-key", Translatable("there is no key before the equals sign")},
@@ -36,6 +42,10 @@ constexpr RemarkText kTexts[] = {
     {Kind::OutsideCodePage, kWarning, "outside-code-page",
      Translatable("a byte here stands for no character of Windows-1250")},
 };
+
+bool HidesTheFile(const IniRemark& remark) {
+  return remark.kind == Kind::Utf16 || remark.kind == Kind::ByteOrderMark;
+}
 
 /// One finding for each kind: a file in a wrong encoding is one fault, not one in every line.
 void Remarks(CheckJob& job, const Catalogue::File& file) {
@@ -80,6 +90,18 @@ void Section(CheckJob& job, const Catalogue::File& file, const IniSection& secti
 }
 
 }  // namespace
+
+bool CheckEncoding(CheckJob& job) {
+  bool readable = true;
+  for (const Catalogue::File& file : job.catalogue.Files()) {
+    const auto hidden = std::ranges::find_if(file.ini.remarks, HidesTheFile);
+    if (hidden == file.ini.remarks.end()) continue;
+    const auto text = std::ranges::find(kTexts, hidden->kind, &RemarkText::kind);
+    job.findings.Error({file.path, 0}, text->id, Translated(text->text));
+    readable = false;
+  }
+  return readable;
+}
 
 void CheckLines(CheckJob& job) {
   for (const Catalogue::File& file : job.catalogue.Files()) {

@@ -18,16 +18,17 @@ struct Finding {
   Severity severity = Severity::Error;
   std::string_view id;  ///< of the table: "missing-key"
   std::string text;     ///< in the user's language
+  std::string mended;   ///< the value that the setting at this place should have; empty if that is not known
 };
 
 /// What is wrong with a disc.
 class Findings {
  public:
   void Error(const DiscPlace& place, FindingId id, std::string text) {
-    list_.push_back({place, Finding::Severity::Error, id.text, std::move(text)});
+    list_.push_back({place, Finding::Severity::Error, id.text, std::move(text), {}});
   }
-  void Warning(const DiscPlace& place, FindingId id, std::string text) {
-    list_.push_back({place, Finding::Severity::Warning, id.text, std::move(text)});
+  void Warning(const DiscPlace& place, FindingId id, std::string text, std::string mended = {}) {
+    list_.push_back({place, Finding::Severity::Warning, id.text, std::move(text), std::move(mended)});
   }
 
   /// By file and line; those of one line in the order of their finding.

@@ -20,21 +20,38 @@ constexpr OptionInfo kOpenOptions[] = {
      Translatable("Remove the unpacked copies of images first. Without DISC, do nothing else.")}};
 constexpr ExampleInfo kOpenExamples[] = {{"orvanta-disc open disc.iso", Translatable("Opens an image.")}};
 
-constexpr OptionInfo kInfoOptions[] = {kJson, kFrom};
+constexpr OptionInfo kInfoOptions[] = {
+    kJson,
+    kFrom,
+    {"hashes", "",
+     Translatable(
+         "Write the SHA-256 of each image and file, as sha256sum -c and BagIt read it; with --json add "
+         "them to the rest.")}};
 constexpr ExampleInfo kInfoExamples[] = {
     {"orvanta-disc info disc.iso", Translatable("Shows a disc at a glance.")},
     {"find discs -name '*.iso' -print0 | orvanta-disc info --json --from -",
-     Translatable("Writes a line of JSON for each image in a folder.")}};
+     Translatable("Writes a line of JSON for each image in a folder.")},
+    {"orvanta-disc info --hashes data > manifest-sha256.txt",
+     Translatable("Writes the manifest of a BagIt bag that holds a disc.")}};
 
 constexpr OptionInfo kCheckOptions[] = {
     kJson,
     kFrom,
+    {"sarif", "", Translatable("Write a SARIF log, for editors and continuous integration.")},
+    {"deep", "", Translatable("Decode sounds and films whole, to find those that break off. Takes longer.")},
+    {"fix", "",
+     Translatable(
+         "Mend what has one right answer in the configuration files of a folder: encoding, ends of "
+         "lines, keys that never count, capitals in the names of files. The old files stay beside the "
+         "new ones. Shows what has changed instead of the findings.")},
+    {"dry-run", "", Translatable("Show what --fix would change, and change nothing.")},
     {"strict", "", Translatable("Count warnings as errors in the exit status.")},
     {"explain", "ID", Translatable("Explain a kind of finding by its id, as --json writes it.")}};
 constexpr ExampleInfo kCheckExamples[] = {
     {"orvanta-disc check my-disc", Translatable("Lists what is wrong with a disc.")},
     {"orvanta-disc check --strict my-disc && make-image my-disc",
-     Translatable("Goes on only with a disc without a finding.")}};
+     Translatable("Goes on only with a disc without a finding.")},
+    {"orvanta-disc check --dry-run my-disc", Translatable("Shows what --fix would mend.")}};
 
 constexpr OptionInfo kTreeOptions[] = {kJson, kFrom};
 constexpr ExampleInfo kTreeExamples[] = {{"orvanta-disc tree disc.iso", Translatable("Lists the menus.")}};

@@ -5,13 +5,15 @@
 #include "disctool/JsonObject.h"
 #include "disctool/OutputText.h"
 #include "disctool/check/Check.h"
+#include "disctool/command/Sarif.h"
 #include "disctool/disc/MenuTree.h"
 
 namespace orvanta {
 
 DiscReport CheckReport(const DiscTree& disc, DiscProbe& probe, const CheckOptions& options) {
-  const Findings findings = CheckDisc(disc, probe);
+  const Findings findings = CheckDisc(disc, probe, options.deep);
   const std::size_t faults = options.strict ? findings.List().size() : findings.Errors();
+  if (options.sarif) return {SarifResults(findings), {}, faults > 0};
   if (!options.json) return {FindingsText(findings), {}, faults > 0};
   JsonObject json = JsonLine(disc.Name().native());
   json.Number("errors", findings.Errors()).Number("warnings", findings.Warnings());

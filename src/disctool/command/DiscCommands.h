@@ -15,7 +15,8 @@ enum ExitStatus : int {
   kGood = 0,
   kFaults = 1,  ///< something is wrong with a disc, or nothing was found
   kMisuse = 2,
-  kUnread = 4  ///< a disc could not be read
+  kUnread = 4,        ///< a disc could not be read
+  kInterrupted = 130  ///< as a shell gives it for a program that was interrupted
 };
 
 /// What a command has to say of one disc.
@@ -28,6 +29,8 @@ struct DiscReport {
 struct CheckOptions {
   bool json = false;
   bool strict = false;  ///< warnings count as faults
+  bool deep = false;    ///< decode sounds and films whole
+  bool sarif = false;   ///< write lines for `SarifLog`
 };
 
 /// Everything that is wrong with a disc. Faults if there is an error.

@@ -8,6 +8,7 @@
 #include "disctool/OutputText.h"
 #include "disctool/Translation.h"
 #include "disctool/check/Check.h"
+#include "disctool/disc/DiscHashes.h"
 #include "disctool/disc/DiscWalk.h"
 
 namespace orvanta {
@@ -129,24 +130,33 @@ std::string InfoText(const DiscInfo& info) {
                                                 TranslatedCount("%1 warning", "%1 warnings", info.warnings));
 }
 
-std::string InfoJson(const DiscInfo& info) {
-  JsonObject entries, json = JsonLine(info.name);
+void AddInfo(JsonObject& line, const DiscInfo& info) {
+  JsonObject entries;
   for (std::size_t kind = 0; kind < info.nodes.size(); ++kind)
     entries.Number(NameOf(static_cast<NodeKind>(kind)), info.nodes[kind]);
   std::vector<std::string> programs;
   for (const DiscInfo::Program& program : info.programs) programs.push_back(ProgramJson(program));
-  json.Text("title", info.title).Text("label", info.label);
-  json.Text("oldest", DateOf(info.oldest)).Text("newest", DateOf(info.newest));
-  json.Number("bytes", info.bytes).Number("files", info.files).Value("entries", entries.Done());
-  json.Value("programs", JsonArray(programs));
-  return json.Number("errors", info.errors).Number("warnings", info.warnings).Done() + "\n";
+  line.Text("title", info.title).Text("label", info.label);
+  line.Text("oldest", DateOf(info.oldest)).Text("newest", DateOf(info.newest));
+  line.Number("bytes", info.bytes).Number("files", info.files).Value("entries", entries.Done());
+  line.Value("programs", JsonArray(programs));
+  line.Number("errors", info.errors).Number("warnings", info.warnings);
 }
 
-DiscReport InfoReport(const DiscTree& disc, DiscProbe& probe, bool json, std::string_view searchPath) {
+DiscReport InfoReport(const DiscTree& disc, DiscProbe& probe, const InfoOptions& options) {
+  DiscHashes hashes;
+  if (options.hashes) hashes = HashesOf(disc);
+  std::string problem =
+      hashes.problem.empty() ? "" : hashes.problem + ": " + Translated("the file cannot be read");
+  if (options.hashes && !options.json) return {ManifestText(disc, hashes), std::move(problem)};
   const Catalogue catalogue(disc);
   if (catalogue.Empty()) return {{}, NoDiscIn(disc.Name())};
-  const DiscInfo info = ReadDiscInfo(disc, catalogue, CheckDisc(disc, probe), searchPath);
-  return {json ? InfoJson(info) : InfoText(info)};
+  const DiscInfo info = ReadDiscInfo(disc, catalogue, CheckDisc(disc, probe), options.searchPath);
+  if (!options.json) return {InfoText(info)};
+  JsonObject line = JsonLine(info.name);
+  AddInfo(line, info);
+  if (options.hashes) line.Value("hashes", HashesJson(hashes));
+  return {line.Done() + "\n", std::move(problem)};
 }
 
 }  // namespace orvanta

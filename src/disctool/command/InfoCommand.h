@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "disctool/JsonObject.h"
 #include "disctool/check/Findings.h"
 #include "disctool/command/ManyDiscs.h"
 #include "disctool/disc/EntryTarget.h"
@@ -38,10 +39,16 @@ DiscInfo ReadDiscInfo(const DiscTree& disc, const Catalogue& catalogue, const Fi
 
 /// A heading with the disc's name and a line for each fact.
 std::string InfoText(const DiscInfo& info);
-/// A line of JSON.
-std::string InfoJson(const DiscInfo& info);
+/// Its fields, added to a line of JSON.
+void AddInfo(JsonObject& line, const DiscInfo& info);
+
+struct InfoOptions {
+  bool json = false;
+  bool hashes = false;       ///< a manifest of checksums instead; with `json` beside the rest
+  std::string searchPath{};  ///< as in `$PATH`
+};
 
 /// What `info` says of a disc.
-DiscReport InfoReport(const DiscTree& disc, DiscProbe& probe, bool json, std::string_view searchPath);
+DiscReport InfoReport(const DiscTree& disc, DiscProbe& probe, const InfoOptions& options);
 
 }  // namespace orvanta

@@ -18,7 +18,10 @@ struct ManyDiscs {
   unsigned workers = 1;            ///< how many discs are looked at together; all cores if 0
   std::ostream& out;
   std::ostream& err;
-  Progress progress = [](std::uintmax_t, std::uintmax_t) {};  ///< counts discs; called on this thread
+  ProgressBar* bar = nullptr;  ///< shows how many discs are done
+  /// Asked several times a second: whether the user wants to end. What is done is written, and the discs that
+  /// are being read get two seconds before the program ends.
+  std::function<bool()> stop = [] { return false; };
 };
 
 /// Calls `ask` for every disc, on threads of its own, and writes what it says in the order of the discs. A

@@ -24,8 +24,13 @@ std::optional<Size> DiscFiles::PictureSize(const std::string& path) {
   return Once(pictures_, path, [&](const std::filesystem::path& file) { return probe_.PictureSize(file); });
 }
 
-bool DiscFiles::IsFont(const std::string& path) {
-  return Once(fonts_, path, [&](const std::filesystem::path& file) { return probe_.IsFont(file); });
+std::vector<std::string> DiscFiles::FontNames(const std::string& path) {
+  return Once(fonts_, path, [&](const std::filesystem::path& file) { return probe_.FontNames(file); });
+}
+
+std::string DiscFiles::DecodingProblem(const std::string& path) {
+  return Once(decoded_, path,
+              [&](const std::filesystem::path& file) { return probe_.DecodingProblem(file); });
 }
 
 bool DiscFiles::CanPlay(const std::string& path, bool film) {

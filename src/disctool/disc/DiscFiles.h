@@ -21,8 +21,10 @@ class DiscFiles {
   DiscTree::Kind KindOf(const std::string& path) const { return disc_.EntryAt(path).kind; }
   /// As those of the probe, for paths of the disc; what is not a file is none of anything.
   std::optional<Size> PictureSize(const std::string& path);
-  bool IsFont(const std::string& path);
+  std::int64_t MostPixels() const { return probe_.MostPixels(); }
+  std::vector<std::string> FontNames(const std::string& path);
   bool CanPlay(const std::string& path, bool film);
+  std::string DecodingProblem(const std::string& path);
 
  private:
   template <class Value, class Try>
@@ -32,7 +34,9 @@ class DiscFiles {
   DiscProbe& probe_;
   std::unordered_map<std::string, FoundPath> found_;
   std::unordered_map<std::string, std::optional<Size>> pictures_;
-  std::unordered_map<std::string, bool> fonts_, sounds_, films_;
+  std::unordered_map<std::string, std::vector<std::string>> fonts_;
+  std::unordered_map<std::string, bool> sounds_, films_;
+  std::unordered_map<std::string, std::string> decoded_;
 };
 
 }  // namespace orvanta

@@ -46,6 +46,13 @@ bool FolderTree::IsLink(const std::string& path) const {
   return fs::is_symlink(Place(path), error);
 }
 
+bool FolderTree::LeadsOff(const std::string& path) const {
+  std::error_code error;
+  const fs::path root = fs::weakly_canonical(Name(), error),
+                 target = fs::weakly_canonical(Place(path), error);
+  return *target.lexically_relative(root).begin() == "..";
+}
+
 std::vector<std::string> FolderTree::List(const std::string& folder) const {
   std::vector<std::string> names;
   std::error_code error;

@@ -44,6 +44,8 @@ class DiscTree : public PathLookup {
   virtual Entry EntryAt(const std::string& path) const = 0;
   /// Whether the entry is a link to another place.
   virtual bool IsLink(const std::string&) const { return false; }
+  /// Whether a link leads out of the disc, so that a copy of it would lead nowhere.
+  virtual bool LeadsOff(const std::string&) const { return false; }
   /// The label of an image's volume; empty without one.
   virtual std::string Label() const { return {}; }
   /// The names in a folder, in any order; none if it cannot be read.
@@ -79,6 +81,7 @@ class FolderTree : public DiscTree {
 
   Entry EntryAt(const std::string& path) const override;
   bool IsLink(const std::string& path) const override;
+  bool LeadsOff(const std::string& path) const override;
   std::vector<std::string> List(const std::string& folder) const override;
   std::optional<std::string> Read(const std::string& path, std::uintmax_t from = 0,
                                   std::uintmax_t most = kAll) const override;

@@ -16,4 +16,10 @@ struct DiscFile {
 /// lead in circles. So are folders more than 64 levels deep, far beyond what any disc has.
 std::vector<DiscFile> FilesOf(const DiscTree& disc);
 
+/// The links among a disc's entries that lead out of it, sorted.
+std::vector<std::string> LinksOff(const DiscTree& disc);
+
+/// The pipes, devices and the like among a disc's entries, sorted.
+std::vector<std::string> SpecialsOf(const DiscTree& disc);
+
 }  // namespace orvanta

@@ -6,31 +6,15 @@
 #include "config/IniText.h"
 #include "config/ProfileString.h"
 #include "config/Windows1250.h"
+#include "disctool/disc/TextEncoding.h"
 
 namespace orvanta {
 namespace {
 
 using Kind = IniRemark::Kind;
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 /// The bytes for which Windows-1250 has no character.
 constexpr std::string_view kUndefined = "\x81\x83\x88\x90\x98";
-
-/// Letters beyond ASCII, all of them in sequences that only UTF-8 makes.
-bool LooksLikeUtf8(std::string_view line) {
-  bool any = false;
-  for (std::size_t i = 0; i < line.size(); ++i) {
-    const auto lead = static_cast<unsigned char>(line[i]);
-    if (lead < 0x80) continue;
-    const std::size_t more = lead >= 0xC2 && lead < 0xE0 ? 1 : (lead & 0xF0) == 0xE0 ? 2 : 0;
-    if (more == 0 || i + more >= line.size()) return false;
-    for (std::size_t k = 1; k <= more; ++k)
-      if ((static_cast<unsigned char>(line[i + k]) & 0xC0) != 0x80) return false;
-    i += more;
-    any = true;
-  }
-  return any;
-}
 
 class Reader {
  public:
@@ -49,6 +33,13 @@ class Reader {
     if (text.empty() || text.front() == ';') return;
     if (text.front() == '[') return Header(text.substr(1));
     Entry(text);
+  }
+
+  /// What ended the line that was taken last.
+  void End(std::string_view end) {
+    if (end_.empty()) end_ = end;
+    if (end != end_ && !mixed_) Remark(Kind::MixedLineEnds);
+    mixed_ = mixed_ || end != end_;
   }
 
  private:
@@ -76,6 +67,8 @@ class Reader {
 
   IniFile& file_;
   int number_ = 0;
+  std::string_view end_;
+  bool mixed_ = false;
 };
 
 }  // namespace
@@ -93,11 +86,14 @@ const IniSection* IniFile::Find(std::string_view name) const {
 IniFile ParseIniFile(std::string_view text) {
   IniFile file;
   Reader reader(file);
+  if (LooksLikeUtf16(text)) file.remarks.push_back({1, Kind::Utf16});
   while (!text.empty()) {
     const auto length = std::min(text.find_first_of("\r\n"), text.size());
     reader.Take(text.substr(0, length));
     const bool pair = text.substr(length).starts_with("\r\n");
-    text.remove_prefix(std::min(length + (pair ? 2 : 1), text.size()));
+    const std::string_view end = text.substr(length, pair ? 2 : 1);
+    if (!end.empty()) reader.End(end);
+    text.remove_prefix(length + end.size());
   }
   return file;
 }

@@ -29,7 +29,9 @@ struct IniSection {
 /// Something in the file that the lookup passes over or reads otherwise than it looks.
 struct IniRemark {
   enum class Kind {
+    Utf16,
     ByteOrderMark,
+    MixedLineEnds,
     NoBracket,
     NoEquals,
     NoKey,

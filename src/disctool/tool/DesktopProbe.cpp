@@ -46,15 +46,27 @@ std::optional<Size> DesktopProbe::PictureSize(const std::filesystem::path& file)
   reader.setDecideFormatFromContent(true);
   // Nearly all art is GIF, and decoding thousands of pictures would take minutes on an old machine.
   if (reader.format() == "gif") return WholeGifSize(BytesOf(file));
+  const QSize size = reader.size();
+  // Qt refuses to decode what is larger, and says no more than that it failed.
+  if (qint64{size.width()} * size.height() > MostPixels()) return Size{size.width(), size.height()};
   const QImage picture = reader.read();
   if (picture.isNull()) return std::nullopt;
   return Size{picture.width(), picture.height()};
 }
 
-bool DesktopProbe::IsFont(const std::filesystem::path& file) {
+std::int64_t DesktopProbe::MostPixels() const {
+  constexpr std::int64_t kMegabyte = 1024 * 1024, kBytesOfAPixel = 4;
+  return QImageReader::allocationLimit() * kMegabyte / kBytesOfAPixel;
+}
+
+std::vector<std::string> DesktopProbe::FontNames(const std::filesystem::path& file) {
+  std::vector<std::string> names;
   const int id = QFontDatabase::addApplicationFont(QString::fromStdString(file.string()));
-  if (id >= 0) QFontDatabase::removeApplicationFont(id);
-  return id >= 0;
+  if (id < 0) return names;
+  for (const QString& family : QFontDatabase::applicationFontFamilies(id))
+    names.push_back(family.toStdString());
+  QFontDatabase::removeApplicationFont(id);
+  return names;
 }
 
 bool DesktopProbe::CanPlay(const std::filesystem::path& file, bool film) {

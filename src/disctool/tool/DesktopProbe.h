@@ -9,9 +9,12 @@ namespace orvanta {
 class DesktopProbe : public DiscProbe {
  public:
   std::optional<Size> PictureSize(const std::filesystem::path& file) override;
-  bool IsFont(const std::filesystem::path& file) override;
+  std::int64_t MostPixels() const override;
+  std::vector<std::string> FontNames(const std::filesystem::path& file) override;
   /// Plays nothing. A file that keeps GStreamer busy for five seconds cannot be played.
   bool CanPlay(const std::filesystem::path& file, bool film) override;
+  /// A file that stands still for ten seconds is given up.
+  std::string DecodingProblem(const std::filesystem::path& file) override;
   std::optional<std::uintmax_t> DifferentPixels(const std::filesystem::path& a,
                                                 const std::filesystem::path& b) override;
 };

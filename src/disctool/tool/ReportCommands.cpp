@@ -1,6 +1,7 @@
 #include "disctool/tool/ReportCommands.h"
 
 #include <gst/gst.h>
+#include <unistd.h>
 
 #include <QGuiApplication>
 #include <atomic>
@@ -9,12 +10,17 @@
 #include <cstring>
 #include <fstream>
 #include <iterator>
+#include <optional>
+#include <sstream>
 
 #include "disctool/Translation.h"
 #include "disctool/command/DiffCommand.h"
 #include "disctool/command/FindCommand.h"
+#include "disctool/command/FixCommand.h"
 #include "disctool/command/InfoCommand.h"
 #include "disctool/command/ManyDiscs.h"
+#include "disctool/command/Sarif.h"
+#include "disctool/image/HeldSignals.h"
 #include "disctool/image/OpenTree.h"
 #include "disctool/tool/CommandSupport.h"
 #include "disctool/tool/DesktopProbe.h"
@@ -40,16 +46,20 @@ std::string AddListed(const Request& request, std::vector<std::string>& discs) {
 
 /// Lets `ask` report on every disc that the user named from the argument `first` on.
 template <class Ask>
-int Report(const Request& request, std::size_t first, const Ask& ask) {
+int Report(const Request& request, std::size_t first, const Ask& ask, std::ostream& out = std::cout) {
   std::vector<std::string> discs(request.words.begin() + static_cast<std::ptrdiff_t>(first),
                                  request.words.end());
   if (const std::string problem = AddListed(request, discs); !problem.empty()) return Outcome(problem);
   const bool many = discs.size() > 1;
-  ManyDiscs run{.discs = std::move(discs),
-                .json = request.Has("json"),
-                .workers = 0,
-                .out = std::cout,
-                .err = std::cerr};
+  std::optional<ProgressBar> bar;
+  if (many && isatty(STDERR_FILENO) != 0) bar.emplace(std::cerr, Translated("Discs"));
+  const ManyDiscs run{.discs = std::move(discs),
+                      .json = request.Has("json"),
+                      .workers = 0,
+                      .out = out,
+                      .err = std::cerr,
+                      .bar = bar ? &*bar : nullptr,
+                      .stop = EndPending};
   return ReportDiscs(run, [&](const std::string& named) -> DiscReport {
     std::string problem;
     const auto disc = OpenTree(named, problem);
@@ -57,7 +67,7 @@ int Report(const Request& request, std::size_t first, const Ask& ask) {
   });
 }
 
-/// Qt and GStreamer, made ready before threads use them.
+/// Qt and GStreamer, made ready before threads use them. Signals are held before the two make threads.
 class ProbeReady {
  public:
   ProbeReady(int& argc, char** argv) : application_(PreparedForNoDisplay(argc), argv) {
@@ -66,6 +76,7 @@ class ProbeReady {
   DesktopProbe probe;
 
  private:
+  const HeldSignals held_;
   const QGuiApplication application_;
 };
 
@@ -74,25 +85,35 @@ class ProbeReady {
 int RunInfo(const Request& request, int& argc, char** argv) {
   ProbeReady ready(argc, argv);
   const char* path = std::getenv("PATH");
-  const std::string searchPath = path ? path : "";
-  return Report(request, 0, [&](const DiscTree& disc, bool) {
-    return InfoReport(disc, ready.probe, request.Has("json"), searchPath);
-  });
+  const InfoOptions options{request.Has("json"), request.Has("hashes"), path ? path : ""};
+  return Report(request, 0,
+                [&](const DiscTree& disc, bool) { return InfoReport(disc, ready.probe, options); });
 }
 
 int RunCheck(const Request& request, int& argc, char** argv) {
   ProbeReady ready(argc, argv);
-  const CheckOptions options{request.Has("json"), request.Has("strict")};
-  return Report(request, 0,
-                [&](const DiscTree& disc, bool) { return CheckReport(disc, ready.probe, options); });
+  const CheckOptions options{request.Has("json"), request.Has("strict"), request.Has("deep"),
+                             request.Has("sarif")};
+  const bool dryRun = request.Has("dry-run");
+  if (dryRun || request.Has("fix"))
+    return Report(request, 0,
+                  [&](const DiscTree& disc, bool) { return FixReport(disc, ready.probe, dryRun); });
+  const auto check = [&](const DiscTree& disc, bool) { return CheckReport(disc, ready.probe, options); };
+  if (!options.sarif) return Report(request, 0, check);
+  std::ostringstream results;
+  const int status = Report(request, 0, check, results);
+  std::cout << SarifLog(results.str(), (status & kUnread) == 0, ORVANTA_VERSION);
+  return status;
 }
 
 int RunTree(const Request& request, int&, char**) {
+  const HeldSignals held;
   return Report(request, 0,
                 [&](const DiscTree& disc, bool many) { return TreeReport(disc, request.Has("json"), many); });
 }
 
 int RunFind(const Request& request, int&, char**) {
+  const HeldSignals held;
   std::atomic<bool> found = false;
   const int status = Report(request, 1, [&](const DiscTree& disc, bool) {
     DiscReport report = FindReport(disc, request.words[0], request.Has("json"));
@@ -105,7 +126,11 @@ int RunFind(const Request& request, int&, char**) {
 
 int RunDiff(const Request& request, int& argc, char** argv) {
   ProbeReady ready(argc, argv);
-  ManyDiscs run{.discs = {request.words[1]}, .json = request.Has("json"), .out = std::cout, .err = std::cerr};
+  ManyDiscs run{.discs = {request.words[1]},
+                .json = request.Has("json"),
+                .out = std::cout,
+                .err = std::cerr,
+                .stop = EndPending};
   return ReportDiscs(run, [&](const std::string&) -> DiscReport {
     std::string problem;
     const auto before = OpenTree(request.words[0], problem);

@@ -145,7 +145,7 @@ int RunTool(int argc, char** argv) {
   const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
   const Request request = ParseArguments(arguments);
   // What other programs read is the same in every language.
-  if (request.Has("json")) UseEnglish();
+  if (request.Has("json") || request.Has("sarif")) UseEnglish();
   // Qt would take some of the command's words for its own.
   argc = std::min(argc, 1);
   const int status = Dispatch(request, argc, argv);

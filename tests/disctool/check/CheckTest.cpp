@@ -59,6 +59,7 @@ constexpr const char* kFaults[][2] = {
     {"GLOBAL/HelpB=HELP.gif", "other-case HelpB=HELP.gif"},
     {"-@ext2.gif", "no-file! ExtB=ext"},
     {"@menu.ttf=text", "no-font! FontFile=menu.ttf"},
+    {"HEADLINE/FontName=Szyldd", "font-name FontName=Szyldd"},
     {"Film/Parameters=%:\\setup.exe", "not-playable! Parameters=%:\\setup.exe"},
     {"Gra/Execute=C:\\setup.exe", "off-the-disc Execute=C:\\setup.exe"},
     {"Gra/Execute=setup.exe", "no-drive Execute=setup.exe"},
@@ -91,6 +92,12 @@ TEST(Check, EachFaultOfAMakerIsFoundAtItsLineAndNoOther) {
   GoodDisc button;
   button.Picture("ext1.gif", 40, 24);
   EXPECT_EQ(Found(button), "looks-differ ExtB=ext");
+  GoodDisc huge;
+  huge.Picture("help.gif", 1200, 1000);
+  EXPECT_EQ(Found(huge), "picture-too-large! HelpB=help.gif");
+  GoodDisc slip;
+  slip.Set("VOICES", "Exi3t", "x.wav");
+  EXPECT_NE(FindingsText(slip.Check()).find("did you mean Exit3?"), std::string::npos);
   GoodDisc disc;
   disc.Set("Gra", "Note", std::string(254, 'x'));
   EXPECT_EQ(Found(disc), "");
@@ -116,6 +123,44 @@ TEST(Check, TextsThatTheLookupReadsOtherwiseThanTheyLookAreFound) {
   disc.Set("MAINMENU", "Menu4", "\x1B[2Jx");
   EXPECT_NE(FindingsText(disc.Check()).find("\\x1B[2Jx"), std::string::npos) << "no command to the terminal";
   EXPECT_EQ(JsonText("\x1B\"\\\xFFł"), "\"\\u001B\\\"\\\\\xEF\xBF\xBDł\"");
+}
+
+TEST(Check, OnlyADeepCheckFindsAFilmThatBreaksOff) {
+  GoodDisc disc;
+  FirstBytesProbe probe;
+  disc.File("film.avi", "film cut");
+  EXPECT_EQ(disc.Check().List().size(), 0U);
+  const Findings findings = CheckDisc(FolderTree(disc.Folder()), probe, true);
+  ASSERT_EQ(findings.List().size(), 1U);
+  EXPECT_EQ(findings.List()[0].id, "breaks-off");
+}
+
+// One fault is one finding, not one for each setting that it hides.
+TEST(Check, AFileInAnotherEncodingOrWithMixedLineEndsIsToldOnce) {
+  GoodDisc disc;
+  const std::string good = disc.MenuIni();
+  std::string wide = "\xFF\xFE";
+  for (const char c : good) wide += std::string{c, '\0'};
+  const std::pair<std::string, const char*> cases[] = {{wide, "utf-16"},
+                                                       {wide.substr(2), "utf-16"},
+                                                       {"\xEF\xBB\xBF" + good, "byte-order-mark"},
+                                                       {"; a\n" + good, "mixed-line-ends"}};
+  for (const auto& [text, id] : cases) {
+    disc.File("Data/Menu.ini", text);
+    const Findings findings = disc.Check();
+    ASSERT_EQ(findings.List().size(), 1U) << FindingsText(findings);
+    EXPECT_EQ(findings.List()[0].id, id);
+  }
+}
+
+TEST(Check, LinksThatLeadOffTheDiscAreFound) {
+  GoodDisc disc, other;
+  std::filesystem::create_symlink(other.Data() / "help.gif", disc.Data() / "bonus.gif");
+  std::filesystem::create_symlink("help.gif", disc.Data() / "inside.gif");
+  const Findings findings = disc.Check();
+  ASSERT_EQ(findings.List().size(), 1U) << FindingsText(findings);
+  EXPECT_EQ(findings.List()[0].id, "link-off-the-disc");
+  EXPECT_EQ(findings.List()[0].place.file, disc.Data() / "bonus.gif");
 }
 
 TEST(NearestName, TakesLettersAsTheDiscDoesAndNotTheBytesOfTheirCode) {

@@ -20,9 +20,15 @@ struct FirstBytesProbe : DiscProbe {
     const PicturePtr picture = ReadPictureFile(file);
     return picture ? std::optional(picture->PixelSize()) : std::nullopt;
   }
-  bool IsFont(const std::filesystem::path& file) override { return TextOf(file).starts_with("font"); }
+  std::int64_t MostPixels() const override { return 1000000; }
+  std::vector<std::string> FontNames(const std::filesystem::path& file) override {
+    return TextOf(file).starts_with("font") ? std::vector<std::string>{"Arial"} : std::vector<std::string>();
+  }
   bool CanPlay(const std::filesystem::path& file, bool film) override {
     return TextOf(file).starts_with(film ? "film" : "RIFF");
+  }
+  std::string DecodingProblem(const std::filesystem::path& file) override {
+    return TextOf(file).ends_with("cut") ? "it ends after 3 of 60 s" : "";
   }
   /// The pictures of a test have one colour.
   std::optional<std::uintmax_t> DifferentPixels(const std::filesystem::path& a,

@@ -39,6 +39,36 @@ TEST(ManyDiscs, AreReportedInTheirOrderAndABadOneStopsNoOther) {
   EXPECT_EQ(NamesInList(std::string_view("a\nb\0c\0", 6)), (std::vector<std::string>{"a\nb", "c"}));
 }
 
+TEST(ManyDiscs, AreLeftAfterAnInterruptionWithWhatIsDoneWritten) {
+  std::atomic<bool> interrupted = false;
+  const auto ask = [&](const std::string& disc) -> DiscReport {
+    while (disc == "slow" && !interrupted) std::this_thread::yield();
+    return {disc + "\n"};
+  };
+  std::ostringstream out, err;
+  ManyDiscs many{.discs = {"first", "slow", "never"}, .out = out, .err = err};
+  many.stop = [&] { return interrupted = out.str() == "first\n"; };
+  EXPECT_EQ(ReportDiscs(many, ask), kInterrupted);
+  EXPECT_EQ(out.str(), "first\n");
+  EXPECT_EQ(err.str(), "orvanta-disc: interrupted after 1 of 3 discs\n");
+}
+
+TEST(ProgressBar, TellsTheTimeLeftOnceItCanAndMakesRoomForResults) {
+  std::ostringstream terminal;
+  double now = 0;
+  ProgressBar bar(terminal, "Discs", [&now] { return now; });
+  bar.Show(1, 4);
+  EXPECT_EQ(terminal.str().find("left"), std::string::npos);
+  now = 100;
+  bar.Show(1, 4);
+  EXPECT_NE(terminal.str().find(" 25 %, 5 min left"), std::string::npos) << terminal.str();
+  now = 300;
+  bar.Show(3, 4);
+  EXPECT_NE(terminal.str().find(" 75 %, 100 s left"), std::string::npos);
+  bar.Hide();
+  EXPECT_TRUE(terminal.str().ends_with("\r\x1B[K"));
+}
+
 TEST(Info, ShowsADiscAtAGlanceWithWhatItsProgramsAre) {
   GoodDisc disc;
   FirstBytesProbe probe;
@@ -49,18 +79,18 @@ TEST(Info, ShowsADiscAtAGlanceWithWhatItsProgramsAre) {
   disc.Menu("Programy", {"Gra", "Opis", "Brak"});
   disc.Entry("Opis", {{"Execute", "%:\\README.TXT"}});
   disc.Entry("Brak", {{"Execute", "%:\\none.exe"}});
-  const std::string text = InfoReport(FolderTree(disc.Folder()), probe, false, "").text;
+  const std::string text = InfoReport(FolderTree(disc.Folder()), probe, {}).text;
   for (const char* line :
        {"  title: Płyta próbna\n", "  entries: 2 menus, 3 programs, 1 piece of music, 1 film\n",
         "Gra: D:\\setup.exe (16-bit Windows program, runs with wine, needs wine, which is not",
         "Opis: D:\\README.TXT (document)\n", "Brak: D:\\none.exe (missing)\n",
         "  findings: 1 error, 5 warnings\n"})
     EXPECT_NE(text.find(line), std::string::npos) << line << text;
-  const std::string json = InfoReport(FolderTree(disc.Folder()), probe, true, "").text;
+  const std::string json = InfoReport(FolderTree(disc.Folder()), probe, {.json = true}).text;
   EXPECT_NE(json.find(R"({"entry": "Gra", "file": "D:\\setup.exe", "kind": "windows-16", "runner": "wine")"),
             std::string::npos)
       << json;
-  EXPECT_NE(InfoReport(FolderTree(disc.Data()), probe, false, "").problem, "");
+  EXPECT_NE(InfoReport(FolderTree(disc.Data()), probe, {}).problem, "");
 }
 
 }  // namespace
