@@ -24,7 +24,7 @@ std::string_view FixedSection(std::string_view name) {
   std::string_view last = kNodeSection;
   for (const SchemaKey& key : kSchema)
     if (key.section != kNodeSection && key.section != std::exchange(last, key.section) &&
-        EqualNoCase(key.section, name))
+        key.section.size() == name.size() && EqualNoCase(key.section, name))
       return key.section;
   return {};
 }

@@ -57,7 +57,7 @@ std::string Locate(CheckJob& job, const NamedFile& file, bool folderToo = false)
   return found.path.native();
 }
 
-void Picture(CheckJob& job, const NamedFile& file) {
+void CheckPicture(CheckJob& job, const NamedFile& file) {
   const std::string path = Locate(job, file);
   if (path.empty()) return;
   const auto size = job.files.PictureSize(path);
@@ -70,14 +70,14 @@ void Picture(CheckJob& job, const NamedFile& file) {
                                   file.naming, size->width, size->height));
 }
 
-void Font(CheckJob& job, const NamedFile& file) {
+void CheckFont(CheckJob& job, const NamedFile& file) {
   const std::string path = Locate(job, file);
   if (!path.empty() && job.files.FontNames(path).empty())
     job.findings.Error(file.place, "no-font",
                        Translated("%1 cannot be read as a font: %2", file.naming, file.path));
 }
 
-void Media(CheckJob& job, const NamedFile& file, bool film) {
+void CheckMedia(CheckJob& job, const NamedFile& file, bool film) {
   const std::string path = Locate(job, file);
   if (path.empty()) return;
   if (!job.files.CanPlay(path, film)) {
@@ -116,11 +116,11 @@ bool LiesOnDisc(CheckJob& job, const NamedFile& file) {
 }
 
 /// A sound with a drive is taken as it is, any other lies in its folder.
-void Sound(CheckJob& job, const std::string& naming, const Setting& found) {
+void CheckSound(CheckJob& job, const std::string& naming, const Setting& found) {
   const bool hasDrive = found.value.size() >= 2 && found.value[1] == ':';
   NamedFile file{found.place, naming, found.value, found.value};
   if (!hasDrive) file.path = PicturePath("Sound\\" + found.value);
-  if (LiesOnDisc(job, file)) Media(job, file, false);
+  if (LiesOnDisc(job, file)) CheckMedia(job, file, false);
 }
 
 void MainSize(CheckJob& job, const std::string& naming, const Setting& found) {
@@ -136,7 +136,7 @@ void ButtonArt(CheckJob& job, const SchemaKey& key, const std::string& naming, c
   constexpr const char* kEndings[] = {"0.gif", "1.gif", "2.gif"};
   bool differ = false;
   for (const char* ending : kEndings) {
-    Picture(job, {found.place, naming, PicturePath(found.value + ending), found.value, ending});
+    CheckPicture(job, {found.place, naming, PicturePath(found.value + ending), found.value, ending});
     const auto first = job.PictureOf(key.section, key.name, kEndings[0]);
     const auto size = job.PictureOf(key.section, key.name, ending);
     differ = differ || (first && size && *first != *size);
@@ -150,12 +150,12 @@ void Fixed(CheckJob& job, const SchemaKey& key, const std::string& name, const S
   const std::string naming = Naming(key.section, name);
   switch (key.kind) {
     case Kind::Picture:
-      Picture(job, {found.place, naming, PicturePath(found.value), found.value});
+      CheckPicture(job, {found.place, naming, PicturePath(found.value), found.value});
       if (name == "MainGfx") MainSize(job, naming, found);
       return;
     case Kind::Base: return ButtonArt(job, key, naming, found);
-    case Kind::Font: return Font(job, {found.place, naming, PicturePath(found.value), found.value});
-    case Kind::Sound: return Sound(job, naming, found);
+    case Kind::Font: return CheckFont(job, {found.place, naming, PicturePath(found.value), found.value});
+    case Kind::Sound: return CheckSound(job, naming, found);
     default: return;
   }
 }
@@ -168,7 +168,7 @@ void Target(CheckJob& job, const MenuNode& node) {
   NamedFile file{found.place, Naming(node.name, key), found.value, found.value};
   if (!LiesOnDisc(job, file)) return;
   file.path = OnDrive(found.value);
-  if (!program) return Media(job, file, node.kind == NodeKind::Film);
+  if (!program) return CheckMedia(job, file, node.kind == NodeKind::Film);
   Locate(job, file, true);
 }
 
@@ -176,7 +176,7 @@ void Entry(CheckJob& job, const MenuNode& node) {
   for (int number = 1; number <= node.shots; ++number) {
     const std::string key = NumberedKey("Shot", number);
     const Setting found = job.catalogue.Find(node.name, key);
-    Picture(job, {found.place, Naming(node.name, key), PicturePath(found.value), found.value});
+    CheckPicture(job, {found.place, Naming(node.name, key), PicturePath(found.value), found.value});
   }
   Target(job, node);
 }

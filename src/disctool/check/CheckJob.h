@@ -53,5 +53,7 @@ void CheckFonts(CheckJob& job);
 void CheckLinks(CheckJob& job);
 /// Buttons, zones and sliders that the user cannot reach or move.
 void CheckLayout(CheckJob& job);
+/// The first part of `CheckLayout`, by the controls of a shell that shows the disc.
+void CheckShown(CheckJob& job);
 
 }  // namespace orvanta

@@ -48,7 +48,7 @@ constexpr const char* kFaults[][2] = {
     {"-GLOBAL/BackX, GLOBAL/BACKX=500", ""},
     {"-GLOBAL/StartPic, -GLOBAL/UnderPic, -VOICES/Start, -GLOBAL/ProducerB, -GLOBAL/ProducerX", ""},
     {"GLOBAL/BackX=left", "no-number! BackX=left"},
-    {"GLOBAL/S2_Top=40000", "out-of-range! S2_Top=40000"},
+    {"GLOBAL/S2_Top=40000", "out-of-range! S2_Top=40000; outside! S2_Top=40000"},
     {"GLOBAL/S2_Top=2.5", "rounded S2_Top=2.5"},
     {"HEADLINE/Color=16777216", "no-colour! Color=16777216"},
     {"HEADLINE/FontBold=yes", "no-boolean! FontBold=yes"},
@@ -80,6 +80,12 @@ constexpr const char* kFaults[][2] = {
     {"SLIDER/PosX=472", "knob-outside! YMax=240"},
     {"SLIDER/YMax=300", "knob-partly-outside YMax=300"},
     {"GLOBAL/ExtX=0, GLOBAL/ExtY=0", "outside! ExtX=0"},  // the corner that the outline cuts off
+    {"GLOBAL/MinY=900", "outside! MinY=900"},
+    {"GLOBAL/ProducerY=-3000", "outside! ProducerY=-3000"},
+    {"GLOBAL/S2_Top=773", "outside! S2_Top=773"},
+    {"SLIDER/SliderBarX=3000", "outside! SliderBarX=3000"},
+    {"MENUITEM/BackTxt2X=600", "outside! BackTxt2X=600"},
+    {"CINEMA/CMiddY=-3000", "outside! CMiddY=-3000"},
     {"CINEMA/CStopX=590", "partly-outside CStopX=590"},
 };
 
