@@ -74,7 +74,7 @@ bool DesktopProbe::CanPlay(const std::filesystem::path& file, bool film) {
   std::error_code noFile;
   if (!std::filesystem::is_regular_file(file, noFile)) return false;
   if (!gst_is_initialized() && !gst_init_check(nullptr, nullptr, nullptr)) return false;
-  const Owned<GstDiscoverer> discoverer(gst_discoverer_new(5 * GST_SECOND, nullptr));
+  const Owned<GstDiscoverer> discoverer(gst_discoverer_new(20 * GST_SECOND, nullptr));
   if (!discoverer) return false;
   const Owned<GstDiscovererInfo> info(
       gst_discoverer_discover_uri(discoverer.get(), FindMediaSource(file).uri.c_str(), nullptr));

@@ -11,7 +11,7 @@ class DesktopProbe : public DiscProbe {
   std::optional<Size> PictureSize(const std::filesystem::path& file) override;
   std::int64_t MostPixels() const override;
   std::vector<std::string> FontNames(const std::filesystem::path& file) override;
-  /// Plays nothing. A file that keeps GStreamer busy for five seconds cannot be played.
+  /// Plays nothing. A file that keeps GStreamer busy for twenty seconds cannot be played.
   bool CanPlay(const std::filesystem::path& file, bool film) override;
   /// A file that stands still for ten seconds is given up.
   std::string DecodingProblem(const std::filesystem::path& file) override;
