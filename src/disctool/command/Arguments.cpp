@@ -20,7 +20,9 @@ std::string DidYouMean(std::string_view name, const std::vector<std::string_view
 }
 
 /// Whether anything may be given in the place of the discs that are missing.
-bool NeedsNoArgument(const Request& request) { return request.Has("clear-cache") || request.Has("explain"); }
+bool NeedsNoArgument(const Request& request) {
+  return request.Has("clear-cache") || request.Has("from") || request.Has("explain");
+}
 
 /// Whether an option takes a value.
 bool Fits(const OptionInfo& option, const std::string& value) {
