@@ -24,8 +24,24 @@ bool NeedsNoArgument(const Request& request) {
   return request.Has("clear-cache") || request.Has("from") || request.Has("explain");
 }
 
+/// "500M" or "4G" in bytes; the units are powers of 1000.
+std::optional<std::uintmax_t> SizeIn(std::string_view text) {
+  constexpr std::string_view kUnits = "KMGT";
+  constexpr std::uintmax_t kMost = 1'000'000'000;
+  std::uintmax_t size = 0;
+  const auto digits = std::min(text.find_first_not_of("0123456789"), text.size());
+  for (const char c : text.substr(0, digits))
+    size = std::min(size * 10 + static_cast<unsigned>(c - '0'), kMost);
+  const std::string_view unit = text.substr(digits);
+  if (digits == 0 || unit.size() > 1 || kUnits.find(unit) == kUnits.npos) return std::nullopt;
+  for (std::size_t i = 0; !unit.empty() && i <= kUnits.find(unit); ++i)
+    size = std::min(size, kMost * kMost / 1000) * 1000;
+  return size;
+}
+
 /// Whether an option takes a value.
 bool Fits(const OptionInfo& option, const std::string& value) {
+  if (option.name == "cache-limit") return SizeIn(value).has_value();
   if (option.name != "zoom") return true;
   const bool isNumber = value.size() == 1 && value[0] >= '1' && value[0] <= '8';
   return isNumber || (value == "auto" && option.value.ends_with("auto"));
@@ -135,6 +151,8 @@ std::optional<int> Request::Zoom() const {
   const std::string value = Option("zoom");
   return value.empty() || value == "auto" ? std::optional<int>() : value[0] - '0';
 }
+
+std::optional<std::uintmax_t> Request::CacheLimit() const { return SizeIn(Option("cache-limit")); }
 
 Request ParseArguments(std::span<const std::string> arguments) { return Parser(arguments).Parse(); }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <span>
@@ -23,6 +24,8 @@ struct Request {
   std::string Option(std::string_view option) const;
   /// None for `auto` and without the option.
   std::optional<int> Zoom() const;
+  /// The value of --cache-limit in bytes; nothing without the option.
+  std::optional<std::uintmax_t> CacheLimit() const;
 };
 
 /// Reads the arguments of the tool, without its own name, by the table of commands. Options and arguments may

@@ -16,6 +16,10 @@ constexpr OptionInfo kFrom{"from", "FILE",
 constexpr OptionInfo kOpenOptions[] = {
     {"zoom", "N|auto",
      Translatable("Show everything N times as large, from 1 to 8. The default, auto, suits the screen.")},
+    {"cache-limit", "SIZE",
+     Translatable(
+         "Keep the unpacked copies below SIZE, such as 500M or 4G; those that were used longest ago go "
+         "first. The default is 4G.")},
     {"clear-cache", "",
      Translatable("Remove the unpacked copies of images first. Without DISC, do nothing else.")}};
 constexpr ExampleInfo kOpenExamples[] = {{"orvanta-disc open disc.iso", Translatable("Opens an image.")}};
@@ -72,6 +76,9 @@ constexpr ExampleInfo kGalleryExamples[] = {
 constexpr ExampleInfo kLibraryExamples[] = {
     {"orvanta-disc library site *.iso", Translatable("Makes a library; open site/index.html in a browser.")},
     {"orvanta-disc library site new.iso", Translatable("Adds a disc to it.")}};
+
+constexpr ExampleInfo kTracksExamples[] = {
+    {"orvanta-disc tracks disc.cue music", Translatable("Writes music/track-02.wav and so on.")}};
 
 constexpr ExampleInfo kGetExamples[] = {
     {"orvanta-disc get my-disc HEADLINE Caption", Translatable("Writes the title of a disc.")}};
@@ -133,6 +140,14 @@ constexpr CommandInfo kCommands[] = {
      Translatable("Writes a setting as the shell looks it up."),
      {},
      kGetExamples},
+    {"tracks",
+     "DISC OUT",
+     Translatable("Write the audio tracks of an image as WAV files"),
+     Translatable(
+         "Writes each audio track of an image into OUT as a WAV file, named after its number. The image is "
+         "named by its sheet: CUE, CCD, MDS or NRG. Files that are there already are kept."),
+     {},
+     kTracksExamples},
     {"new",
      "DIR",
      Translatable("Make a small complete disc to start from"),

@@ -34,7 +34,7 @@ std::string DiscTree::EntryNoCase(const fs::path& folder, const std::string& nam
 
 DiscTree::Entry FolderTree::EntryAt(const std::string& path) const {
   struct stat status {};
-  if (stat(Place(path).c_str(), &status) != 0) return {};
+  if (stat(OnHost(path).c_str(), &status) != 0) return {};
   if (S_ISDIR(status.st_mode)) return {Kind::Folder};
   if (!S_ISREG(status.st_mode)) return {Kind::Other};
   return {Kind::File, static_cast<std::uintmax_t>(status.st_size), status.st_mtime,
@@ -43,7 +43,7 @@ DiscTree::Entry FolderTree::EntryAt(const std::string& path) const {
 
 bool FolderTree::IsLink(const std::string& path) const {
   std::error_code error;
-  return fs::is_symlink(Place(path), error);
+  return fs::is_symlink(OnHost(path), error);
 }
 
 bool FolderTree::LeadsOff(const std::string& path) const {
@@ -56,7 +56,7 @@ bool FolderTree::LeadsOff(const std::string& path) const {
 std::vector<std::string> FolderTree::List(const std::string& folder) const {
   std::vector<std::string> names;
   std::error_code error;
-  for (fs::directory_iterator entry(Place(folder), error), end; !error && entry != end;
+  for (fs::directory_iterator entry(OnHost(folder), error), end; !error && entry != end;
        entry.increment(error))
     names.push_back(entry->path().filename().string());
   return names;
@@ -66,7 +66,7 @@ std::optional<std::string> FolderTree::Read(const std::string& path, std::uintma
                                             std::uintmax_t most) const {
   // A FIFO or a device would be waited for.
   if (EntryAt(path).kind != Kind::File) return std::nullopt;
-  std::ifstream in(Place(path), std::ios::binary);
+  std::ifstream in(OnHost(path), std::ios::binary);
   if (!in || !in.seekg(static_cast<std::streamoff>(from))) return std::nullopt;
   std::string bytes;
   // Not by the size that the file claims: those of the system claim none.
@@ -81,6 +81,6 @@ std::optional<std::string> FolderTree::Read(const std::string& path, std::uintma
   return bytes;
 }
 
-bool FolderTree::Exists(const fs::path& path) const { return HostLookup().Exists(Place(path.native())); }
+bool FolderTree::Exists(const fs::path& path) const { return HostLookup().Exists(OnHost(path.native())); }
 
 }  // namespace orvanta

@@ -77,7 +77,10 @@ class DiscTree : public PathLookup {
 /// A disc that is a folder of the host. Nothing of it is copied.
 class FolderTree : public DiscTree {
  public:
-  using DiscTree::DiscTree;
+  explicit FolderTree(std::filesystem::path folder) : DiscTree(folder), folder_(std::move(folder)) {}
+  /// With another name for its user than that of its folder.
+  FolderTree(std::filesystem::path name, std::filesystem::path folder)
+      : DiscTree(std::move(name)), folder_(std::move(folder)) {}
 
   Entry EntryAt(const std::string& path) const override;
   bool IsLink(const std::string& path) const override;
@@ -85,9 +88,14 @@ class FolderTree : public DiscTree {
   std::vector<std::string> List(const std::string& folder) const override;
   std::optional<std::string> Read(const std::string& path, std::uintmax_t from = 0,
                                   std::uintmax_t most = kAll) const override;
-  std::filesystem::path OnHost(const std::string& path) const override { return Place(path); }
+  std::filesystem::path OnHost(const std::string& path) const override {
+    return path.empty() ? folder_ : folder_ / path;
+  }
   /// By the rule of the shell's own drive, closed folders too.
   bool Exists(const std::filesystem::path& path) const override;
+
+ private:
+  const std::filesystem::path folder_;
 };
 
 }  // namespace orvanta

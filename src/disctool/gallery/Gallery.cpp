@@ -4,6 +4,7 @@
 #include <map>
 #include <utility>
 
+#include "disctool/gallery/GalleryDisc.h"
 #include "disctool/gallery/GalleryWalk.h"
 #include "disctool/gallery/SiteFile.h"
 
@@ -53,19 +54,22 @@ void AddFindings(GalleryContents& contents, const Catalogue& catalogue, const Me
 
 }  // namespace
 
-MadeGallery MakeGallery(const fs::path& disc, const fs::path& folder, const Findings& findings,
+MadeGallery MakeGallery(const DiscTree& disc, const fs::path& folder, const Findings& findings,
                         const Progress& progress) {
-  const Catalogue catalogue{FolderTree(disc)};
-  if (catalogue.Empty()) return {{}, NoDiscIn(disc)};
+  const Catalogue catalogue(disc);
+  if (catalogue.Empty()) return {{}, NoDiscIn(disc.Name())};
   GalleryFolder out(folder);
   if (std::string obstacle = out.Open(GalleryFolder::Fingerprint(disc, kVersion)); !obstacle.empty())
     return {{}, std::move(obstacle)};
   const MenuTree tree = ReadMenuTree(catalogue);
-  GalleryWalk walk(disc, catalogue, tree, out, progress);
+  const GalleryDisc copy(disc, catalogue, tree);
+  if (!copy.problem.empty()) return {{}, copy.problem};
+  GalleryWalk walk(copy.Folder(), catalogue, tree, out, progress);
   std::string problem = walk.Go();
   MadeGallery made{std::move(walk.contents), {}};
   const Setting caption = catalogue.Find("HEADLINE", "Caption");
-  made.contents.title = caption ? caption.value : fs::absolute(disc).lexically_normal().filename().string();
+  made.contents.title =
+      caption ? caption.value : fs::absolute(disc.Name()).lexically_normal().filename().string();
   AddFindings(made.contents, catalogue, tree, findings);
   const std::pair<const char*, std::string> texts[] = {{"gallery.css", SiteFile("gallery.css")},
                                                        {"gallery.js", SiteFile("gallery.js")},

@@ -21,7 +21,7 @@ struct MadeGallery {
 ///
 /// The folder must be new, empty or an earlier gallery, which is renewed; an interrupted gallery is
 /// continued. The same disc and findings always give the same files.
-MadeGallery MakeGallery(const std::filesystem::path& disc, const std::filesystem::path& folder,
-                        const Findings& findings, const Progress& progress);
+MadeGallery MakeGallery(const DiscTree& disc, const std::filesystem::path& folder, const Findings& findings,
+                        const Progress& progress);
 
 }  // namespace orvanta

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "disctool/Translation.h"
+#include "disctool/disc/DiscWalk.h"
 #include "disctool/gallery/SiteFile.h"
 
 namespace orvanta {
@@ -134,19 +135,18 @@ std::string GalleryFolder::Finish() {
   return WriteSiteFile(ListFile(), list);
 }
 
-std::string GalleryFolder::Fingerprint(const fs::path& disc, const std::string& settings) {
+std::string GalleryFolder::Fingerprint(const DiscTree& disc, const std::string& settings) {
+  const bool onHost = !disc.OnHost({}).empty();
   std::vector<std::string> lines;
-  std::error_code error;
-  for (fs::recursive_directory_iterator entry(disc, fs::directory_options::skip_permission_denied, error),
-       end;
-       !error && entry != end; entry.increment(error)) {
+  for (const DiscFile& file : FilesOf(disc)) {
+    std::string& line = lines.emplace_back(file.path + ' ' + std::to_string(file.entry.size) + ' ' +
+                                           std::to_string(file.entry.modified));
     std::error_code ignored;
-    if (!entry->is_regular_file(ignored)) continue;
-    const auto changed = entry->last_write_time(ignored).time_since_epoch().count();
-    lines.push_back(entry->path().lexically_relative(disc).string() + ' ' +
-                    std::to_string(entry->file_size(ignored)) + ' ' + std::to_string(changed));
+    // Two changes in one second are told apart.
+    if (onHost)
+      line += ' ' +
+              std::to_string(fs::last_write_time(disc.OnHost(file.path), ignored).time_since_epoch().count());
   }
-  std::ranges::sort(lines);
   QCryptographicHash hash(QCryptographicHash::Sha256);
   hash.addData(QByteArrayView(settings.data(), static_cast<qsizetype>(settings.size())));
   for (const std::string& line : lines)

@@ -5,6 +5,7 @@
 #include <mutex>
 #include <string>
 
+#include "disctool/disc/DiscTree.h"
 #include "disctool/gallery/GalleryPage.h"
 
 namespace orvanta {
@@ -35,8 +36,8 @@ class GalleryFolder {
   /// Returns what went wrong; empty on success.
   std::string Finish();
 
-  /// A text that changes whenever a file of the folder `disc` or `settings` changes.
-  static std::string Fingerprint(const std::filesystem::path& disc, const std::string& settings);
+  /// A text that changes whenever a file of the disc or `settings` changes.
+  static std::string Fingerprint(const DiscTree& disc, const std::string& settings);
 
   const std::filesystem::path& Path() const { return folder_; }
 

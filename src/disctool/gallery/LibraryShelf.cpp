@@ -78,7 +78,7 @@ std::string LibraryShelf::Save() const {
 
 std::string LibraryShelf::StampOf(const fs::path& disc) {
   std::error_code error;
-  if (fs::is_directory(disc, error)) return GalleryFolder::Fingerprint(disc, {});
+  if (fs::is_directory(disc, error)) return GalleryFolder::Fingerprint(FolderTree(disc), {});
   const auto size = fs::file_size(disc, error);
   const auto changed = fs::last_write_time(disc, error).time_since_epoch().count();
   return error ? std::string() : std::to_string(size) + '-' + std::to_string(changed);

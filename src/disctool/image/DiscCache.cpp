@@ -6,6 +6,7 @@
 #include <sys/statvfs.h>
 
 #include <QCryptographicHash>
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -13,8 +14,10 @@
 #include <vector>
 
 #include "disctool/Translation.h"
-#include "disctool/image/DiscImage.h"
+#include "disctool/image/CopyWriter.h"
 #include "disctool/image/HeldSignals.h"
+#include "disctool/image/PackedArchive.h"
+#include "disctool/image/PackedDisc.h"
 
 namespace orvanta {
 namespace {
@@ -25,7 +28,7 @@ namespace fs = std::filesystem;
 constexpr std::string_view kUnfinished = ".part";
 constexpr const char* kLockName = "lock";
 /// Raised when copies made by older versions can no longer be used.
-constexpr const char* kFormat = "1";
+constexpr const char* kFormat = "2";
 
 fs::path CacheHome() {
   const auto variable = [](const char* name) {
@@ -46,18 +49,11 @@ std::string Digest(const std::string& text) {
       .toStdString();
 }
 
-/// A name for the image in its present state: its path, then its state. Empty if it is not a regular file.
-std::string NameOf(const fs::path& image) {
-  struct stat status {};
+/// A name made of the path of a disc and its state.
+std::string NameOf(const fs::path& disc, const PackedDisc& packed) {
   std::error_code error;
-  const fs::path place = fs::canonical(image, error);
-  if (error || stat(place.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return {};
-  std::string state = kFormat;
-  for (const auto number : {std::int64_t{status.st_size}, std::int64_t{status.st_mtim.tv_sec},
-                            std::int64_t{status.st_mtim.tv_nsec}, static_cast<std::int64_t>(status.st_ino),
-                            static_cast<std::int64_t>(status.st_dev)})
-    state += " " + std::to_string(number);
-  return Digest(place.string()) + "-" + Digest(state);
+  const fs::path place = fs::canonical(disc, error);
+  return Digest(place.string()) + "-" + Digest(kFormat + packed.State());
 }
 
 std::string_view PlaceOf(std::string_view name) { return name.substr(0, name.find('-')); }
@@ -82,7 +78,7 @@ std::vector<std::string> NamesIn(const fs::path& folder) {
 constexpr std::uintmax_t kMegabyte = 1'000'000;
 
 /// Why there is no room for a copy; empty if there is.
-std::string NoRoom(const fs::path& folder, const ImageContents& contents) {
+std::string NoRoom(const fs::path& folder, const PackedContents& contents) {
   struct statvfs disk {};
   if (statvfs(folder.c_str(), &disk) != 0) return Problem(folder);
   const std::uintmax_t free = std::uintmax_t{disk.f_bavail} * disk.f_frsize;
@@ -93,11 +89,22 @@ std::string NoRoom(const fs::path& folder, const ImageContents& contents) {
                     folder.string(), free / kMegabyte);
 }
 
+/// All files in a copy, in bytes.
+std::uintmax_t SizeOf(const fs::path& copy) {
+  std::uintmax_t bytes = 0;
+  std::error_code error;
+  for (fs::recursive_directory_iterator at(copy, error), end; !error && at != end; at.increment(error)) {
+    std::error_code ignored;
+    if (at->symlink_status(ignored).type() == fs::file_type::regular) bytes += at->file_size(ignored);
+  }
+  return bytes;
+}
+
 OpenedDisc Failed(std::string problem) { return {{}, std::move(problem), {}}; }
 
 }  // namespace
 
-DiscCache::DiscCache() : DiscCache(CacheHome() / "orvanta") {}
+DiscCache::DiscCache(std::uintmax_t limit) : DiscCache(CacheHome() / "orvanta", limit) {}
 
 Descriptor DiscCache::Lock(std::string& problem) const {
   std::error_code error;
@@ -121,29 +128,58 @@ Descriptor DiscCache::Lock(std::string& problem) const {
 OpenedDisc DiscCache::Open(const fs::path& disc, const Progress& progress) const {
   std::error_code error;
   if (fs::is_directory(disc, error)) return {fs::absolute(disc, error), {}, {}};
-  if (!fs::exists(disc, error))
-    return Failed(disc.string() + ": " + Translated("there is nothing of that name"));
-  const std::string name = NameOf(disc);
-  if (name.empty())
-    return Failed(disc.string() + ": " + Translated("this is neither a folder nor an image of a disc"));
+  std::string problem;
+  const auto packed = OpenPackedDisc(disc, problem);
+  if (!packed) return Failed(problem);
+  if (!packed->IsArchive()) return OpenCopy(disc, *packed, progress);
+  OpenedDisc archive = OpenArchive(disc, progress);
+  if (!archive.problem.empty() || fs::is_directory(archive.folder, error)) return archive;
+  return Open(archive.folder, progress);
+}
+
+OpenedDisc DiscCache::OpenArchive(const fs::path& archive, const Progress& progress) const {
+  std::string problem;
+  const auto packed = OpenPackedDisc(archive, problem);
+  OpenedDisc disc = packed ? OpenCopy(archive, *packed, progress) : Failed(problem);
+  if (disc.problem.empty()) disc.folder = FindDiscIn(disc.folder, problem);
+  return disc.folder.empty() && disc.problem.empty() ? Failed(archive.string() + ": " + problem)
+                                                     : std::move(disc);
+}
+
+OpenedDisc DiscCache::OpenCopy(const fs::path& disc, const PackedDisc& packed,
+                               const Progress& progress) const {
+  const std::string name = NameOf(disc, packed);
   std::string problem;
   const Descriptor lock = Lock(problem);
   if (!lock) return Failed(problem);
-  if (Descriptor copy = Hold(folder_ / name, LOCK_SH)) return {folder_ / name, {}, std::move(copy)};
-  return Unpack(disc, name, progress);
+  const fs::path place = folder_ / name;
+  // Programs of another shell may be at work on what they have changed.
+  Descriptor copy = Hold(place, LOCK_EX | LOCK_NB);
+  if (copy) problem = packed.Restore(place);
+  if (!problem.empty()) return Failed(disc.string() + ": " + problem);
+  if (!copy) copy = Hold(place, LOCK_SH);
+  if (!copy) return Unpack(disc, packed, name, progress);
+  flock(copy.get(), LOCK_SH);
+  // The date of its folder tells when a copy was last used.
+  futimens(copy.get(), nullptr);
+  return {place, {}, std::move(copy)};
 }
 
-OpenedDisc DiscCache::Unpack(const fs::path& image, const std::string& name, const Progress& progress) const {
-  const auto failed = [&](const std::string& why) { return Failed(image.string() + ": " + why); };
-  const ImageContents contents = ReadImage(image);
+OpenedDisc DiscCache::Unpack(const fs::path& disc, const PackedDisc& packed, const std::string& name,
+                             const Progress& progress) const {
+  const auto failed = [&](const std::string& why) { return Failed(disc.string() + ": " + why); };
+  const PackedContents contents = packed.Contents();
   if (!contents.problem.empty()) return failed(contents.problem);
   RemoveOthers(name);
+  MakeRoom(name, contents.bytes);
   if (const std::string problem = NoRoom(folder_, contents); !problem.empty()) return failed(problem);
   const HeldSignals untilItIsWholeOrGone;
   const fs::path unfinished = folder_ / (name + std::string(kUnfinished));
   if (mkdir(unfinished.c_str(), S_IRWXU) != 0) return Failed(Problem(unfinished));
-  std::string problem = UnpackImage(image, contents, unfinished, progress);
-  if (problem.empty() && NameOf(image) != name)
+  std::string problem = packed.Unpack(unfinished, contents, progress);
+  std::string unused;
+  const auto now = OpenPackedDisc(disc, unused);
+  if (problem.empty() && (!now || now->State() != packed.State()))
     problem = Translated("the image has changed while it was read");
   // A copy in its final place must be complete even after a power cut.
   const Descriptor folder = Hold(unfinished, LOCK_SH);
@@ -156,6 +192,29 @@ OpenedDisc DiscCache::Unpack(const fs::path& image, const std::string& name, con
     return failed(problem);
   }
   return {folder_ / name, {}, Hold(folder_ / name, LOCK_SH)};
+}
+
+void DiscCache::MakeRoom(const std::string& name, std::uintmax_t wanted) const {
+  struct Copy {
+    fs::file_time_type used;
+    fs::path place;
+    std::uintmax_t bytes;
+  };
+  std::vector<Copy> copies;
+  std::error_code error;
+  for (const std::string& other : NamesIn(folder_)) {
+    const fs::path place = folder_ / other;
+    if (other == kLockName || other == name) continue;
+    copies.push_back({fs::last_write_time(place, error), place, SizeOf(place)});
+    wanted += copies.back().bytes;
+  }
+  std::ranges::sort(copies, {}, &Copy::used);
+  for (const Copy& copy : copies) {
+    if (wanted <= limit_) return;
+    if (!Hold(copy.place, LOCK_EX | LOCK_NB)) continue;
+    fs::remove_all(copy.place, error);
+    wanted -= copy.bytes;
+  }
 }
 
 void DiscCache::RemoveOthers(const std::string& name) const {
@@ -175,7 +234,7 @@ std::string DiscCache::Clear() const {
   for (const std::string& name : NamesIn(folder_)) {
     if (name == kLockName) continue;
     if (!Hold(folder_ / name, LOCK_EX | LOCK_NB)) {
-      problem = (folder_ / name).string() + " is open in a shell";
+      problem = Translated("%1 is open in a shell", (folder_ / name).string());
     } else if (fs::remove_all(folder_ / name, error); error) {
       problem = (folder_ / name).string() + ": " + error.message();
     }

@@ -66,10 +66,12 @@ class ProgressWindow {
   std::optional<QProgressDialog> bar_;
 };
 
-std::string Open(const std::filesystem::path& named, std::optional<int> zoom, int& argc, char** argv) {
+std::string Open(const Request& request, int& argc, char** argv) {
+  const std::optional<int> zoom = request.Zoom();
   std::optional<ProgressWindow> window(std::in_place, zoom, argc, argv);
-  const OpenedDisc disc = DiscCache().Open(
-      named, [&window](std::uintmax_t done, std::uintmax_t all) { window->Show(done, all); });
+  const DiscCache cache(request.CacheLimit().value_or(DiscCache::kDefaultLimit));
+  const OpenedDisc disc = cache.Open(
+      request.words[0], [&window](std::uintmax_t done, std::uintmax_t all) { window->Show(done, all); });
   window.reset();
   return disc.problem.empty() ? RunShell(disc.folder, zoom, argc, argv) : disc.problem;
 }
@@ -95,16 +97,15 @@ bool ErrorsAreRead() {
   return isatty(STDERR_FILENO) != 0 || (fstat(STDERR_FILENO, &status) == 0 && S_ISFIFO(status.st_mode));
 }
 
-std::string OpenInWindows(const std::filesystem::path& disc, std::optional<int> zoom, int& argc,
-                          char** argv) {
-  std::string problem = Open(disc, zoom, argc, argv);
+std::string OpenInWindows(const Request& request, int& argc, char** argv) {
+  std::string problem = Open(request, argc, argv);
   if (problem.empty() || !HasDisplay()) return problem;
   SwitchOffQtScaling();
   const QApplication application(argc, argv);
   QApplication::setWindowIcon(ShellIcon());
   QMessageBox box(QMessageBox::Critical, "Orvanta Shell", QString::fromStdString(Printable(problem)));
   box.setTextFormat(Qt::PlainText);
-  MakeReadable(box, ZoomOfScreen(*box.screen(), zoom));
+  MakeReadable(box, ZoomOfScreen(*box.screen(), request.Zoom()));
   box.exec();
   return problem;
 }

@@ -4,6 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "disctool/command/Arguments.h"
+
 namespace orvanta {
 
 /// Runs the shell with a folder as its disc until the user leaves it. That folder becomes the current one, so
@@ -17,6 +19,6 @@ bool ErrorsAreRead();
 
 /// Opens a folder or an image for such a user: a window shows how an image is unpacked, if that takes its
 /// time, and another one why a disc could not be opened. Gives that too, empty if it could.
-std::string OpenInWindows(const std::filesystem::path& disc, std::optional<int> zoom, int& argc, char** argv);
+std::string OpenInWindows(const Request& request, int& argc, char** argv);
 
 }  // namespace orvanta

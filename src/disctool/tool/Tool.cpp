@@ -16,6 +16,7 @@
 #include "disctool/gallery/Library.h"
 #include "disctool/image/DiscCache.h"
 #include "disctool/image/OpenTree.h"
+#include "disctool/image/sectors/AudioTracks.h"
 #include "disctool/making/NewDisc.h"
 #include "disctool/tool/CommandSupport.h"
 #include "disctool/tool/DesktopProbe.h"
@@ -40,7 +41,8 @@ int Misuse(const Request& request) {
 template <class Work>
 int WithDisc(const Request& request, Work work) {
   const OpenedDisc disc = WithProgress(Translated("Unpacking"), [&](const Progress& progress) {
-    return DiscCache().Open(request.words.at(0), progress);
+    return DiscCache(request.CacheLimit().value_or(DiscCache::kDefaultLimit))
+        .Open(request.words.at(0), progress);
   });
   return disc.problem.empty() ? work(disc.folder) : Outcome(disc.problem);
 }
@@ -50,7 +52,7 @@ int Open(const Request& request, int& argc, char** argv) {
     const int status = Outcome(DiscCache().Clear());
     if (status != kGood || request.words.empty()) return status;
   }
-  if (!ErrorsAreRead()) return Outcome(OpenInWindows(request.words[0], request.Zoom(), argc, argv));
+  if (!ErrorsAreRead()) return Outcome(OpenInWindows(request, argc, argv));
   return WithDisc(
       request, [&](const fs::path& folder) { return Outcome(RunShell(folder, request.Zoom(), argc, argv)); });
 }
@@ -69,24 +71,25 @@ int Check(const Request& request, int& argc, char** argv) {
 }
 
 int Gallery(const Request& request, int& argc, char** argv) {
-  return WithDisc(request, [&](const fs::path& folder) {
-    const QGuiApplication application(PreparedForNoDisplay(argc), argv);
-    DesktopProbe probe;
-    const Findings findings = CheckDisc(FolderTree(folder), probe);
-    return Outcome(WithProgress(Translated("Taking screenshots"), [&](const Progress& progress) {
-      return MakeGallery(folder, request.words[1], findings, progress).problem;
-    }));
-  });
+  std::string problem;
+  const auto disc = OpenTree(request.words[0], problem);
+  if (!disc) return Outcome(problem);
+  const QGuiApplication application(PreparedForNoDisplay(argc), argv);
+  DesktopProbe probe;
+  const Findings findings = CheckDisc(*disc, probe);
+  return Outcome(WithProgress(Translated("Taking screenshots"), [&](const Progress& progress) {
+    return MakeGallery(*disc, request.words[1], findings, progress).problem;
+  }));
 }
 
 int Library(const Request& request, int& argc, char** argv) {
   const QGuiApplication application(PreparedForNoDisplay(argc), argv);
   DesktopProbe probe;
   const auto make = [&probe](const fs::path& named, const fs::path& folder) -> MadeGallery {
-    const auto unheard = [](std::uintmax_t, std::uintmax_t) {};
-    const OpenedDisc disc = DiscCache().Open(named, unheard);
-    if (!disc.problem.empty()) return {{}, disc.problem};
-    return MakeGallery(disc.folder, folder, CheckDisc(FolderTree(disc.folder), probe), unheard);
+    std::string problem;
+    const auto disc = OpenTree(named, problem);
+    if (!disc) return {{}, problem};
+    return MakeGallery(*disc, folder, CheckDisc(*disc, probe), [](std::uintmax_t, std::uintmax_t) {});
   };
   const std::vector<fs::path> discs(request.words.begin() + 1, request.words.end());
   const auto problems = WithProgress(Translated("Taking screenshots"), [&](const Progress& progress) {
@@ -105,6 +108,12 @@ int Get(const Request& request, int&, char**) {
   return GetCommand(*disc, request.words[1], request.words[2], std::cout);
 }
 
+int Tracks(const Request& request, int&, char**) {
+  return Outcome(WithProgress(Translated("Writing tracks"), [&](const Progress& progress) {
+    return WriteAudioTracks(request.words[0], request.words[1], progress);
+  }));
+}
+
 int New(const Request& request, int& argc, char** argv) {
   const QGuiApplication application(PreparedForNoDisplay(argc), argv);
   return Outcome(MakeNewDisc(request.words[0]));
@@ -115,9 +124,10 @@ struct Runner {
   int (*run)(const Request& request, int& argc, char** argv);
 };
 /// One for each command of the table.
-constexpr Runner kRunners[] = {
-    {"open", Open},    {"info", RunInfo},    {"check", Check},     {"tree", RunTree}, {"find", RunFind},
-    {"diff", RunDiff}, {"gallery", Gallery}, {"library", Library}, {"get", Get},      {"new", New}};
+constexpr Runner kRunners[] = {{"open", Open},       {"info", RunInfo},    {"check", Check},
+                               {"tree", RunTree},    {"find", RunFind},    {"diff", RunDiff},
+                               {"gallery", Gallery}, {"library", Library}, {"get", Get},
+                               {"tracks", Tracks},   {"new", New}};
 
 int Dispatch(const Request& request, int& argc, char** argv) {
   if (!request.problem.empty()) return Misuse(request);

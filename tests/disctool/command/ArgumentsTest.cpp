@@ -25,6 +25,8 @@ TEST(Arguments, MistakesGetTheNearestName) {
       {{"tree", "--strict", "a"}, "'tree' has no option --strict"},
       {{"check", "--json=1", "a"}, "--json takes no value"},
       {{"open", "--zoom=auto", "a"}, ""},
+      {{"open", "--cache-limit", "500M", "a"}, ""},
+      {{"open", "--cache-limit=lots", "a"}, "--cache-limit cannot be 'lots'"},
       {{"open", "--zoom", "0", "a"}, "--zoom cannot be '0'"},
       {{"open", "--zoom=2.5", "a"}, "--zoom cannot be '2.5'"},
       {{"--man"}, "--man needs a value"},

@@ -2,11 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include "disctool/check/CheckedDisc.h"
+#include "disctool/image/sectors/AudioTracks.h"
 #include "disctool/image/sectors/ReadTracks.h"
 #include "disctool/image/volume/OpenImage.h"
 #include "support/ImageKinds.h"
 #include "support/ImageWriter.h"
-#include "support/TestDisc.h"
 
 namespace orvanta::test {
 
@@ -38,6 +39,36 @@ TEST_F(SheetsTest, LeadToTheSameDataAndMusic) {
     const Track& track = list.tracks[1];
     EXPECT_TRUE(track.audio && track.number == 2 && track.sectors == 20) << kind << track.sectors;
     EXPECT_EQ(track.bytes->Text(track.begin, 100), audio.substr(0, 100)) << kind;
+  }
+}
+
+TEST_F(SheetsTest, GiveTheirMusicAsWavFiles) {
+  const std::string audio = AudioTrack(20);
+  const auto unseen = [](std::uintmax_t, std::uintmax_t) {};
+  for (const auto& [kind, image] : WriteImages(folder, Disc("hello"), audio)) {
+    const std::filesystem::path out = folder.Path() / ("music of " + kind), track = out / "track-02.wav";
+    problem = WriteAudioTracks(image, out, unseen);
+    if (AudioTracksOf(image).tracks.empty()) {
+      EXPECT_NE(problem.find("no audio tracks"), problem.npos) << kind;
+      continue;
+    }
+    EXPECT_EQ(problem, "");
+    EXPECT_TRUE(TextOf(track) == WaveFile(audio)) << kind;
+    folder.File("music of " + kind + "/track-02.wav", "mine");
+    EXPECT_EQ(WriteAudioTracks(image, out, unseen), "");
+    EXPECT_EQ(TextOf(track), "mine") << "written over";
+  }
+}
+
+// Whoever names something else learns what it is.
+TEST_F(SheetsTest, LeaveNobodyAlone) {
+  for (const auto& [begin, said] : {std::pair("MComprHD", "chdman extractcd"),
+                                    {"Rar!\x1A\x07", "RAR archive"},
+                                    {"MZ", "a program"},
+                                    {"", "empty"},
+                                    {"hello", "not an image"}}) {
+    EXPECT_FALSE(Read(folder.File("x.img", begin)));
+    EXPECT_NE(problem.find(said), problem.npos) << problem;
   }
 }
 

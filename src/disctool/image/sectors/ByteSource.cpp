@@ -31,6 +31,16 @@ class FileBytes : public ByteSource {
     }
     return done;
   }
+  std::string State() const override {
+    struct stat status {};
+    if (fstat(file_.get(), &status) != 0 || !S_ISREG(status.st_mode)) return "device";
+    std::string state;
+    for (const auto number : {std::int64_t{status.st_size}, std::int64_t{status.st_mtim.tv_sec},
+                              std::int64_t{status.st_mtim.tv_nsec}, static_cast<std::int64_t>(status.st_ino),
+                              static_cast<std::int64_t>(status.st_dev)})
+      state += " " + std::to_string(number);
+    return state;
+  }
 
  private:
   const Descriptor file_;

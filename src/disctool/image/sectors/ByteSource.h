@@ -18,6 +18,8 @@ class ByteSource {
   /// Reads from the place `at` on. Gives how many bytes that were: fewer than asked for at the end, and where
   /// the medium is damaged.
   virtual std::size_t Read(std::uint64_t at, std::span<char> into) const = 0;
+  /// A text that changes when the bytes do, as far as the system tells; always the same for a device.
+  virtual std::string State() const = 0;
 
   /// Up to `most` bytes from the place `at` on. Memory grows with what is there, not with what is asked for.
   std::string Text(std::uint64_t at, std::uint64_t most) const;

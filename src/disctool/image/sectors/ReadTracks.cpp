@@ -1,8 +1,8 @@
 #include "disctool/image/sectors/ReadTracks.h"
 
 #include "config/Windows1250.h"
-#include "disctool/Translation.h"
 #include "disctool/image/sectors/DataSectors.h"
+#include "disctool/image/sectors/KnownFile.h"
 #include "disctool/image/sectors/Sheets.h"
 
 namespace orvanta {
@@ -14,7 +14,7 @@ constexpr std::uint64_t kLargestSheet = 4 * 1024 * 1024;
 /// The one track that a file without a sheet begins with; none if that is not one of data.
 TrackList OneTrack(const std::filesystem::path& image, const Bytes& bytes) {
   const auto layout = FindLayout(*bytes, 0, kBlock);
-  if (!layout) return {{}, image.string() + ": " + Translated("this is not an image of a disc")};
+  if (!layout) return {{}, image.string() + ": " + WhyNoImage(*bytes)};
   Track track{1, 1, false, bytes, 0, layout->stride};
   track.sectors = (bytes->Size() + layout->stride - 1) / layout->stride;
   return {{std::move(track)}, {}};

@@ -20,6 +20,7 @@ class ImageTree : public DiscTree {
 
   Entry EntryAt(const std::string& path) const override;
   bool IsLink(const std::string& path) const override;
+  bool LeadsOff(const std::string& path) const override { return IsLink(path) && !Locate(path); }
   std::string Label() const override { return volume_->Label(); }
   std::vector<std::string> List(const std::string& folder) const override;
   std::optional<std::string> Read(const std::string& path, std::uintmax_t from = 0,

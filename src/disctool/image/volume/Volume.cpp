@@ -19,6 +19,7 @@ namespace {
 constexpr std::uint64_t kFirstDescriptor = 16, kMostDescriptors = 64;
 constexpr char kPrimary = 1, kSupplementary = 2, kTerminator = '\xFF';
 constexpr std::size_t kLabelAt = 40, kLabelBytes = 32, kEscapesAt = 88, kRootAt = 156, kRootBytes = 34;
+constexpr std::size_t kSizeAt = 80, kDatesAt = 813, kDatesBytes = 34;
 constexpr std::size_t kRecordBytes = 33;
 constexpr unsigned kFolderFlag = 2, kAssociatedFlag = 4, kMoreExtentsFlag = 0x80;
 
@@ -132,6 +133,8 @@ bool Volume::ReadDescriptors(std::size_t run) {
     if (found[0] == kSupplementary && joliet.empty() && IsJoliet(found)) joliet = found;
   }
   if (primary.empty()) return false;
+  id_ = primary.substr(kLabelAt, kLabelBytes) + primary.substr(kSizeAt, 4) +
+        primary.substr(kDatesAt, kDatesBytes);
   sectors_.runs[0].first = FindRoot(ExtentOf(primary.substr(kRootAt, kRootBytes)).block);
   UseNames(primary, joliet);
   return true;

@@ -28,6 +28,8 @@ class Volume {
   std::uint64_t Capacity() const;
   /// The name of the disc, in UTF-8.
   const std::string& Label() const { return label_; }
+  /// Its label, size and dates as they are written on it: different for two discs in one drive.
+  const std::string& Id() const { return id_; }
 
  private:
   enum class Names { Plain, RockRidge, Joliet };
@@ -44,7 +46,7 @@ class Volume {
   VolumeEntry root_;
   Names names_ = Names::Plain;
   std::size_t skip_ = 0;  // bytes before those of Rock Ridge
-  std::string label_;
+  std::string label_, id_;
 };
 
 }  // namespace orvanta

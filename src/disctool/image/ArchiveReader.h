@@ -13,14 +13,14 @@
 
 namespace orvanta {
 
-/// One entry of an image that may be unpacked. Its names lead from the root of the image; the root itself has
-/// none.
-struct ImageEntry {
+/// One entry of an archive that may be unpacked. Its names lead from the root of the archive; the root itself
+/// has none.
+struct ArchiveEntry {
   std::vector<std::string> names;
   bool isFolder = false;
-  std::vector<std::string> sameAs;  ///< the names of an earlier entry with the same content
   std::uintmax_t size = 0;
   mode_t mode = 0;
+  std::int64_t modified = 0;  ///< seconds since 1970 in UTC
 };
 
 /// libarchive returns names in the character set of the locale, which must be UTF-8 whatever the user has.
@@ -40,31 +40,32 @@ class Utf8Locale {
   locale_t utf8_, before_;
 };
 
-/// Reads an ISO 9660 image entry by entry, and stops at the first one that must not be unpacked.
-class ImageReader {
+/// Reads a ZIP or 7z archive entry by entry, and stops at the first one that must not be unpacked. Names of a
+/// ZIP that are not marked as UTF-8 are in CP852, as DOS and Windows write them in Poland.
+class ArchiveReader {
  public:
-  explicit ImageReader(const std::filesystem::path& image);
+  explicit ArchiveReader(const std::filesystem::path& file);
 
   std::string problem;  ///< empty as long as there is none
   /// What the content of the last entry is read from.
   archive* Get() const { return archive_.get(); }
 
   /// The next entry; nothing at the end and after a problem.
-  std::optional<ImageEntry> Next();
+  std::optional<ArchiveEntry> Next();
 
  private:
   struct CloseArchive {
     void operator()(archive* open) const { archive_read_free(open); }
   };
 
-  std::optional<ImageEntry> Refuse(std::string why);
-  std::optional<ImageEntry> Take(archive_entry* header);
+  std::optional<ArchiveEntry> Refuse(std::string why);
+  std::optional<ArchiveEntry> Take(archive_entry* header);
 
   const Utf8Locale locale_;
   const std::unique_ptr<archive, CloseArchive> archive_;
 };
 
 /// libarchive's message about its last failure.
-std::string ProblemOf(archive* image);
+std::string ProblemOf(archive* file);
 
 }  // namespace orvanta
