@@ -38,6 +38,10 @@ const Room kRooms[] = {
     {"src/disctool/gallery/",
      "disctool/((gallery|disc|check)/)?\\w+\\.h|platform/(headless|desktop/(window|media))/\\w+\\.h" + kLogic,
      kQt},
+    {"src/disctool/export/",
+     "disctool/((export|disc)/)?\\w+\\.h|disctool/gallery/SiteFile\\.h|platform/desktop/media/\\w+\\.h" +
+         kLogic,
+     kQt + "|gst/.*"},
     {"src/disctool/tool/",
      "disctool/((image/sectors|\\w+)/)?\\w+\\.h|platform/desktop/(\\w+/)?\\w+\\.h" + kLogic, kQt + "|gst/.*"},
     {"src/disctool/command/", "disctool/((command|check|disc)/)?\\w+\\.h" + kLogic, kStandard},
@@ -51,6 +55,7 @@ const Room kRooms[] = {
     {"src/platform/desktop/start/", "platform/(desktop/(start/)?)?\\w+\\.h", "gio/.*" + kSystem},
     {"src/platform/desktop/", "platform/(desktop/(\\w+/)?)?\\w+\\.h", kQt + "|xcb/.*"},
     {"src/platform/headless/", "platform/(headless/)?\\w+\\.h", kStandard},
+    {"src/platform/web/", "platform/(web/)?\\w+\\.h", kStandard},
     {"src/platform/", "platform/\\w+\\.h", kStandard},
     {"src/config/", "(platform|config)/\\w+\\.h", kStandard},
     {"src/", "(" + kShell + ")/\\w+\\.h", kStandard}};

@@ -9,16 +9,16 @@
 namespace orvanta {
 namespace {
 
-constexpr std::string_view kSeparators = "\\/";
+constexpr std::string_view Separators = "\\/";
 
 std::string_view Extension(std::string_view windowsPath) {
-  const std::string_view name = windowsPath.substr(windowsPath.find_last_of(kSeparators) + 1);
+  const std::string_view name = windowsPath.substr(windowsPath.find_last_of(Separators) + 1);
   return name.substr(std::min(name.rfind('.'), name.size()));
 }
 
 /// The folder of a path, with a trailing separator.
 std::string_view FolderOf(std::string_view windowsPath) {
-  return windowsPath.substr(0, windowsPath.find_last_of(kSeparators) + 1);
+  return windowsPath.substr(0, windowsPath.find_last_of(Separators) + 1);
 }
 
 /// Moves a path of the drive on which the disc was made to the disc's own drive.
@@ -45,7 +45,7 @@ void AddUtf8(std::string& text, char32_t c) {
 
 /// Two bytes are a unit; half of a surrogate pair becomes the replacement character.
 std::string FromUtf16(std::string_view bytes) {
-  constexpr char32_t kReplacement = 0xFFFD;
+  constexpr char32_t Replacement = 0xFFFD;
   const auto unit = [&bytes](std::size_t i) -> char32_t {
     return static_cast<unsigned char>(bytes[i]) |
            static_cast<char32_t>(static_cast<unsigned char>(bytes[i + 1])) << 8;
@@ -56,7 +56,7 @@ std::string FromUtf16(std::string_view bytes) {
     if (c >= 0xD800 && c < 0xE000) {
       const char32_t low = c < 0xDC00 && i + 3 < bytes.size() ? unit(i + 2) : 0;
       const bool pair = low >= 0xDC00 && low < 0xE000;
-      c = pair ? 0x10000 + ((c - 0xD800) << 10) + (low - 0xDC00) : kReplacement;
+      c = pair ? 0x10000 + ((c - 0xD800) << 10) + (low - 0xDC00) : Replacement;
       if (pair) i += 2;
     }
     AddUtf8(text, c);
@@ -71,10 +71,10 @@ class LinkReader {
 
   std::optional<Shortcut> Read(std::string_view windowsPath) {
     constexpr std::string_view Mark("L\0\0\0\1\x14\2\0\0\0\0\0\xC0\0\0\0\0\0\0F", 20);
-    constexpr std::size_t kHeaderSize = 76;
+    constexpr std::size_t HeaderSize = 76;
     if (!bytes_.starts_with(Mark)) return std::nullopt;
     flags_ = Number(Mark.size(), 4);
-    at_ = kHeaderSize;
+    at_ = HeaderSize;
     if (Has(0)) at_ += 2 + Number(at_, 2);
     const std::string local = Has(1) ? LocalPath() : std::string();
     if (Has(2)) Text();  // the description
@@ -111,10 +111,10 @@ class LinkReader {
 
   /// LinkInfo: the path of the target when the link was made, in two parts.
   std::string LocalPath() {
-    constexpr std::size_t kHasLocalPath = 1;
+    constexpr std::size_t HasLocalPath = 1;
     const std::size_t begin = at_;
     at_ += Number(begin, 4);
-    if ((Number(begin + 8, 4) & kHasLocalPath) == 0) return {};
+    if ((Number(begin + 8, 4) & HasLocalPath) == 0) return {};
     return AnsiText(begin + Number(begin + 16, 4)) + AnsiText(begin + Number(begin + 24, 4));
   }
 
@@ -132,16 +132,22 @@ class LinkReader {
   bool isWhole_ = true;
 };
 
+std::string_view Trimmed(std::string_view line) {
+  constexpr std::string_view Blanks = " \t\r";
+  line.remove_prefix(std::min(line.find_first_not_of(Blanks), line.size()));
+  return line.substr(0, line.find_last_not_of(Blanks) + 1);
+}
+
 /// The value of URL in the section InternetShortcut. It may be longer than a setting of a disc.
 std::string_view AddressIn(std::string_view text) {
-  constexpr std::string_view kKey = "URL=", kBlanks = " \t\r";
+  constexpr std::string_view Key = "URL=";
   bool inSection = false;
   while (!text.empty()) {
-    const std::string_view line = Trimmed(text.substr(0, text.find('\n')), kBlanks);
+    const std::string_view line = Trimmed(text.substr(0, text.find('\n')));
     text.remove_prefix(std::min(text.find('\n'), text.size() - 1) + 1);
     if (line.starts_with('[')) inSection = EqualNoCaseAscii(line, "[InternetShortcut]");
-    if (inSection && EqualNoCaseAscii(line.substr(0, kKey.size()), kKey))
-      return Trimmed(line.substr(kKey.size()), kBlanks);
+    if (inSection && EqualNoCaseAscii(line.substr(0, Key.size()), Key))
+      return Trimmed(line.substr(Key.size()));
   }
   return {};
 }
@@ -160,13 +166,13 @@ std::string Decoded(std::string_view address) {
 }
 
 std::optional<Shortcut> ReadAddress(std::string_view bytes) {
-  constexpr std::string_view kFileScheme = "file:";
+  constexpr std::string_view FileScheme = "file:";
   const std::string_view address = AddressIn(bytes);
   if (address.empty()) return std::nullopt;
-  if (!EqualNoCaseAscii(address.substr(0, kFileScheme.size()), kFileScheme))
+  if (!EqualNoCaseAscii(address.substr(0, FileScheme.size()), FileScheme))
     return Shortcut{.address = FromWindows1250(address)};
-  std::string_view path = address.substr(kFileScheme.size());
-  path.remove_prefix(std::min(path.find_first_not_of(kSeparators), path.size()));
+  std::string_view path = address.substr(FileScheme.size());
+  path.remove_prefix(std::min(path.find_first_not_of(Separators), path.size()));
   return Shortcut{.targets = {OnDisc(FromWindows1250(Decoded(path)))}};
 }
 

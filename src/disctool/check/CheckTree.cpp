@@ -25,7 +25,7 @@ class Depths {
   void Find() {
     Order();
     depth.assign(tree_.nodes.size(), 0);
-    // Every node stands in `finished_` after those that it leads to.
+    // Every node stands in `finished_` behind those that it leads to.
     for (auto at = finished_.rbegin(); at != finished_.rend(); ++at) {
       for (const MenuItem& item : tree_.nodes[*at].items) {
         if (!isBackwards_.contains(&item)) depth[item.node] = std::max(depth[item.node], depth[*at] + 1);

@@ -20,9 +20,7 @@ std::string DidYouMean(std::string_view name, const std::vector<std::string_view
 }
 
 /// Whether anything may be given in the place of the discs that are missing.
-bool NeedsNoArgument(const Request& request) {
-  return request.Has("clear-cache") || request.Has("from") || request.Has("explain");
-}
+bool NeedsNoArgument(const Request& request) { return request.Has("clear-cache") || request.Has("explain"); }
 
 /// "500M" or "4G" in bytes; the units are powers of 1000.
 std::optional<std::uintmax_t> SizeIn(std::string_view text) {

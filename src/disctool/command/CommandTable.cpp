@@ -80,6 +80,17 @@ constexpr ExampleInfo kLibraryExamples[] = {
 constexpr ExampleInfo kTracksExamples[] = {
     {"orvanta-disc tracks disc.cue music", Translatable("Writes music/track-02.wav and so on.")}};
 
+constexpr OptionInfo kExportOptions[] = {
+    {"single-file", "",
+     Translatable("Make OUT one HTML file that works from a local disk, for discs under 100 MB.")},
+    {"page", "FOLDER",
+     Translatable("Take the page's program from FOLDER instead of where it was installed.")}};
+constexpr ExampleInfo kExportExamples[] = {
+    {"orvanta-disc export disc.iso site",
+     Translatable("Makes a page; put the folder site on any web server.")},
+    {"orvanta-disc export --single-file disc.iso disc.html",
+     Translatable("Makes one file; open it in a browser.")}};
+
 constexpr ExampleInfo kGetExamples[] = {
     {"orvanta-disc get my-disc HEADLINE Caption", Translatable("Writes the title of a disc.")}};
 
@@ -134,6 +145,13 @@ constexpr CommandInfo kCommands[] = {
          "has changed."),
      {},
      kLibraryExamples},
+    {"export", "DISC OUT", Translatable("Make a web page that runs the disc"),
+     Translatable("Makes a folder that any static web server serves: the disc's own menus, live in a "
+                  "browser, with its "
+                  "pictures, sounds and films. What browsers cannot play is converted. OUT is a new or empty "
+                  "folder, or "
+                  "an earlier export, which is renewed."),
+     kExportOptions, kExportExamples},
     {"get",
      "DISC SECTION KEY",
      Translatable("Look up a setting"),

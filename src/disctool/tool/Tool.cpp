@@ -13,6 +13,7 @@
 #include "disctool/command/CommandHelp.h"
 #include "disctool/command/DiscCommands.h"
 #include "disctool/disc/Catalogue.h"
+#include "disctool/export/WebExport.h"
 #include "disctool/gallery/Library.h"
 #include "disctool/image/DiscCache.h"
 #include "disctool/image/OpenTree.h"
@@ -100,6 +101,18 @@ int Library(const Request& request, int& argc, char** argv) {
   return status;
 }
 
+int Export(const Request& request, int&, char**) {
+  return WithDisc(request, [&](const fs::path& folder) {
+    const fs::path page = request.Has("page") ? fs::path(request.Option("page")) : InstalledPage();
+    const ExportResult result = WithProgress(Translated("Converting"), [&](const Progress& progress) {
+      return ExportDisc(FolderTree(folder), page, request.words[1], request.Has("single-file"), progress);
+    });
+    int status = kGood;
+    for (const std::string& problem : result.problems) status = Outcome(problem);
+    return status;
+  });
+}
+
 int Get(const Request& request, int&, char**) {
   std::string problem;
   const auto disc = OpenTree(request.words[0], problem);
@@ -126,8 +139,8 @@ struct Runner {
 /// One for each command of the table.
 constexpr Runner kRunners[] = {{"open", Open},       {"info", RunInfo},    {"check", Check},
                                {"tree", RunTree},    {"find", RunFind},    {"diff", RunDiff},
-                               {"gallery", Gallery}, {"library", Library}, {"get", Get},
-                               {"tracks", Tracks},   {"new", New}};
+                               {"gallery", Gallery}, {"library", Library}, {"export", Export},
+                               {"get", Get},         {"tracks", Tracks},   {"new", New}};
 
 int Dispatch(const Request& request, int& argc, char** argv) {
   if (!request.problem.empty()) return Misuse(request);

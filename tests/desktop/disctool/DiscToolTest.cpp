@@ -53,7 +53,7 @@ struct DiscTool : testing::Test {
 
 TEST_F(DiscTool, TellsMisuseFromFaults) {
   for (const std::string& misuse :
-       {std::string(), std::string("bogus"), std::string("tree"), "tree " + folder + " x",
+       {std::string(), std::string("bogus"), std::string("tree"), "gallery " + folder,
         "tree --strict " + folder, "get " + folder + " GLOBAL"})
     EXPECT_EQ(Run(misuse), 2) << misuse;
   EXPECT_EQ(Run("tree /nowhere"), 4);
@@ -62,7 +62,7 @@ TEST_F(DiscTool, TellsMisuseFromFaults) {
   EXPECT_EQ(output, "Płyta próbna\n");
   EXPECT_EQ(Run("--help"), 0);
   for (const char* command :
-       {"open", "info", "check", "tree", "find", "diff", "gallery", "library", "get", "new"})
+       {"open", "info", "check", "tree", "find", "diff", "gallery", "library", "export", "get", "new"})
     EXPECT_TRUE(Told(std::string("\n  ") + command + " "));
   EXPECT_EQ(Run("open " + folder, "-u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM"), 1);
   EXPECT_TRUE(Told("no display"));
@@ -154,6 +154,32 @@ TEST_F(DiscTool, ALibraryHoldsManyDiscsAndRenewsWhatHasChanged) {
   second.Entry("Żółw", {{"Execute", "%:\\setup.exe"}, {"Note", "Powoli"}});
   ASSERT_EQ(Run("library " + there + " " + other), 0) << output;
   EXPECT_NE(ContentOf(out / "search-index.js").find("Powoli"), std::string::npos);
+}
+
+TEST_F(DiscTool, AnExportConvertsOnceWhatBrowsersCannotPlay) {
+  disc.File("loop.au", ContentOf(MediaFiles().Sound("loop.au", {440}, "-c:a pcm_mulaw")));
+  scratch.File("index.html", "<script src=\"page.js\"></script>script-src 'self'");
+  scratch.File("page.js", "let end = '</script>';");
+  scratch.File("page.css", "p {}");
+  scratch.File("orvanta.wasm", "program");
+  const std::string from = "export --page " + scratch.Path().string() + " ";
+  ASSERT_EQ(Run(from + folder + " " + there), 0) << output;
+  const std::string index = ContentOf(out / "disc.json");
+  EXPECT_NE(index.find("\"Data/Menu.ini\": {\"size\": "), std::string::npos) << index;
+  const auto at = index.find("media/");
+  ASSERT_NE(at, std::string::npos) << index;
+  const fs::path converted = out / index.substr(at, index.find('"', at) - at);
+  EXPECT_EQ(ContentOf(converted).substr(0, 4), "OggS");
+  EXPECT_FALSE(fs::exists(out / "disc" / "loop.au")) << "nobody plays the original";
+  const auto made = fs::last_write_time(converted);
+  ASSERT_EQ(Run(from + folder + " " + there), 0) << output;
+  EXPECT_EQ(fs::last_write_time(converted), made);
+  EXPECT_EQ(Run(from + folder + " " + scratch.Path().string()), 1) << "a folder of other things";
+  ASSERT_EQ(Run(from + "--single-file " + folder + " " + there + ".html"), 0) << output;
+  const std::string html = ContentOf(out.string() + ".html");
+  EXPECT_EQ(html.find("src="), std::string::npos);
+  EXPECT_NE(html.find("script-src 'sha256-"), std::string::npos) << html.substr(0, 400);
+  EXPECT_NE(html.find("'<\\/script>'"), std::string::npos) << "the script would end there";
 }
 
 // Wide open numbers, missing art, a page of 40,000 pixels, a chain of menus deeper than the disc allows.
