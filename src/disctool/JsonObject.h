@@ -7,7 +7,7 @@
 
 namespace orvanta {
 
-/// A JSON object in the making, in one line.
+/// Builds a JSON object on one line.
 class JsonObject {
  public:
   JsonObject& Text(std::string_view name, std::string_view utf8);
@@ -15,7 +15,7 @@ class JsonObject {
     return Value(name, std::to_string(value));
   }
   JsonObject& Flag(std::string_view name, bool value) { return Value(name, value ? "true" : "false"); }
-  /// `json` is a value that is already written.
+  /// `json` is a complete JSON value.
   JsonObject& Value(std::string_view name, std::string_view json);
 
   std::string Done() const { return "{" + members_ + "}"; }
@@ -24,11 +24,11 @@ class JsonObject {
   std::string members_;
 };
 
-/// An array of values that are already written.
+/// An array of complete JSON values.
 std::string JsonArray(std::span<const std::string> values);
 
-/// How each line of `--json` begins: the version of its form, which counts up when a field goes or changes
-/// its meaning, and the disc as its user named it.
+/// The beginning of each line of `--json`: the version of the format, which is raised when a field is removed
+/// or changes its meaning, and the disc as the user wrote it.
 JsonObject JsonLine(std::string_view disc);
 
 }  // namespace orvanta

@@ -7,8 +7,7 @@ namespace orvanta {
 class DiscProbe;
 class DiscTree;
 
-/// Everything that is wrong with a disc, sorted. Never fails: a folder without a disc is a finding too.
-/// `deep` decodes sounds and films whole.
+/// Finds everything that is wrong with a disc, sorted. Never fails: a folder without a disc is a finding too.
 Findings CheckDisc(const DiscTree& disc, DiscProbe& probe, bool deep = false);
 
 }  // namespace orvanta

@@ -1,4 +1,4 @@
-// Names of fonts, which must be in the disc's files to be sure of them.
+// Checks the names of fonts. Only names in the disc's own font files are sure to work.
 
 #include <algorithm>
 #include <string>
@@ -12,7 +12,7 @@ namespace {
 
 constexpr const char* kSections[] = {"HEADLINE", "MENUITEM"};
 
-/// The names in the two font files; the shell knows both for every text.
+/// The names in the two font files; the shell can use both for every text.
 std::vector<std::string> NamesOnDisc(CheckJob& job) {
   std::vector<std::string> names;
   for (const char* section : kSections) {

@@ -1,4 +1,4 @@
-// Sliders that cannot be moved.
+// Finds sliders that cannot be moved.
 
 #include <string>
 
@@ -13,7 +13,7 @@ int Pixels(const CheckJob& job, std::string_view section, std::string_view key) 
   return WholeOf(job.catalogue.Find(section, key).value);
 }
 
-/// A slider: the keys of its section, the box that it lies in and whether this disc needs it.
+/// A slider: its section, the box that contains it, and whether this disc needs it.
 struct SliderPlace {
   std::string_view section, knob;
   Size box;
@@ -43,7 +43,7 @@ void CheckSlider(CheckJob& job, const SliderPlace& slider) {
                          Translated("the knob of the slider leaves its area"));
 }
 
-/// Whether a list of so many labels is higher than the menu area.
+/// Whether a list of this many labels is taller than the menu area.
 bool Overflows(const CheckJob& job, int items, bool isRoot, int areaHeight) {
   const int first = Pixels(job, "MENUITEM", "LabelPosY");
   const int top = isRoot ? first : 2 * first + kLabelHeight + kSubmenuGap;

@@ -1,4 +1,4 @@
-// What stands in the files otherwise than the lookup takes it.
+// Finds text in the files that the lookup reads differently from how it looks.
 
 #include <algorithm>
 #include <string>
@@ -47,7 +47,7 @@ bool HidesTheFile(const IniRemark& remark) {
   return remark.kind == Kind::Utf16 || remark.kind == Kind::ByteOrderMark;
 }
 
-/// One finding for each kind: a file in a wrong encoding is one fault, not one in every line.
+/// One finding for each kind: a file in the wrong encoding is one fault, not one in every line.
 void Remarks(CheckJob& job, const Catalogue::File& file) {
   for (const RemarkText& text : kTexts) {
     int count = 0, first = 0;

@@ -1,4 +1,4 @@
-// Links that work only where the disc is made.
+// Finds links that only work where the disc is made.
 
 #include "disctool/check/CheckJob.h"
 #include "disctool/disc/DiscWalk.h"

@@ -1,4 +1,4 @@
-// The fixed sections by the table of keys.
+// Checks the fixed sections against the table of keys.
 
 #include <algorithm>
 #include <cmath>
@@ -12,7 +12,7 @@
 namespace orvanta {
 namespace {
 
-/// Whether anything of this disc asks for the key.
+/// Whether this disc needs the key.
 enum class Asked { Yes, NotYet, Never };
 
 Asked IsAsked(const CheckJob& job, const SchemaKey& key) {
@@ -85,7 +85,7 @@ void Malformed(CheckJob& job, const SchemaKey& key, const Setting& found) {
 
 bool IsNoSection(const CheckJob& job, std::string_view section) { return !job.catalogue.HasSection(section); }
 
-/// One finding for a section that is not there, rather than one for each of its keys.
+/// One finding for a missing section instead of one for each of its keys.
 void MissingSection(CheckJob& job, std::string_view section) {
   const auto mandatory = [&](const SchemaKey& key) {
     return key.section == section && key.presence == Presence::Mandatory;
@@ -101,7 +101,7 @@ void MissingSection(CheckJob& job, std::string_view section) {
   job.findings.Warning(place, "missing-section", text + Translated("; no entry of this disc needs it yet"));
 }
 
-/// Sizes that make something that cannot be seen or used.
+/// Finds sizes for which something cannot be seen or used.
 void Senseless(CheckJob& job) {
   const auto positive = [&](std::string_view section, std::string_view key, const char* what) {
     const Setting found = job.catalogue.Find(section, key);

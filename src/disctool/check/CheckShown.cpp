@@ -1,4 +1,4 @@
-// What the shell shows where nobody can see or click it, by its own controls.
+// Finds what cannot be seen or clicked, using the shell's own controls.
 
 #include <algorithm>
 #include <span>
@@ -15,7 +15,7 @@
 namespace orvanta {
 namespace {
 
-/// A control's area and the part of it that its containers let through, in pixels of the form.
+/// The area of a control and the part of it that its containers do not clip, in pixels of the form.
 struct Shown {
   Rect whole, seen;
 };
@@ -33,14 +33,14 @@ Shown ShownOf(const Control& control) {
   return shown;
 }
 
-/// A control, the keys of its place and what it is called.
+/// A control, the keys of its position, and its name for messages.
 struct PlacedControl {
   const Control& control;
   std::string_view section, left, top;
   std::string what;
 };
 
-/// The setting that the maker has to change: the one of the axis on which the control is out of sight.
+/// The setting that the maker has to change: that of the axis on which the control is not visible.
 Setting PlaceOf(const CheckJob& job, const PlacedControl& placed, const Shown& shown) {
   const bool sideways = shown.whole.left >= kMainWindow.width || shown.whole.Right() <= 0;
   const bool beyond = shown.whole.top >= kMainWindow.height || shown.whole.Bottom() <= 0;
@@ -49,7 +49,7 @@ Setting PlaceOf(const CheckJob& job, const PlacedControl& placed, const Shown& s
 
 void Outside(CheckJob& job, const PlacedControl& placed, const Shown& shown) {
   const Setting at = PlaceOf(job, placed, shown);
-  // One that is missing is reported as such.
+  // A missing one is reported as such.
   if (!at || shown.whole.Empty()) return;
   job.findings.Error(at.place, "outside", Translated("%1 lies outside the window", placed.what));
 }
@@ -69,7 +69,7 @@ bool AnyInOutline(const Region& outline, const Rect& area) {
   return false;
 }
 
-/// Calls `check` with each button that the disc has art and a place for.
+/// Calls `check` with each button that has art and a position on the disc.
 template <class Check>
 void ForEachButton(CheckJob& job, std::span<const ButtonKeys> keys, const ControlArray<Image>& buttons,
                    Check check) {
@@ -85,7 +85,7 @@ void Buttons(CheckJob& job, const MainForm& main) {
   const Region outline = BuildFormRegion();
   ForEachButton(job, kBarButtons, main.ButtonM, [&](const PlacedControl& placed) {
     Shown shown = ShownOf(placed.control);
-    // Art may well run into the corners that the outline cuts off.
+    // Art may reach into the corners that the outline cuts off.
     if (!AnyInOutline(outline, shown.seen)) return Outside(job, placed, shown);
     PartlyOutside(job, placed, shown);
   });
@@ -101,7 +101,7 @@ void Zones(CheckJob& job, const MainForm& main) {
     if (!zone.control.Bounds().Empty()) PartlyOutside(job, zone, ShownOf(zone.control));
 }
 
-/// What may be cut off, and must be seen at all.
+/// Checks controls that may be cut off but must be partly visible.
 void Parts(CheckJob& job, const MainForm& main) {
   const PlacedControl parts[] = {
       {main.picTlo, "GLOBAL", "BackgroundPicX", "BackgroundPicY", Translated("the menu area")},
@@ -118,7 +118,7 @@ void Parts(CheckJob& job, const MainForm& main) {
   }
 }
 
-/// The music's marker is only shown while music plays.
+/// The marker of the music is only shown while music plays.
 void Marker(CheckJob& job, const MainForm& main) {
   const auto pixels = [&](const char* key) { return WholeOf(job.catalogue.Find("GLOBAL", key).value); };
   const Rect size = main.S2.Bounds();

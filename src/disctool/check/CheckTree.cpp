@@ -1,4 +1,4 @@
-// The menu tree: ways that lead nowhere, too deep or round in circles, and what an entry lacks.
+// Checks the menu tree: items that lead nowhere, too deep or in circles, and what entries lack.
 
 #include <algorithm>
 #include <string>
@@ -14,7 +14,7 @@
 namespace orvanta {
 namespace {
 
-/// The longest way to each node, and the items that lead back to where their own way came from.
+/// The longest path to each node, and the items that lead back to a menu that contains them.
 class Depths {
  public:
   explicit Depths(const MenuTree& tree) : tree_(tree), state_(tree.nodes.size()) {}
@@ -25,7 +25,7 @@ class Depths {
   void Find() {
     Order();
     depth.assign(tree_.nodes.size(), 0);
-    // Every node stands in `finished_` behind those that it leads to.
+    // In `finished_` each node comes after those that it leads to.
     for (auto at = finished_.rbegin(); at != finished_.rend(); ++at) {
       for (const MenuItem& item : tree_.nodes[*at].items) {
         if (!isBackwards_.contains(&item)) depth[item.node] = std::max(depth[item.node], depth[*at] + 1);
@@ -39,7 +39,7 @@ class Depths {
     std::size_t node, next;
   };
 
-  /// Depth first, with a stack of its own: a disc decides how deep it goes.
+  /// Walks depth first and does not recurse, since the disc decides how deep the tree is.
   void Order() {
     std::vector<Step> way{{0, 0}};
     state_[0] = State::Open;
@@ -80,7 +80,7 @@ void TooDeep(CheckJob& job) {
     if (depths.depth[i] > most) continue;
     for (const MenuItem& item : job.tree.nodes[i].items) {
       const MenuNode& node = job.tree.nodes[item.node];
-      // An inert item is not entered and takes no level.
+      // An inert item is not entered, so it does not count as a level.
       if (depths.depth[item.node] == most + 1 && depths.depth[i] == most && node.kind != NodeKind::Inert)
         job.findings.Error(
             item.place, "too-deep",
@@ -89,7 +89,7 @@ void TooDeep(CheckJob& job) {
   }
 }
 
-/// Names of sections that nothing leads to: one of them may be what an item was meant to lead to.
+/// The names of sections that nothing leads to; an item may have been meant to lead to one of them.
 std::vector<std::string> Unreached(const CheckJob& job) {
   std::vector<std::string> names;
   for (const Catalogue::File& file : job.catalogue.Files()) {
@@ -102,7 +102,7 @@ std::vector<std::string> Unreached(const CheckJob& job) {
 }
 
 void Inert(CheckJob& job) {
-  // Comparing every item with every section is for discs with a few faults, not for those made of them.
+  // Comparing every item with every section only makes sense for discs with few faults.
   constexpr std::size_t kMostCandidates = 200;
   constexpr int kMostHints = 50;
   std::vector<std::string> names = Unreached(job);

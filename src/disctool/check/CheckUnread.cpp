@@ -1,4 +1,4 @@
-// Sections and keys that nothing reads.
+// Finds sections and keys that nothing reads.
 
 #include <algorithm>
 #include <charconv>
@@ -14,8 +14,8 @@
 namespace orvanta {
 namespace {
 
-/// The number after `prefix` in a key; nothing if the key is not of that run, 0 if the run cannot have that
-/// number.
+/// The number after `prefix` in a key; nothing if the key does not belong to that run, and 0 if the run
+/// cannot have that number.
 std::optional<int> NumberInRun(std::string_view key, std::string_view prefix) {
   if (key.size() <= prefix.size() || !EqualNoCase(key.substr(0, prefix.size()), prefix)) return std::nullopt;
   const std::string_view digits = key.substr(prefix.size());
@@ -27,7 +27,7 @@ std::optional<int> NumberInRun(std::string_view key, std::string_view prefix) {
 
 class Section {
  public:
-  /// `schema` is the section's name in the table of keys.
+  /// `schema` is the name of the section in the table of keys.
   Section(CheckJob& job, std::string name, std::string_view schema)
       : job_(job), name_(std::move(name)), schema_(schema) {}
 
@@ -45,7 +45,7 @@ class Section {
   }
 
  private:
-  /// Whether the table has the key; a number of a run that nothing asks for is reported.
+  /// Whether the table has the key; reports a number of a run that nothing reads.
   bool Known(const DiscPlace& place, const std::string& key, std::string_view schema) {
     for (const SchemaKey& known : kSchema) {
       if (known.section != schema) continue;
@@ -80,7 +80,7 @@ class Section {
                          Naming(name_, key), kLongestRun));
   }
 
-  /// The key that was most likely meant. One of a run has the digits of the key, wherever they stand.
+  /// The key that was most likely meant. For numbered keys the digits must match, wherever they are.
   std::string NearestKey(const std::string& key) const {
     std::string digits;
     for (const char c : key)
@@ -118,7 +118,7 @@ class Section {
                             Translated("%1 is never read: '%2' is a menu", Naming(name_, key), name_));
   }
 
-  /// A value of the second file that the first file has too.
+  /// Reports a key of the second file that the first file has too.
   void Hidden(const DiscPlace& place, const std::string& key) {
     const Setting found = job_.catalogue.Find(name_, key);
     if (!found || found.place.file == place.file) return;

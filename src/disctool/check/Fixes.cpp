@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 
-/// A line in Windows-1250, without its end.
+/// A line in Windows-1250, without its line break.
 struct TextLine {
   std::string text, end;
 };
@@ -37,7 +37,7 @@ std::string Joined(const std::vector<TextLine>& lines) {
   return text;
 }
 
-/// The file in Windows-1250; nothing if it has a letter beyond that.
+/// The file in Windows-1250; nothing if it has a letter that the code page lacks.
 std::optional<std::string> Recoded(std::string_view bytes, bool& changed) {
   changed = true;
   if (LooksLikeUtf16(bytes)) return ToWindows1250(Utf8OfUtf16(bytes));
@@ -54,7 +54,7 @@ std::optional<std::string> Recoded(std::string_view bytes, bool& changed) {
   return Joined(lines);
 }
 
-/// The encoding and the ends of the lines.
+/// Mends the encoding and the line breaks.
 FileFix WholeFile(const std::string& path, const std::string& bytes) {
   FileFix fix;
   fix.path = path;
@@ -76,7 +76,8 @@ FileFix WholeFile(const std::string& path, const std::string& bytes) {
   return fix;
 }
 
-/// The line with another value of the same length. The drive that the lookup put in stays a percent sign.
+/// The line with another value of the same length. The percent sign that the lookup replaces with the drive
+/// is kept.
 std::string WithValue(const std::string& line, const std::string& mended) {
   const auto value = ToWindows1250(mended);
   const auto equals = line.find('=');
@@ -89,7 +90,7 @@ std::string WithValue(const std::string& line, const std::string& mended) {
   return line;
 }
 
-/// What the findings at each line of a file ask for: a value, or that the line goes.
+/// What the findings at each line of a file ask for: another value, or that the line is removed.
 std::map<int, std::optional<std::string>> Asked(const Findings& findings, const std::filesystem::path& file) {
   std::map<int, std::optional<std::string>> asked;
   std::map<int, bool> disputed;
@@ -98,7 +99,7 @@ std::map<int, std::optional<std::string>> Asked(const Findings& findings, const 
     if (finding.id == "key-twice") asked[finding.place.line] = std::nullopt;
     if (finding.id != "other-case") continue;
     const auto [at, isNew] = asked.try_emplace(finding.place.line, finding.mended);
-    // The three pictures of a button may be spelled in different ways.
+    // The three pictures of a button may be spelled differently.
     if (finding.mended.empty() || (!isNew && at->second != finding.mended))
       disputed[finding.place.line] = true;
   }
@@ -150,7 +151,7 @@ std::string FixText(const DiscTree& disc, const FileFix& fix) {
   int gone = 0;
   for (const FileFix::Line& line : fix.lines) {
     const std::string from = std::to_string(line.number);
-    // The form of a unified diff without lines around the change (POSIX, diff -u).
+    // The format of a unified diff without context (POSIX, diff -u).
     const std::string to =
         line.after ? std::to_string(line.number - gone) : std::to_string(line.number - gone - 1) + ",0";
     text += "@@ -" + from + " +" + to + " @@\n-" + Printable(line.before) + "\n";

@@ -14,28 +14,28 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A new folder of the user's own; empty if there can be none.
+/// A new folder that only the user may enter; empty if it cannot be created.
 fs::path MakeFolder() {
   std::error_code error;
   std::string name = (fs::temp_directory_path(error) / "orvanta-check-XXXXXX").string();
   return mkdtemp(name.data()) ? fs::path(name) : fs::path();
 }
 
-/// The fixed sections and the first menu. A disc may have a hundred thousand others, which the shell would
-/// search for each setting.
+/// The fixed sections and the first menu. A disc may have a hundred thousand other sections, which the shell
+/// would search for each setting.
 std::string WithoutEntries(const IniFile& ini) {
   std::string text;
   for (const IniSection& section : ini.sections) {
     const std::string name = FromWindows1250(section.name);
     if (FixedSection(name).empty() && !EqualNoCase(name, "MAINMENU")) continue;
     text += "[" + section.name + "]\r\n";
-    // In quotes a value keeps its blanks and its own quotes.
+    // A quoted value keeps its blanks and its own quotes.
     for (const IniEntry& entry : section.entries) text += entry.key + "=\"" + entry.value + "\"\r\n";
   }
   return text;
 }
 
-/// Null if the form does not get through its start.
+/// Null if loading the form fails.
 template <class Slot>
 auto Loaded(Slot& slot) -> decltype(slot.Loaded()) {
   try {

@@ -8,9 +8,9 @@
 
 namespace orvanta {
 
-/// The shell with a disc, on a host without a screen: what its windows show is what a user will see. It gets
-/// a folder with the settings but those of entries and, for each picture of the windows, a file of that name;
-/// how large the picture is, the check knows.
+/// The shell with a disc, on a host without a screen: its windows show what a user would see. It gets a
+/// folder with all settings except those of entries and, for each picture of the windows, a file of that
+/// name. The check knows how large each picture is.
 class ShownDisc {
  public:
   explicit ShownDisc(CheckJob& job);
@@ -18,13 +18,13 @@ class ShownDisc {
   ShownDisc& operator=(const ShownDisc&) = delete;
   ~ShownDisc();
 
-  /// The main window with the first menu. Null if the shell does not get that far.
+  /// The main window with the first menu. Null if the shell fails before.
   const MainForm* Main();
-  /// The cinema before its film. Null as above.
+  /// The cinema before its film starts. Null as above.
   const frmKino* Kino();
 
  private:
-  /// Knows the sizes of pictures from the check.
+  /// A host that gets the sizes of pictures from the check.
   class Host : public HeadlessHost {
    public:
     Host(std::filesystem::path folder, CheckJob& job) : HeadlessHost(std::move(folder)), job_(job) {}

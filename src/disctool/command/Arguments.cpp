@@ -19,7 +19,7 @@ std::string DidYouMean(std::string_view name, const std::vector<std::string_view
   return nearest.empty() ? std::string() : Translated("; did you mean %1?", nearest);
 }
 
-/// Whether anything may be given in the place of the discs that are missing.
+/// Whether the missing discs are not needed.
 bool NeedsNoArgument(const Request& request) { return request.Has("clear-cache") || request.Has("explain"); }
 
 /// "500M" or "4G" in bytes; the units are powers of 1000.
@@ -37,7 +37,7 @@ std::optional<std::uintmax_t> SizeIn(std::string_view text) {
   return size;
 }
 
-/// Whether an option takes a value.
+/// Whether the value is valid for the option.
 bool Fits(const OptionInfo& option, const std::string& value) {
   if (option.name == "cache-limit") return SizeIn(value).has_value();
   if (option.name != "zoom") return true;

@@ -10,13 +10,13 @@ namespace {
 
 constexpr std::size_t kWidth = 79;
 
-/// How many places a text in UTF-8 takes at a terminal, for letters that take one each.
+/// The width of a text in UTF-8 on a terminal, for letters of width one.
 std::size_t Places(std::string_view utf8) {
   return static_cast<std::size_t>(
       std::ranges::count_if(utf8, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
-/// `text` in lines, each but the first after `indent` blanks; the first begins at `column`.
+/// `text` wrapped into lines. The first begins at `column`, the others after `indent` blanks.
 std::string Wrapped(std::string_view text, std::size_t column, std::size_t indent) {
   std::string lines;
   while (!text.empty()) {
@@ -37,7 +37,7 @@ std::string Wrapped(std::string_view text, std::size_t column, std::size_t inden
   return lines + "\n";
 }
 
-/// "  name    text", the text in a column of its own.
+/// "  name    text", with the text in its own column.
 std::string Row(const std::string& name, const std::string& text, std::size_t column) {
   std::string row = "  " + name;
   row.append(std::max(column, Places(row) + 2) - Places(row), ' ');

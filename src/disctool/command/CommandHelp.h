@@ -7,17 +7,18 @@
 
 namespace orvanta {
 
-// All of these are made from the table of commands, in the user's language.
+// All of these texts are made from the table of commands, in the user's language.
 
-/// What `--help` writes.
+/// The output of `--help`.
 std::string HelpText();
-/// What `COMMAND --help` writes.
+/// The output of `COMMAND --help`.
 std::string HelpText(const CommandInfo& command);
 
-/// A manual page (groff_man) of a command, or of the tool if `name` is "orvanta-disc"; empty for other names.
+/// The manual page (groff_man) of a command, or of the tool if `name` is "orvanta-disc"; empty for any other
+/// name.
 std::string ManPage(std::string_view name, std::string_view version);
 
-/// The completions for bash, zsh or fish; empty for other shells.
+/// The completion script for bash, zsh or fish; empty for any other shell.
 std::string Completion(std::string_view shell);
 
 }  // namespace orvanta

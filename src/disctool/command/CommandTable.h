@@ -5,10 +5,10 @@
 
 namespace orvanta {
 
-/// An option of a command. Texts for the user are translated where they are written.
+/// An option of a command. Texts for the user are translated when they are shown.
 struct OptionInfo {
   std::string_view name;   ///< without the dashes
-  std::string_view value;  ///< what stands for its value in help; empty if it takes none
+  std::string_view value;  ///< the name of its value in help; empty if it takes none
   const char* help;
 };
 
@@ -17,12 +17,11 @@ struct ExampleInfo {
   const char* help;
 };
 
-/// All that is known of a command before it runs: help, man pages, completions and the reading of arguments
-/// come from here.
+/// Everything about a command before it runs: help, manual pages, completions and the parser all use it.
 struct CommandInfo {
   std::string_view name;
-  /// Its arguments, parted by blanks: DISC, A and B are discs, DIR and OUT folders. The last may end in
-  /// "...".
+  /// Its arguments, separated by blanks: DISC, A and B are discs, DIR and OUT folders. The last one may end
+  /// in "...".
   std::string_view arguments;
   const char* summary;
   const char* description;
@@ -30,10 +29,10 @@ struct CommandInfo {
   std::span<const ExampleInfo> examples;
 };
 
-/// In the order in which help lists them.
+/// All commands, in the order in which help lists them.
 std::span<const CommandInfo> Commands();
 
-/// Null if there is none of that name.
+/// The command of that name; null if there is none.
 const CommandInfo* FindCommand(std::string_view name);
 
 }  // namespace orvanta

@@ -1,4 +1,4 @@
-// Completions from the table of commands.
+// Completion scripts, made from the table of commands.
 
 #include "disctool/Translation.h"
 #include "disctool/command/Arguments.h"
@@ -7,7 +7,7 @@
 namespace orvanta {
 namespace {
 
-/// What an argument or the value of an option is, by its name in the table.
+/// What an argument or the value of an option is, according to its name in the table.
 enum class Wanted { Disc, Folder, File, Command, Shell, Text };
 
 Wanted WantedFor(std::string_view name) {
@@ -93,7 +93,7 @@ std::string Bash() {
   return script + "  esac\n} && complete -F _orvanta_disc orvanta-disc\n";
 }
 
-/// Text between single quotes of zsh and fish, without what `_arguments` takes for syntax.
+/// Text for single quotes in zsh and fish, without the characters that `_arguments` interprets.
 std::string Quotable(const std::string& text) {
   std::string safe;
   for (const char c : text) {

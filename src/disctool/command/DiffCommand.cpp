@@ -38,7 +38,7 @@ std::string FileText(const DiscDiff::File& file) {
   return Line("~ " + file.path + ": " + Translated("%1 bytes, before %2", *file.after, *file.before));
 }
 
-/// A heading and what follows it; nothing if nothing does.
+/// A heading and its lines; empty if there are none.
 template <class Change, class Text>
 std::string Part(const std::string& heading, const std::vector<Change>& changes, Text text) {
   std::string lines;

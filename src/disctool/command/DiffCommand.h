@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// What `diff` says of two discs, a change in each line. Faults if there is any.
+/// The output of `diff` for two discs: a line for each change. Faults if there is any.
 DiscReport DiffReport(const DiscTree& before, const DiscTree& after, DiscProbe& probe, bool json);
 
 }  // namespace orvanta

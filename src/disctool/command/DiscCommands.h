@@ -9,8 +9,7 @@ namespace orvanta {
 class DiscProbe;
 class DiscTree;
 
-/// What a command of the tool ends with. A command over many discs may end with the sum of `kFaults` and
-/// `kUnread`.
+/// The exit status of a command. A command for many discs may return the sum of `kFaults` and `kUnread`.
 enum ExitStatus : int {
   kGood = 0,
   kFaults = 1,  ///< something is wrong with a disc, or nothing was found
@@ -19,7 +18,7 @@ enum ExitStatus : int {
   kInterrupted = 130  ///< as a shell gives it for a program that was interrupted
 };
 
-/// What a command has to say of one disc.
+/// The result of a command for one disc.
 struct DiscReport {
   std::string text{};     ///< for the standard output
   std::string problem{};  ///< why the disc could not be read; empty if it could
@@ -33,11 +32,11 @@ struct CheckOptions {
   bool sarif = false;   ///< write lines for `SarifLog`
 };
 
-/// Everything that is wrong with a disc. Faults if there is an error.
+/// The report of everything that is wrong with a disc. Faults if there is an error.
 DiscReport CheckReport(const DiscTree& disc, DiscProbe& probe, const CheckOptions& options);
-/// The menu tree; `heading` puts the disc's name above it.
+/// The menu tree of a disc; with `heading`, the name of the disc is put above it.
 DiscReport TreeReport(const DiscTree& disc, bool json, bool heading);
-/// Writes the value of a key as the shell looks it up. Faults if it is empty or missing.
+/// Writes the value of a key as the shell finds it. Faults if it is empty or missing.
 ExitStatus GetCommand(const DiscTree& disc, std::string_view section, std::string_view key,
                       std::ostream& out);
 

@@ -14,7 +14,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-/// Section and key as they are matched, with their spelling.
+/// Maps section and key, folded, to their spelling.
 using KeyMap = std::map<std::pair<std::string, std::string>, std::pair<std::string, std::string>>;
 
 void AddKeys(KeyMap& keys, const Catalogue& catalogue) {
@@ -26,7 +26,7 @@ void AddKeys(KeyMap& keys, const Catalogue& catalogue) {
       }
 }
 
-/// "Menu3"; such keys are compared as lists.
+/// Whether it is a key such as "Menu3"; these are compared as lists.
 bool IsItem(std::string_view key) {
   constexpr std::string_view kItem = "Menu";
   return key.size() > kItem.size() && EqualNoCase(key.substr(0, kItem.size()), kItem) &&
@@ -54,7 +54,7 @@ Names ItemsOf(const MenuTree& tree, const MenuNode* menu) {
   return items;
 }
 
-/// Those of `names` that `others` lacks, each as often as it lacks it.
+/// The elements of `names` that `others` lacks, as many times as it lacks them.
 Names Lacking(const Names& names, const Names& others) {
   std::multiset<std::string> there;
   for (const std::string& other : others) there.insert(FoldedName(other));
@@ -70,7 +70,7 @@ Names Lacking(const Names& names, const Names& others) {
   return lacking;
 }
 
-/// `names` without those of `gone`, as they are matched.
+/// `names` without those of `gone`, ignoring case.
 Names Staying(const Names& names, const Names& gone) {
   std::multiset<std::string> left;
   for (const std::string& name : gone) left.insert(FoldedName(name));
@@ -109,8 +109,8 @@ bool SameBytes(const DiscTree& before, const DiscFile& was, const DiscTree& afte
   return true;
 }
 
-/// By the marks of the formats that discs have: GIF, BMP, JPEG, PNG. Nothing else is taken from the disc for
-/// its pixels.
+/// Recognises the signatures of GIF, BMP, JPEG and PNG, the formats on discs. Only such files are decoded to
+/// compare pixels.
 bool LooksLikePicture(const DiscTree& disc, const std::string& path) {
   const std::string begin = disc.Read(path, 0, 4).value_or("");
   for (const char* mark : {"GIF8", "BM", "\xFF\xD8", "\x89PNG"})

@@ -11,7 +11,7 @@ namespace orvanta {
 
 class DiscProbe;
 
-/// What changed from one state of a disc to another. An empty text stands for what is not there.
+/// The changes from one state of a disc to another. An empty text means that something is not there.
 struct DiscDiff {
   struct Value {
     std::string section, key, before, after;
@@ -19,15 +19,15 @@ struct DiscDiff {
   struct Menu {
     std::string name;
     std::vector<std::string> removed, added;
-    bool reordered = false;  ///< items that stayed stand in another order
+    bool reordered = false;  ///< whether the common items are in another order
   };
   struct File {
-    std::string path;                             ///< as the later disc spells it, if it has the file
+    std::string path;                             ///< as spelled on the later disc, if it has the file
     std::optional<std::uintmax_t> before, after;  ///< sizes in bytes
-    /// Of two pictures of one size: how many pixels differ.
+    /// For two pictures of the same size: how many pixels differ.
     std::optional<std::uintmax_t> pixels{};
   };
-  std::vector<Value> settings;  ///< of the fixed sections
+  std::vector<Value> settings;  ///< those of the fixed sections
   std::vector<Menu> menus;
   std::vector<Value> texts;  ///< of the menus' entries
   std::vector<File> files;
@@ -35,7 +35,7 @@ struct DiscDiff {
   bool Empty() const { return settings.empty() && menus.empty() && texts.empty() && files.empty(); }
 };
 
-/// Files match whatever the capitals in their names. Configuration files are compared by what they say.
+/// Compares two discs. The case of file names is ignored. Configuration files are compared by their settings.
 DiscDiff Compare(const DiscTree& before, const DiscTree& after, DiscProbe& probe);
 
 }  // namespace orvanta

@@ -12,11 +12,11 @@
 namespace orvanta {
 namespace {
 
-/// Longer ways through the menus are cut in the middle, so that no disc makes the output grow with the square
-/// of its depth.
+/// Longer paths through the menus are cut in the middle; otherwise the output could grow with the square of
+/// the depth.
 constexpr std::size_t kLongestPath = 16;
 
-/// For each node the menu that leads to it on the shortest way; the root leads to itself.
+/// For each node, the menu that leads to it on the shortest path; for the root, the root.
 std::vector<std::size_t> ParentsIn(const MenuTree& tree) {
   std::vector<std::optional<std::size_t>> parents(tree.nodes.size());
   std::vector<std::size_t> queue{0};
@@ -47,13 +47,13 @@ std::vector<std::string> PathTo(const MenuTree& tree, const std::vector<std::siz
   return path;
 }
 
-/// The keys that a node is searched in, beside its name.
+/// The keys of a node that are searched, apart from its name.
 std::vector<std::string> SearchedKeys(NodeKind kind) {
   if (kind == NodeKind::Menu || kind == NodeKind::Inert) return {};
   return {"Note", "System", kind == NodeKind::Program ? "Execute" : "Parameters"};
 }
 
-/// The field with the first of the words; nothing unless every word is in some field.
+/// The field that contains the first of the words; nothing unless each word is in some field.
 std::optional<std::string> Match(const Catalogue& catalogue, const MenuNode& node,
                                  const std::vector<std::string>& words) {
   std::vector<std::string> keys = SearchedKeys(node.kind), texts{PlainLetters(node.name)};

@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Copies the file to a free name beside it. Gives what went wrong.
+/// Copies the file to a free name beside it. Returns what went wrong; empty on success.
 std::string KeepOld(const fs::path& file) {
   constexpr int kMost = 1000;
   std::error_code error;
@@ -25,7 +25,7 @@ std::string KeepOld(const fs::path& file) {
   return file.native() + ": " + Translated("there are too many old files beside it");
 }
 
-/// The file is the old or the new one at every moment.
+/// Replaces the file; at every moment it is either the old or the new one.
 std::string Replace(const fs::path& file, const std::string& bytes) {
   const fs::path part = file.native() + ".part";
   std::error_code error;
@@ -42,7 +42,7 @@ std::string Replace(const fs::path& file, const std::string& bytes) {
   return error ? file.native() + ": " + error.message() : std::string();
 }
 
-/// Writes the mended file. A link stays one: what it leads to is mended.
+/// Writes the mended file. If it is a link, the target is mended.
 std::string Write(const fs::path& named, const std::string& bytes) {
   std::error_code error;
   const fs::path file = fs::canonical(named, error);

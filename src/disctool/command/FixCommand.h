@@ -4,9 +4,9 @@
 
 namespace orvanta {
 
-/// Mends what has one right answer in the configuration files of a folder and shows it as a diff. The old
-/// file stays beside the new one, as Menu.ini.old or with the next free number. `dryRun` only shows it.
-/// Faults if something would change, or could not be mended.
+/// Mends the faults in the configuration files of a folder that have only one right answer, and shows the
+/// changes as a diff. The old file is kept beside the new one, as Menu.ini.old or with the next free number.
+/// `dryRun` only shows the changes. Faults if there are changes, or if a file cannot be mended.
 DiscReport FixReport(const DiscTree& disc, DiscProbe& probe, bool dryRun);
 
 }  // namespace orvanta

@@ -14,30 +14,30 @@
 
 namespace orvanta {
 
-/// A disc at a glance.
+/// The most important facts about a disc.
 struct DiscInfo {
   struct Program {
     std::string entry;
-    std::string file;  ///< as Execute names it
+    std::string file;  ///< as in Execute
     EntryTarget target;
     Runner runner;
   };
 
-  std::string name;                     ///< as its user gave it
+  std::string name;                     ///< as the user wrote it
   std::string title;                    ///< empty if the disc has none
-  std::string label;                    ///< of an image's volume, empty without one
-  std::int64_t oldest = 0, newest = 0;  ///< the files' dates, seconds since 1970 in UTC; 0 if unknown
+  std::string label;                    ///< of the image's volume; empty if there is none
+  std::int64_t oldest = 0, newest = 0;  ///< dates of files in seconds since 1970, UTC; 0 if unknown
   std::uintmax_t bytes = 0, files = 0;
   std::array<std::size_t, kNodeKinds> nodes{};  ///< by `NodeKind`
   std::vector<Program> programs;
   std::size_t errors = 0, warnings = 0;
 };
 
-/// `searchPath` is as in `$PATH`; there the programs' runners are looked for.
+/// `searchPath` is written as in `$PATH`; the runners of programs are looked for there.
 DiscInfo ReadDiscInfo(const DiscTree& disc, const Catalogue& catalogue, const Findings& findings,
                       std::string_view searchPath);
 
-/// A heading with the disc's name and a line for each fact.
+/// A heading with the name of the disc, and a line for each fact.
 std::string InfoText(const DiscInfo& info);
 /// Its fields, added to a line of JSON.
 void AddInfo(JsonObject& line, const DiscInfo& info);
@@ -48,7 +48,7 @@ struct InfoOptions {
   std::string searchPath{};  ///< as in `$PATH`
 };
 
-/// What `info` says of a disc.
+/// The output of `info` for a disc.
 DiscReport InfoReport(const DiscTree& disc, DiscProbe& probe, const InfoOptions& options);
 
 }  // namespace orvanta

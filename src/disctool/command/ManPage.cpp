@@ -1,4 +1,4 @@
-// Manual pages from the table of commands.
+// Manual pages, made from the table of commands.
 
 #include "disctool/Translation.h"
 #include "disctool/command/Arguments.h"
@@ -7,7 +7,7 @@
 namespace orvanta {
 namespace {
 
-/// Text that groff shows as it stands.
+/// Text that groff shows exactly as it is.
 std::string Roff(std::string_view text) {
   std::string escaped;
   for (const char c : text) {
@@ -23,7 +23,7 @@ std::string Roff(std::string_view text) {
   return escaped;
 }
 
-/// The same for prose, where a dash is a hyphen.
+/// The same for prose, where a single dash is a hyphen.
 std::string Prose(std::string text) {
   std::string escaped;
   for (std::size_t i = 0; i < text.size(); ++i) {

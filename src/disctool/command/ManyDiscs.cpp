@@ -18,7 +18,7 @@
 namespace orvanta {
 namespace {
 
-/// Workers run at most so many discs ahead of the one that is written next.
+/// How many discs the workers may be ahead of the one that is written next.
 constexpr std::size_t kMostWaiting = 256;
 
 class Run {

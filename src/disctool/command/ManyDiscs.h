@@ -11,11 +11,11 @@
 
 namespace orvanta {
 
-/// How a command over many discs is run.
+/// How a command runs for many discs.
 struct ManyDiscs {
-  std::vector<std::string> discs;  ///< as the user named them
-  bool json = false;               ///< a disc that could not be read gets a line on the standard output too
-  unsigned workers = 1;            ///< how many discs are looked at together; all cores if 0
+  std::vector<std::string> discs;  ///< as the user wrote them
+  bool json = false;               ///< a disc that could not be read also gets a line on the standard output
+  unsigned workers = 1;            ///< how many discs are read at the same time; 0 means one per core
   std::ostream& out;
   std::ostream& err;
   ProgressBar* bar = nullptr;  ///< shows how many discs are done
@@ -24,12 +24,13 @@ struct ManyDiscs {
   std::function<bool()> stop = [] { return false; };
 };
 
-/// Calls `ask` for every disc, on threads of its own, and writes what it says in the order of the discs. A
-/// disc that cannot be read is reported, and the rest go on. What `ask` throws counts as such a problem.
+/// Calls `ask` for every disc, on separate threads, and writes the reports in the order of the discs. A disc
+/// that cannot be read is reported, and the others are still read. An exception from `ask` counts as such a
+/// problem.
 ExitStatus ReportDiscs(const ManyDiscs& many, const std::function<DiscReport(const std::string& disc)>& ask);
 
-/// The names in a list: one a line, or each ended by a NUL byte if there is one. Empty lines count for
-/// nothing.
+/// The names in a list: one per line or, if it contains a NUL byte, each followed by NUL. Empty lines are
+/// ignored.
 std::vector<std::string> NamesInList(std::string_view list);
 
 }  // namespace orvanta

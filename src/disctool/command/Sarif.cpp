@@ -8,7 +8,7 @@
 namespace orvanta {
 namespace {
 
-/// A path as a URI reference (RFC 3986); an absolute one with its scheme.
+/// A path as a URI reference (RFC 3986); an absolute path gets its scheme.
 std::string UriOf(const std::filesystem::path& file) {
   constexpr std::string_view kPlain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";
   constexpr std::string_view kDigits = "0123456789ABCDEF";

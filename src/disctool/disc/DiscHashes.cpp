@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t kPart = 1024 * 1024;
 
-/// Nothing if the file cannot be read to its end.
+/// The hash of a file; nothing if it cannot be read to its end.
 std::optional<std::string> HashOf(const DiscTree& disc, const DiscFile& file) {
   Sha256 hash;
   for (std::uintmax_t at = 0; at < file.entry.size;) {
@@ -35,7 +35,8 @@ std::optional<std::string> HashOf(const std::filesystem::path& image) {
   return in.eof() ? std::optional(hash.Done()) : std::nullopt;
 }
 
-/// As sha256sum writes it: a name with a line break or a backslash is escaped, and so is its line.
+/// A line as sha256sum writes it: if the name has a line break or a backslash, the name is escaped and the
+/// line marked.
 std::string Line(const std::string& hash, const std::string& name) {
   std::string escaped;
   for (const char c : name) {

@@ -7,22 +7,22 @@
 
 namespace orvanta {
 
-/// SHA-256 of the files of a disc, and of its image.
+/// The SHA-256 hashes of the files of a disc, and of its image.
 struct DiscHashes {
   struct File {
     std::string path;  ///< as `DiscTree` names it
     std::string sha256;
   };
-  std::string image;  ///< of the image's file; empty for a folder
+  std::string image;  ///< that of the image's file; empty for a folder
   std::vector<File> files;
-  std::string problem;  ///< which file could not be read, empty if all could
+  std::string problem;  ///< which file could not be read; empty if all could
 };
 
 DiscHashes HashesOf(const DiscTree& disc);
 
-/// A manifest for `sha256sum -c` and for BagIt (RFC 8493): a line for each file of a folder, named from where
-/// the folder is named. Of an image the line of its own file counts, and those of the files in it are
-/// comments, which both pass over.
+/// A manifest for `sha256sum -c` and for BagIt (RFC 8493): a line for each file of a folder, with paths
+/// relative to where the user has named the folder. For an image, only the line of the image's own file
+/// counts; those of the files in it are comments, which both programs ignore.
 std::string ManifestText(const DiscTree& disc, const DiscHashes& hashes);
 /// `{"image", "files": [{"path", "sha256"}]}`
 std::string HashesJson(const DiscHashes& hashes);

@@ -12,8 +12,8 @@ struct DiscFile {
   DiscTree::Entry entry;
 };
 
-/// Every file of a disc, sorted by the bytes of the path. Folders that are links are passed over: they may
-/// lead in circles. So are folders more than 64 levels deep, far beyond what any disc has.
+/// Every file of a disc, sorted by the bytes of its path. Folders that are links are skipped, since they may
+/// lead in circles, and so are folders more than 64 levels deep, which no real disc has.
 std::vector<DiscFile> FilesOf(const DiscTree& disc);
 
 /// The links among a disc's entries that lead out of it, sorted.

@@ -13,7 +13,7 @@ namespace {
 
 using Kind = IniRemark::Kind;
 
-/// The bytes for which Windows-1250 has no character.
+/// The bytes that have no character in Windows-1250.
 constexpr std::string_view kUndefined = "\x81\x83\x88\x90\x98";
 
 class Reader {
@@ -35,7 +35,7 @@ class Reader {
     Entry(text);
   }
 
-  /// What ended the line that was taken last.
+  /// The line break of the last line.
   void End(std::string_view end) {
     if (end_.empty()) end_ = end;
     if (end != end_ && !mixed_) Remark(Kind::MixedLineEnds);

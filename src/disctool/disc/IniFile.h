@@ -8,25 +8,25 @@
 
 namespace orvanta {
 
-/// A "key=value" line. Texts are bytes in Windows-1250.
+/// A line "key=value". Texts are bytes in Windows-1250.
 struct IniEntry {
   int line = 0;
   std::string key;
-  std::string value;       ///< as the lookup gives it: without blanks and quotes around it, cut at its limit
-  std::size_t length = 0;  ///< of the value before it was cut
+  std::string value;  ///< as the lookup returns it: without surrounding blanks and quotes, cut at the limit
+  std::size_t length = 0;  ///< the length of the value before it was cut
 };
 
 struct IniSection {
   int line = 0;
   std::string name;
   std::vector<IniEntry> entries;
-  std::unordered_map<std::string, std::size_t> byName;  ///< folded key to the first entry of that name
+  std::unordered_map<std::string, std::size_t> byName;  ///< maps a folded key to its first entry
 
-  /// The entry that a lookup of `key` finds; null if there is none.
+  /// The entry that a lookup finds; null if there is none.
   const IniEntry* Find(std::string_view key) const;
 };
 
-/// Something in the file that the lookup passes over or reads otherwise than it looks.
+/// Something in the file that the lookup ignores, or reads in another way than a maker would expect.
 struct IniRemark {
   enum class Kind {
     Utf16,
@@ -44,18 +44,18 @@ struct IniRemark {
   Kind kind = Kind::NoEquals;
 };
 
-/// An INI file, line by line, by the rules of `ProfileString`: what a lookup finds there is what `Find` gives
-/// here, and beyond that it is known where everything stands.
+/// An INI file, line by line, by the rules of `ProfileString`: `Find` finds the same as a lookup, and also
+/// tells in which line it is.
 struct IniFile {
-  std::vector<IniSection> sections;  ///< in the order of the file, those of one name too
-  std::vector<IniRemark> remarks;    ///< of each kind that concerns characters only the first in a line
-  std::unordered_map<std::string, std::size_t> byName;  ///< folded name to the first section of that name
+  std::vector<IniSection> sections;  ///< in the order of the file, including repeated ones
+  std::vector<IniRemark> remarks;    ///< only the first one in a line for each kind about characters
+  std::unordered_map<std::string, std::size_t> byName;  ///< maps a folded name to its first section
 
-  /// The section that a lookup searches; null if there is none, and for names that no line can carry.
+  /// The section that a lookup searches; null if there is none, or if no line can have that name.
   const IniSection* Find(std::string_view name) const;
 };
 
-/// `text` are the bytes of the file.
+/// `text` is the bytes of the file.
 IniFile ParseIniFile(std::string_view text);
 
 }  // namespace orvanta

@@ -13,7 +13,7 @@ namespace orvanta {
 namespace {
 
 constexpr std::string_view kRoot = "MAINMENU";
-/// Deeper lines are not indented further, so that no disc makes the output grow with the square of its depth.
+/// Deeper lines are not indented any further; otherwise the output could grow with the square of the depth.
 constexpr std::size_t kDeepestIndent = 40;
 
 NodeKind KindOf(const Catalogue& catalogue, const MenuNode& node) {

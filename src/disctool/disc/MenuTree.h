@@ -20,7 +20,7 @@ struct MenuItem {
   DiscPlace place;  ///< the line that names it
 };
 
-/// A section of the tree. Items with the same caption are the same node, whatever blanks stand around it.
+/// A section of the tree. Items with the same caption lead to the same node.
 struct MenuNode {
   std::string name;
   NodeKind kind = NodeKind::Inert;
@@ -28,21 +28,20 @@ struct MenuNode {
   int shots = 0;
 };
 
-/// Everything that can be reached from MAINMENU. Nodes may be reached on several ways, and ways may go round
-/// in circles.
+/// Everything that can be reached from MAINMENU. A node may be reached in several ways, even in circles.
 struct MenuTree {
-  std::vector<MenuNode> nodes;  ///< the root is the first
+  std::vector<MenuNode> nodes;  ///< the first is the root
 
-  /// The node of a section; null if it is not reached.
+  /// The node of a section; null if it cannot be reached.
   const MenuNode* Find(std::string_view section) const;
   bool Has(NodeKind kind) const;
 
-  std::unordered_map<std::string, std::size_t> byName;  ///< `FoldedName` to the node
+  std::unordered_map<std::string, std::size_t> byName;  ///< maps a `FoldedName` to its node
 };
 
 MenuTree ReadMenuTree(const Catalogue& catalogue);
 
-/// One line a node, indented, in the user's language; a menu's items are listed where it is met first.
+/// One line for each node, indented; the items of a menu are listed where it first occurs.
 std::string MenuTreeText(const MenuTree& tree);
 /// `[{"id", "name", "kind", "items"}]` in one line; items are ids, and 0 is the root.
 std::string MenuTreeJson(const MenuTree& tree);

@@ -8,7 +8,7 @@
 namespace orvanta {
 namespace {
 
-/// Longer names are no slips of the hand, and comparing them takes the square of their length.
+/// Longer names are hardly mistyped, and comparing them takes time with the square of their length.
 constexpr std::size_t kLongest = 64;
 
 std::size_t Distance(const std::string& a, const std::string& b) {

@@ -4,7 +4,7 @@
 
 namespace orvanta {
 
-/// The outline of the main window as a drawing for artists, a unit a pixel.
+/// The outline of the main window as a drawing for artists, in SVG; a unit is a pixel.
 std::string OutlineSvg();
 
 }  // namespace orvanta

@@ -7,7 +7,7 @@
 
 namespace orvanta {
 
-/// Another disc with other bytes in some of its files, to see what a change would do.
+/// Another disc with different bytes in some of its files, to see the effect of a change.
 class PatchedTree : public DiscTree {
  public:
   /// `disc` must outlive it.
@@ -22,7 +22,7 @@ class PatchedTree : public DiscTree {
   std::vector<std::string> List(const std::string& folder) const override { return disc_.List(folder); }
   std::optional<std::string> Read(const std::string& path, std::uintmax_t from = 0,
                                   std::uintmax_t most = kAll) const override;
-  /// A file as it is on the other disc.
+  /// The unpatched file of the other disc.
   std::filesystem::path OnHost(const std::string& path) const override { return disc_.OnHost(path); }
 
  private:

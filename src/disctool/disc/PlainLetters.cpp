@@ -8,12 +8,12 @@
 namespace orvanta {
 namespace {
 
-/// For each byte of Windows-1250 what it is searched as.
+/// Maps each byte of Windows-1250 to the one that it is searched as.
 constexpr auto kPlain = [] {
   std::array<char, 256> plain{};
   for (std::size_t i = 0; i < plain.size(); ++i) plain[i] = static_cast<char>(i);
   for (char c = 'A'; c <= 'Z'; ++c) plain[static_cast<std::size_t>(c)] = static_cast<char>(c - 'A' + 'a');
-  // From C0 on the capitals stand 32 before the small letters; an asterisk is no letter.
+  // From C0 on, capitals are 32 below their small letters; an asterisk is not a letter.
   constexpr std::string_view kRows = "raaaalccceeeeiiddnnoooo*ruuuuyt";
   for (std::size_t i = 0; i < kRows.size(); ++i)
     if (kRows[i] != '*') plain[0xC0 + i] = plain[0xE0 + i] = kRows[i];

@@ -42,7 +42,7 @@ void Sha256::Add(std::string_view bytes) {
 
 std::string Sha256::Done() {
   const std::uint64_t bits = length_ * 8;
-  // A one bit, noughts up to the last eight bytes of a block, and the length in bits.
+  // A 1 bit, zeros up to the last eight bytes of a block, and the length in bits.
   std::string end("\x80");
   end.append((2 * kBlock - 8 - 1 - rest_.size()) % kBlock, '\0');
   for (int shift = 56; shift >= 0; shift -= 8) end += static_cast<char>(bits >> shift & 0xFF);

@@ -6,17 +6,16 @@
 
 namespace orvanta {
 
-/// The mark that some editors write at the beginning of UTF-8.
+/// The byte order mark that some editors write at the beginning of UTF-8.
 inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-/// Letters beyond ASCII, all of them in sequences that only UTF-8 makes.
+/// Whether there are letters outside ASCII, and all of them form sequences that are typical of UTF-8.
 bool LooksLikeUtf8(std::string_view line);
 
-/// By its mark, or by the noughts that UTF-16 puts beside each letter of a Latin text.
+/// Whether the text is UTF-16, judging by its mark or by the zero bytes beside each letter of a Latin text.
 bool LooksLikeUtf16(std::string_view text);
 
-/// A text in UTF-16 of either byte order, with or without a mark, in UTF-8. What is no character becomes
-/// U+FFFD.
+/// Converts UTF-16 of either byte order, with or without a mark, to UTF-8. Invalid characters become U+FFFD.
 std::string Utf8OfUtf16(std::string_view text);
 
 }  // namespace orvanta

@@ -10,14 +10,14 @@
 
 namespace orvanta {
 
-/// Reports a problem and gives the exit status; an empty one is none.
+/// Reports a problem, unless it is empty, and returns the exit status.
 int Outcome(const std::string& problem);
 
-/// To be called before Qt starts: pictures and fonts need no display, and what Qt thinks of the machine is
-/// not for the user. Gives `argc` back.
+/// Must be called before Qt starts: pictures and fonts need no display, and Qt's messages about the machine
+/// are not for the user. Returns `argc`.
 int& PreparedForNoDisplay(int& argc);
 
-/// Calls `work` with a progress bar where somebody can see one.
+/// Calls `work` with a progress bar if somebody can see it.
 template <class Work>
 auto WithProgress(const std::string& title, Work work) {
   std::optional<ProgressBar> bar;

@@ -1,4 +1,4 @@
-// Sounds and films from their beginning to their end.
+// Decodes sounds and films from beginning to end.
 
 #include <gst/gst.h>
 
@@ -32,15 +32,15 @@ struct FreeBus {
   void operator()(GstBus* bus) const { gst_object_unref(bus); }
 };
 
-/// Decoders conceal what they cannot decode unless they are told to report the first fault.
+/// Decoders conceal damage unless they are told to report the first error.
 void ReportFaults(GstElement*, GstElement* element, gpointer) {
   constexpr const char* kLimit = "max-errors";
   if (g_object_class_find_property(G_OBJECT_GET_CLASS(element), kLimit))
     g_object_set(element, kLimit, 0, nullptr);
 }
 
-/// WAV and AVI files tell their length at their beginning; demuxers believe the file's end instead. Empty if
-/// nothing is missing.
+/// WAV and AVI files state their length at the beginning, but demuxers rely on the end of the file. Returns
+/// what is missing; empty if nothing is.
 std::string MissingOfRiff(const std::filesystem::path& file) {
   constexpr std::size_t kHeader = 8;
   const FileBytes bytes = BytesOfFile(file);
@@ -48,13 +48,13 @@ std::string MissingOfRiff(const std::filesystem::path& file) {
   if (header.size() < kHeader || !header.starts_with("RIFF")) return {};
   std::uint64_t claimed = 0;
   for (std::size_t i = kHeader; i-- > 4;) claimed = claimed << 8 | static_cast<unsigned char>(header[i]);
-  // What was recorded without an end in sight has no length.
+  // A recording whose length was not known in advance has this length.
   constexpr std::uint64_t kUnknown = 0xFFFFFFFF;
   if (claimed == 0 || claimed == kUnknown || claimed + kHeader <= bytes.size + 1) return {};
   return Translated("it has %1 of %2 bytes", bytes.size, claimed + kHeader);
 }
 
-/// Decodes into nothing, as fast as the machine can.
+/// A pipeline that decodes as fast as the machine can and discards the result.
 Pipeline MakeDecoder(const std::string& uri) {
   Pipeline decoder(gst_element_factory_make("playbin", nullptr));
   if (!decoder) return decoder;
@@ -68,7 +68,7 @@ Pipeline MakeDecoder(const std::string& uri) {
   return decoder;
 }
 
-/// In nanoseconds; -1 if it is not known.
+/// The answer in nanoseconds; -1 if it is not known.
 gint64 Asked(GstElement* decoder, gboolean (*query)(GstElement*, GstFormat, gint64*)) {
   gint64 value = -1;
   return query(decoder, GST_FORMAT_TIME, &value) != FALSE ? value : -1;
@@ -120,7 +120,7 @@ class Decoding {
     position_ = std::max(position_, now);
   }
 
-  /// What was cut off ends early, and nothing says so.
+  /// A truncated file ends early without any error.
   std::string AtTheEnd() const {
     const gint64 tolerated = std::max<gint64>(GST_SECOND, length_ / 50);
     if (length_ < 0 || position_ < 0 || position_ + tolerated >= length_) return {};

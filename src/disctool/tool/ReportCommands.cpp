@@ -30,7 +30,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Adds the names in the list that the user gave with `--from`. Gives what went wrong, empty if nothing did.
+/// Adds the names in the list of `--from`. Returns what went wrong; empty on success.
 std::string AddListed(const Request& request, std::vector<std::string>& discs) {
   if (!request.Has("from")) return {};
   const std::string list = request.Option("from");
@@ -44,7 +44,7 @@ std::string AddListed(const Request& request, std::vector<std::string>& discs) {
   return {};
 }
 
-/// Lets `ask` report on every disc that the user named from the argument `first` on.
+/// Calls `ask` for every disc that the user has named, starting with the argument `first`.
 template <class Ask>
 int Report(const Request& request, std::size_t first, const Ask& ask, std::ostream& out = std::cout) {
   std::vector<std::string> discs(request.words.begin() + static_cast<std::ptrdiff_t>(first),
@@ -67,7 +67,7 @@ int Report(const Request& request, std::size_t first, const Ask& ask, std::ostre
   });
 }
 
-/// Qt and GStreamer, made ready before threads use them. Signals are held before the two make threads.
+/// Initialises Qt and GStreamer before threads use them.
 class ProbeReady {
  public:
   ProbeReady(int& argc, char** argv) : application_(PreparedForNoDisplay(argc), argv) {

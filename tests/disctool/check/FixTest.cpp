@@ -12,7 +12,7 @@ DiscReport Fix(const GoodDisc& disc, bool dryRun = false) {
   return FixReport(FolderTree(disc.Folder()), probe, dryRun);
 }
 
-// Everything that has one right answer, in one file; and whoever is unhappy with it has the old file still.
+// Everything that has one right answer, in one file; and the old file is kept for those who disagree.
 TEST(Fix, MendsWhatHasOneRightAnswerAndKeepsTheOldFile) {
   GoodDisc disc;
   disc.Set("GLOBAL", "HelpB", "HELP.gif");
@@ -35,13 +35,13 @@ TEST(Fix, MendsWhatHasOneRightAnswerAndKeepsTheOldFile) {
   EXPECT_EQ(FindingsText(disc.Check()).find("differs"), std::string::npos);
 }
 
-TEST(Fix, ReadsEveryUnicodeAndLeavesWhatItCannotWrite) {
+TEST(Fix, ReadsEveryUnicodeEncodingAndLeavesWhatItCannotWrite) {
   GoodDisc disc;
   const std::string good = disc.MenuIni();
   disc.File("Data/Menu.ini", "\xEF\xBB\xBF" + FromWindows1250(good));
   Fix(disc);
   EXPECT_EQ(disc.Check().List().size(), 0U) << FindingsText(disc.Check());
-  // ASCII alone reads the same in both.
+  // ASCII is the same in both encodings.
   std::string ascii;
   for (const char c : good) ascii += static_cast<unsigned char>(c) < 0x80 ? c : 'x';
   std::string wide = "\xFE\xFF";

@@ -32,7 +32,7 @@ TEST(Arguments, MistakesGetTheNearestName) {
   for (const Case& one : cases) EXPECT_EQ(ParseArguments(one.arguments).problem, one.problem);
 }
 
-TEST(Arguments, EveryCommandAndOptionIsInItsHelpPageAndCompletions) {
+TEST(Arguments, EveryCommandAndOptionIsInHelpManualPageAndCompletions) {
   for (const CommandInfo& command : Commands()) {
     std::vector<std::string> names{std::string(command.name)};
     for (const OptionInfo& option : command.options) names.emplace_back(option.name);

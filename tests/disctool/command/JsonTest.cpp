@@ -70,8 +70,8 @@ class JsonFields {
   std::string_view text_;
 };
 
-// Who reads the output relies on the page, so every field of the one is in the other, with its type.
-TEST(Json, HasTheFieldsThatItsPageTells) {
+// Users of the output rely on the documentation, so the fields of both must be the same, with their types.
+TEST(Json, HasExactlyTheDocumentedFields) {
   GoodDisc disc, other;
   FirstBytesProbe probe;
   other.Menu("MAINMENU", {"Film", "Nowa", "Programy"});
@@ -115,8 +115,8 @@ TEST(Json, SarifNamesFilesLinesAndRules) {
   EXPECT_NE(log.find("\"uri\": \"file:///"), std::string::npos);
 }
 
-// FIPS 180-4's own examples, and lengths around the end of a block.
-TEST(Sha256, GivesTheChecksumsOfTheStandard) {
+// The examples of FIPS 180-4, and lengths near the end of a block.
+TEST(Sha256, ReturnsTheHashesOfTheStandard) {
   const auto hash = [](std::string_view text) {
     Sha256 sum;
     for (; text.size() > 7; text.remove_prefix(7)) sum.Add(text.substr(0, 7));

@@ -12,8 +12,8 @@
 namespace orvanta::test {
 namespace {
 
-// The first disc of all takes the longest, and some cannot be read or even throw.
-TEST(ManyDiscs, AreReportedInTheirOrderAndABadOneStopsNoOther) {
+// The first disc takes the longest, and some cannot be read or even throw.
+TEST(ManyDiscs, AreReportedInOrderAndABadOneDoesNotStopTheOthers) {
   std::vector<std::string> discs{"slow"};
   std::string expected = "slow\n";
   for (int i = 0; i < 1000; ++i) {
@@ -39,7 +39,7 @@ TEST(ManyDiscs, AreReportedInTheirOrderAndABadOneStopsNoOther) {
   EXPECT_EQ(NamesInList(std::string_view("a\nb\0c\0", 6)), (std::vector<std::string>{"a\nb", "c"}));
 }
 
-TEST(ManyDiscs, AreLeftAfterAnInterruptionWithWhatIsDoneWritten) {
+TEST(ManyDiscs, AreAbandonedAfterAnInterruptionButFinishedOnesAreReported) {
   std::atomic<bool> interrupted = false;
   const auto ask = [&](const std::string& disc) -> DiscReport {
     while (disc == "slow" && !interrupted) std::this_thread::yield();
@@ -53,7 +53,7 @@ TEST(ManyDiscs, AreLeftAfterAnInterruptionWithWhatIsDoneWritten) {
   EXPECT_EQ(err.str(), "orvanta-disc: interrupted after 1 of 3 discs\n");
 }
 
-TEST(ProgressBar, TellsTheTimeLeftOnceItCanAndMakesRoomForResults) {
+TEST(ProgressBar, ShowsTheRemainingTimeOnceItIsKnownAndMakesRoomForResults) {
   std::ostringstream terminal;
   double now = 0;
   ProgressBar bar(terminal, "Discs", [&now] { return now; });
@@ -69,7 +69,7 @@ TEST(ProgressBar, TellsTheTimeLeftOnceItCanAndMakesRoomForResults) {
   EXPECT_TRUE(terminal.str().ends_with("\r\x1B[K"));
 }
 
-TEST(Info, ShowsADiscAtAGlanceWithWhatItsProgramsAre) {
+TEST(Info, ShowsTheFactsOfADiscAndTheKindsOfItsPrograms) {
   GoodDisc disc;
   FirstBytesProbe probe;
   std::string windows3(0x40, '\0');

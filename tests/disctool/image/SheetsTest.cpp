@@ -1,4 +1,4 @@
-// Images with a sheet that says where their tracks lie.
+// Images with a sheet that describes where their tracks are.
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@
 namespace orvanta::test {
 
 struct SheetsTest : testing::Test {
-  /// A folder with one file, as an image whose first sector has this address on the disc.
+  /// The image of a folder with one file, whose first sector has this address on the disc.
   std::string Disc(const std::string& text, std::uint32_t address = 0) const {
     const TemporaryFolder disc;
     disc.File("read.me", text);
@@ -72,7 +72,7 @@ TEST_F(SheetsTest, LeaveNobodyAlone) {
   }
 }
 
-// As in a drive: what was written last hides what was there before, and may still refer to it.
+// As in a drive, the last session hides earlier ones but may refer to them.
 TEST_F(SheetsTest, ShowTheLastSession) {
   const std::string first = InSectors(Disc("old"), 2352, 16);
   const std::size_t gap = 11400, sectors = first.size() / 2352;
@@ -97,7 +97,7 @@ TEST_F(SheetsTest, ShowTheLastSession) {
   }
 }
 
-// A sheet cannot lead anywhere else, and the user learns which file it misses.
+// A sheet cannot lead anywhere else, and the user learns which file is missing.
 TEST_F(SheetsTest, SayWhatIsMissing) {
   folder.File("secret.bin", InSectors(Disc("secret"), 2352, 16));
   const auto cue = [&](const std::string& file) {
