@@ -106,7 +106,7 @@ constexpr CommandInfo kCommands[] = {
     {"info", "DISC...", Translatable("Show discs at a glance"),
      Translatable(
          "Shows the title, label, dates and size of each disc, its entries by kind, its programs with "
-         "what runs them on this machine, and how much is wrong with it."),
+         "what runs them on this machine, the audio tracks of an image, and how much is wrong with it."),
      kInfoOptions, kInfoExamples},
     {"check", "DISC...", Translatable("List everything that is wrong with discs"),
      Translatable("Lists everything that is wrong with each disc, one finding per line, as FILE:LINE: "

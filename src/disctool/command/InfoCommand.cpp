@@ -75,6 +75,17 @@ std::string Row(const std::string& name, const std::string& value) {
   return value.empty() ? std::string() : "  " + name + ": " + Printable(value) + "\n";
 }
 
+/// "2 (3:15, 0:42)", empty for none.
+std::string TracksText(const std::vector<int>& seconds) {
+  std::string lengths;
+  for (const int length : seconds) {
+    const std::string rest = std::to_string(length % 60);
+    lengths += (lengths.empty() ? "" : ", ") + std::to_string(length / 60) + ":" +
+               (rest.size() < 2 ? "0" : "") + rest;
+  }
+  return seconds.empty() ? std::string() : std::to_string(seconds.size()) + " (" + lengths + ")";
+}
+
 std::string ProgramText(const DiscInfo::Program& program) {
   std::string text = program.entry + ": " + program.file + " (" + Translated(NameOf(program.target));
   if (!program.runner.name.empty()) text += Translated(", runs with %1", program.runner.name);
@@ -126,6 +137,7 @@ std::string InfoText(const DiscInfo& info) {
   text += Row(Translated("entries"), entries);
   for (const DiscInfo::Program& program : info.programs)
     text += Row(Translated("program"), ProgramText(program));
+  text += Row(Translated("audio tracks"), TracksText(info.audioTracks));
   return text + Row(Translated("findings"), TranslatedCount("%1 error", "%1 errors", info.errors) + ", " +
                                                 TranslatedCount("%1 warning", "%1 warnings", info.warnings));
 }
@@ -140,6 +152,9 @@ void AddInfo(JsonObject& line, const DiscInfo& info) {
   line.Text("oldest", DateOf(info.oldest)).Text("newest", DateOf(info.newest));
   line.Number("bytes", info.bytes).Number("files", info.files).Value("entries", entries.Done());
   line.Value("programs", JsonArray(programs));
+  std::vector<std::string> tracks;
+  for (const int length : info.audioTracks) tracks.push_back(std::to_string(length));
+  line.Value("audioTracks", JsonArray(tracks));
   line.Number("errors", info.errors).Number("warnings", info.warnings);
 }
 
@@ -151,7 +166,8 @@ DiscReport InfoReport(const DiscTree& disc, DiscProbe& probe, const InfoOptions&
   if (options.hashes && !options.json) return {ManifestText(disc, hashes), std::move(problem)};
   const Catalogue catalogue(disc);
   if (catalogue.Empty()) return {{}, NoDiscIn(disc.Name())};
-  const DiscInfo info = ReadDiscInfo(disc, catalogue, CheckDisc(disc, probe), options.searchPath);
+  DiscInfo info = ReadDiscInfo(disc, catalogue, CheckDisc(disc, probe), options.searchPath);
+  if (options.audioTracks) info.audioTracks = options.audioTracks(disc.Name());
   if (!options.json) return {InfoText(info)};
   JsonObject line = JsonLine(info.name);
   AddInfo(line, info);

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,6 +33,7 @@ struct DiscInfo {
   std::uintmax_t bytes = 0, files = 0;
   std::array<std::size_t, kNodeKinds> nodes{};  ///< by `NodeKind`
   std::vector<Program> programs;
+  std::vector<int> audioTracks;  ///< their lengths in seconds
   std::size_t errors = 0, warnings = 0;
 };
 
@@ -46,6 +50,8 @@ struct InfoOptions {
   bool json = false;
   bool hashes = false;       ///< a manifest of checksums instead; with `json` beside the rest
   std::string searchPath{};  ///< as in `$PATH`
+  /// Asked for the lengths in seconds of an image's audio tracks; may be empty.
+  std::function<std::vector<int>(const std::filesystem::path& disc)> audioTracks{};
 };
 
 /// The output of `info` for a disc.

@@ -22,6 +22,7 @@
 #include "disctool/command/Sarif.h"
 #include "disctool/image/HeldSignals.h"
 #include "disctool/image/OpenTree.h"
+#include "disctool/image/sectors/AudioTracks.h"
 #include "disctool/tool/CommandSupport.h"
 #include "disctool/tool/DesktopProbe.h"
 
@@ -80,12 +81,22 @@ class ProbeReady {
   const QGuiApplication application_;
 };
 
+/// In seconds, rounded.
+std::vector<int> TrackLengths(const fs::path& disc) {
+  std::vector<int> lengths;
+  std::error_code error;
+  if (!fs::is_directory(disc, error))
+    for (const Track& track : AudioTracksOf(disc).tracks)
+      lengths.push_back(static_cast<int>((track.sectors + kSectorsPerSecond / 2) / kSectorsPerSecond));
+  return lengths;
+}
+
 }  // namespace
 
 int RunInfo(const Request& request, int& argc, char** argv) {
   ProbeReady ready(argc, argv);
   const char* path = std::getenv("PATH");
-  const InfoOptions options{request.Has("json"), request.Has("hashes"), path ? path : ""};
+  const InfoOptions options{request.Has("json"), request.Has("hashes"), path ? path : "", TrackLengths};
   return Report(request, 0,
                 [&](const DiscTree& disc, bool) { return InfoReport(disc, ready.probe, options); });
 }

@@ -79,8 +79,11 @@ TEST(Json, HasExactlyTheDocumentedFields) {
   other.Set("GLOBAL", "BackX", "left");
   other.Picture("help.gif", 400, 600, 0);
   const FolderTree tree(other.Folder());
+  const auto tracks = [](const std::filesystem::path&) { return std::vector{195, 62}; };
+  EXPECT_NE(InfoReport(tree, probe, {.audioTracks = tracks}).text.find("audio tracks: 2 (3:15, 1:02)\n"),
+            std::string::npos);
   const std::pair<const char*, std::string> outputs[] = {
-      {"info", InfoReport(tree, probe, {.json = true, .hashes = true}).text},
+      {"info", InfoReport(tree, probe, {.json = true, .hashes = true, .audioTracks = tracks}).text},
       {"check", CheckReport(tree, probe, {.json = true}).text},
       {"tree", TreeReport(tree, true, false).text},
       {"find", FindReport(tree, "film", true).text},
