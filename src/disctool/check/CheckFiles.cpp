@@ -1,4 +1,4 @@
-// The files that keys name.
+// Checks the files that keys name.
 
 #include <algorithm>
 #include <array>
@@ -15,7 +15,7 @@ namespace {
 
 constexpr char kDrive = Catalogue::kDiscRoot.front();
 
-/// A file that some key names: where it is named, how, and the Windows path to it.
+/// A file that a key names: where it is named, how, and its Windows path.
 struct NamedFile {
   const DiscPlace& place;
   std::string naming;
@@ -35,7 +35,8 @@ std::string Respelled(const NamedFile& file, const FoundPath& found) {
   return path.substr(end - file.value.size(), file.value.size());
 }
 
-/// The file on the disc; empty, and reported, if it is not there. A program may be a folder, which is opened.
+/// The file on the disc; if it is missing, reports that and returns an empty path. A program may be a folder,
+/// which is then opened.
 std::string Locate(CheckJob& job, const NamedFile& file, bool folderToo = false) {
   const FoundPath& found = job.files.Find(file.path);
   if (!found) {
@@ -45,8 +46,8 @@ std::string Locate(CheckJob& job, const NamedFile& file, bool folderToo = false)
   }
   if (found.otherCase)
     job.findings.Warning(file.place, "other-case",
-                         Translated("%1 is found only by ignoring small and capital letters: %2 is called %3",
-                                    file.naming, file.path, found.path.filename().string()),
+                         Translated("%1 is found only because case is ignored: %2 is spelled %3", file.naming,
+                                    file.path, found.path.filename().string()),
                          Respelled(file, found));
   const DiscTree::Kind kind = job.files.KindOf(found.path.native());
   if (kind == DiscTree::Kind::Other || (kind == DiscTree::Kind::Folder && !folderToo)) {
@@ -115,7 +116,7 @@ bool LiesOnDisc(CheckJob& job, const NamedFile& file) {
   return true;
 }
 
-/// A sound with a drive is taken as it is, any other lies in its folder.
+/// A sound with a drive is used as it is; any other is in its folder.
 void CheckSound(CheckJob& job, const std::string& naming, const Setting& found) {
   const bool hasDrive = found.value.size() >= 2 && found.value[1] == ':';
   NamedFile file{found.place, naming, found.value, found.value};

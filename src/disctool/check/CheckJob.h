@@ -12,48 +12,48 @@
 
 namespace orvanta {
 
-/// What the parts of the check look at and where they report.
+/// What the parts of the check read, and where they report.
 struct CheckJob {
   const DiscTree& disc;
   const Catalogue& catalogue;
   const MenuTree& tree;
   DiscFiles& files;
   Findings& findings;
-  bool deep = false;  ///< decode sounds and films whole
+  bool deep = false;  ///< whether to decode sounds and films completely
 
   Setting Find(const SchemaKey& key) const { return catalogue.Find(key.section, key.name); }
-  /// A text that is no number is 0 to the shell.
+  /// The value as the shell reads it: text that is not a number is 0.
   double Number(std::string_view section, std::string_view key) const;
   /// The size of the picture of a key; nothing if it is missing or cannot be read.
   std::optional<Size> PictureOf(std::string_view section, std::string_view key, std::string_view ending = {});
 };
 
-/// The fixed section that a name means in any mix of capitals; empty if it is none.
+/// The fixed section of that name, ignoring case; empty if there is none.
 std::string_view FixedSection(std::string_view name);
 /// "BackX of [GLOBAL]"
 std::string Naming(std::string_view section, std::string_view key);
 /// The Windows path of a picture or font that a key names.
 std::string PicturePath(std::string_view value);
 
-/// Whether the files can be read at all. Those in UTF-16 or with a byte order mark are reported, once each:
-/// all else would be a consequence.
+/// Whether the files can be read at all. Files in UTF-16 or with a byte order mark are reported only once,
+/// since all other findings would follow from that.
 bool CheckEncoding(CheckJob& job);
-/// Lines that the lookup passes over, values that it cuts, names that stand twice.
+/// Finds lines that the lookup ignores, values that it cuts, and names that occur twice.
 void CheckLines(CheckJob& job);
-/// The fixed sections: what is missing, and what is no value of its kind.
+/// Finds missing keys of the fixed sections, and values that are not of their kind.
 void CheckSettings(CheckJob& job);
-/// The tree: what leads nowhere, what lies too deep, what an entry lacks.
+/// Finds faults of the menu tree: items that lead nowhere or lie too deep, and entries that lack something.
 void CheckTree(CheckJob& job);
-/// Sections and keys that nothing reads.
+/// Finds sections and keys that nothing reads.
 void CheckUnread(CheckJob& job);
-/// The files that keys name: there, spelled as they are called, of use.
+/// Finds files that are missing, spelled differently, or not usable.
 void CheckFiles(CheckJob& job);
-/// Names of fonts that are not in the disc's files, and links that lead off the disc.
+/// Finds names of fonts that are not in the disc's files, and links that lead off the disc.
 void CheckFonts(CheckJob& job);
 void CheckLinks(CheckJob& job);
-/// Buttons, zones and sliders that the user cannot reach or move.
+/// Finds buttons, zones and sliders that the user cannot reach or move.
 void CheckLayout(CheckJob& job);
-/// The first part of `CheckLayout`, by the controls of a shell that shows the disc.
+/// The first part of `CheckLayout`, which uses the controls of a shell that shows the disc.
 void CheckShown(CheckJob& job);
 
 }  // namespace orvanta

@@ -32,7 +32,7 @@ constexpr RemarkText kTexts[] = {
     {Kind::MixedLineEnds, kWarning, "mixed-line-ends",
      Translatable("the lines from here on do not all end like those before; give all of them CR LF")},
     {Kind::NoBracket, kWarning, "no-bracket", Translatable("the section's name has no closing bracket")},
-    {Kind::NoEquals, kWarning, "no-equals", Translatable("a line without an equals sign is passed over")},
+    {Kind::NoEquals, kWarning, "no-equals", Translatable("a line without an equals sign is ignored")},
     {Kind::NoKey, kWarning, "no-key", Translatable("there is no key before the equals sign")},
     {Kind::AboveSections, kWarning, "above-sections",
      Translatable("a key above the first section is never read")},
@@ -40,7 +40,7 @@ constexpr RemarkText kTexts[] = {
     {Kind::Utf8, kError, "utf-8",
      Translatable("the text looks like UTF-8; the shell reads it as Windows-1250")},
     {Kind::OutsideCodePage, kWarning, "outside-code-page",
-     Translatable("a byte here stands for no character of Windows-1250")},
+     Translatable("a byte here has no character in Windows-1250")},
 };
 
 bool HidesTheFile(const IniRemark& remark) {
@@ -72,7 +72,7 @@ void Section(CheckJob& job, const Catalogue::File& file, const IniSection& secti
   if (first != &section) {
     job.findings.Warning(
         {file.path, section.line}, "section-twice",
-        Translated("[%1] begins in line %2 already; nothing here is read", name, first->line));
+        Translated("[%1] already begins in line %2; nothing here is read", name, first->line));
     return;
   }
   for (const IniEntry& entry : section.entries) {
@@ -80,11 +80,11 @@ void Section(CheckJob& job, const Catalogue::File& file, const IniSection& secti
     if (const IniEntry* before = section.Find(entry.key); before != &entry) {
       job.findings.Warning(
           {file.path, entry.line}, "key-twice",
-          Translated("%1 stands in line %2 already; this one is never read", naming, before->line));
+          Translated("%1 is already in line %2; this one is never read", naming, before->line));
     } else if (entry.length > static_cast<std::size_t>(kLongestValue)) {
-      job.findings.Warning(
-          {file.path, entry.line}, "value-cut",
-          Translated("%1 is %2 characters long; it is cut after %3", naming, entry.length, kLongestValue));
+      job.findings.Warning({file.path, entry.line}, "value-cut",
+                           Translated("%1 is %2 characters long; it is cut off after %3", naming,
+                                      entry.length, kLongestValue));
     }
   }
 }
@@ -107,7 +107,7 @@ void CheckLines(CheckJob& job) {
   for (const Catalogue::File& file : job.catalogue.Files()) {
     if (file.tooLarge)
       job.findings.Error({file.path, 0}, "file-too-large",
-                         Translated("the file is too large to be a disc's"));
+                         Translated("the file is too large for a configuration file"));
     if (file.unreadable)
       job.findings.Error({file.path, 0}, "unreadable", Translated("the file cannot be read"));
     Remarks(job, file);

@@ -48,7 +48,7 @@ void WholeNumber(CheckJob& job, const SchemaKey& key, const Setting& found) {
   const std::int16_t taken = WholeOf(found.value);
   if (std::abs(value - taken) >= 1) {
     job.findings.Error(found.place, "out-of-range",
-                       Translated("%1 is outside -32768 to 32767: '%2' counts as %3",
+                       Translated("%1 is outside the range -32768 to 32767: '%2' counts as %3",
                                   Naming(key.section, key.name), found.value, taken));
   } else if (value != taken) {
     job.findings.Warning(found.place, "rounded",
@@ -110,10 +110,10 @@ void Senseless(CheckJob& job) {
                            Translated("%1 is %2: %3", Naming(section, key), found.value, Translated(what)));
   };
   for (const char* zone : {"BackW", "BackH", "UpW", "UpH", "Back2W", "Back2H", "Up2W", "Up2H"})
-    positive("GLOBAL", zone, Translatable("nobody can click there"));
+    positive("GLOBAL", zone, Translatable("it could not be clicked"));
   for (const char* section : {"HEADLINE", "MENUITEM"})
-    positive(section, "FontSize", Translatable("nobody can read that"));
-  positive("GLOBAL", "MenuLevels", Translatable("there is no way down from the first menu"));
+    positive(section, "FontSize", Translatable("it could not be read"));
+  positive("GLOBAL", "MenuLevels", Translatable("no item of the first menu could be opened"));
 }
 
 }  // namespace

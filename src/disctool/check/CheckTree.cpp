@@ -73,7 +73,7 @@ void TooDeep(CheckJob& job) {
   depths.Find();
   for (const MenuItem* item : depths.backwards)
     job.findings.Warning(item->place, "circle",
-                         Translated("'%1' leads back to a menu that it lies in, so the way down never ends",
+                         Translated("'%1' leads back to a menu that contains it, so the way down never ends",
                                     job.tree.nodes[item->node].name));
   if (!levels) return;
   for (std::size_t i = 0; i < job.tree.nodes.size(); ++i) {

@@ -16,12 +16,12 @@ struct Finding {
   enum class Severity { Error, Warning };
   DiscPlace place;
   Severity severity = Severity::Error;
-  std::string_view id;  ///< of the table: "missing-key"
+  std::string_view id;  ///< from the table, such as "missing-key"
   std::string text;     ///< in the user's language
-  std::string mended;   ///< the value that the setting at this place should have; empty if that is not known
+  std::string mended;   ///< the value that the setting should have; empty if that is not known
 };
 
-/// What is wrong with a disc.
+/// The faults of a disc.
 class Findings {
  public:
   void Error(const DiscPlace& place, FindingId id, std::string text) {
@@ -31,7 +31,7 @@ class Findings {
     list_.push_back({place, Finding::Severity::Warning, id.text, std::move(text), std::move(mended)});
   }
 
-  /// By file and line; those of one line in the order of their finding.
+  /// Sorts by file and line; findings in the same line keep their order.
   void Sort();
   const std::vector<Finding>& List() const { return list_; }
   std::size_t Errors() const;
@@ -41,7 +41,7 @@ class Findings {
   std::vector<Finding> list_;
 };
 
-/// `file:line: error: text`, a line each, like a compiler's.
+/// `file:line: error: text`, one per line, as compilers write it.
 std::string FindingsText(const Findings& findings);
 /// `[{"file", "line", "severity", "id", "text"}]` in one line.
 std::string FindingsJson(const Findings& findings);

@@ -91,7 +91,7 @@ class Parser {
     const std::string_view nearest = NearestName(name, names);
     request_.problem = request_.command
                            ? Translated("'%1' has no option %2", request_.command->name, argument)
-                           : Translated("there is no option %1 before the command", argument);
+                           : Translated("%1 is not an option of orvanta-disc itself", argument);
     if (!nearest.empty()) request_.problem += Translated("; did you mean %1?", "--" + std::string(nearest));
   }
 

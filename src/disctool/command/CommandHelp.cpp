@@ -71,7 +71,7 @@ std::string HelpText() {
                 26);
   text += "\n" + Translated("Options:") + "\n" + Rows(GeneralOptions());
   return text + "\n" + Wrapped(DiscsAre(), 0, 0) + "\n" +
-         Translated("'orvanta-disc COMMAND --help' tells more about a command.") + "\n";
+         Translated("'orvanta-disc COMMAND --help' explains a command.") + "\n";
 }
 
 std::string HelpText(const CommandInfo& command) {

@@ -9,13 +9,15 @@ namespace {
 
 constexpr OptionInfo kJson{"json", "", Translatable("Write JSON for other programs.")};
 
-constexpr OptionInfo kFrom{"from", "FILE",
-                           Translatable("Take more discs from a list, one a line or ended by NUL bytes; "
-                                        "- is the standard input.")};
+constexpr OptionInfo kFrom{
+    "from", "FILE",
+    Translatable(
+        "Read more discs from a list, one per line or each ended by a NUL byte; - is the standard input.")};
 
 constexpr OptionInfo kOpenOptions[] = {
     {"zoom", "N|auto",
-     Translatable("Show everything N times as large, from 1 to 8. The default, auto, suits the screen.")},
+     Translatable(
+         "Show everything N times as large, from 1 to 8. The default, auto, chooses N to suit the screen.")},
     {"cache-limit", "SIZE",
      Translatable(
          "Keep the unpacked copies below SIZE, such as 500M or 4G; those that were used longest ago go "
@@ -32,7 +34,7 @@ constexpr OptionInfo kInfoOptions[] = {
          "Write the SHA-256 of each image and file, as sha256sum -c and BagIt read it; with --json add "
          "them to the rest.")}};
 constexpr ExampleInfo kInfoExamples[] = {
-    {"orvanta-disc info disc.iso", Translatable("Shows a disc at a glance.")},
+    {"orvanta-disc info disc.iso", Translatable("Shows the most important facts about a disc.")},
     {"find discs -name '*.iso' -print0 | orvanta-disc info --json --from -",
      Translatable("Writes a line of JSON for each image in a folder.")},
     {"orvanta-disc info --hashes data > manifest-sha256.txt",
@@ -50,11 +52,11 @@ constexpr OptionInfo kCheckOptions[] = {
          "new ones. Shows what has changed instead of the findings.")},
     {"dry-run", "", Translatable("Show what --fix would change, and change nothing.")},
     {"strict", "", Translatable("Count warnings as errors in the exit status.")},
-    {"explain", "ID", Translatable("Explain a kind of finding by its id, as --json writes it.")}};
+    {"explain", "ID", Translatable("Explain a kind of finding. ID is the one that --json writes.")}};
 constexpr ExampleInfo kCheckExamples[] = {
     {"orvanta-disc check my-disc", Translatable("Lists what is wrong with a disc.")},
     {"orvanta-disc check --strict my-disc && make-image my-disc",
-     Translatable("Goes on only with a disc without a finding.")},
+     Translatable("Continues only if there are no findings.")},
     {"orvanta-disc check --dry-run my-disc", Translatable("Shows what --fix would mend.")}};
 
 constexpr OptionInfo kTreeOptions[] = {kJson, kFrom};
@@ -63,7 +65,7 @@ constexpr ExampleInfo kTreeExamples[] = {{"orvanta-disc tree disc.iso", Translat
 constexpr OptionInfo kFindOptions[] = {kJson, kFrom};
 constexpr ExampleInfo kFindExamples[] = {
     {"orvanta-disc find 'atlas zolw' *.iso",
-     Translatable("Finds what has both words, be they written with Polish letters or without.")}};
+     Translatable("Finds what contains both words, with or without Polish letters.")}};
 
 constexpr OptionInfo kDiffOptions[] = {kJson};
 constexpr ExampleInfo kDiffExamples[] = {
@@ -103,7 +105,7 @@ constexpr CommandInfo kCommands[] = {
                   "user's cache once and used again until it changes. Without a terminal, as from a file "
                   "manager, windows show the progress and any problem."),
      kOpenOptions, kOpenExamples},
-    {"info", "DISC...", Translatable("Show discs at a glance"),
+    {"info", "DISC...", Translatable("Show the most important facts about discs"),
      Translatable(
          "Shows the title, label, dates and size of each disc, its entries by kind, its programs with "
          "what runs them on this machine, the audio tracks of an image, and how much is wrong with it."),
@@ -117,9 +119,9 @@ constexpr CommandInfo kCommands[] = {
                   "an item that does nothing."),
      kTreeOptions, kTreeExamples},
     {"find", "WORDS DISC...", Translatable("Find entries on discs"),
-     Translatable("Lists the menus and entries of each disc whose name, description, requirements or program "
-                  "have all the words, with their way through the menus. Capitals and the marks of letters "
-                  "do not matter."),
+     Translatable(
+         "Lists the menus and entries of each disc whose name, description, requirements or program contain "
+         "all the words, with their path through the menus. Case and the marks of letters are ignored."),
      kFindOptions, kFindExamples},
     {"diff", "A B", Translatable("Show what changed from one disc to another"),
      Translatable("Lists what differs between two discs or two states of one: settings, menus, texts and "
@@ -155,7 +157,7 @@ constexpr CommandInfo kCommands[] = {
     {"get",
      "DISC SECTION KEY",
      Translatable("Look up a setting"),
-     Translatable("Writes a setting as the shell looks it up."),
+     Translatable("Writes a setting as the shell finds it."),
      {},
      kGetExamples},
     {"tracks",

@@ -21,7 +21,7 @@ std::string MenuText(const DiscDiff::Menu& menu) {
   std::string text;
   for (const std::string& name : menu.removed) text += Line("- " + menu.name + " > " + name);
   for (const std::string& name : menu.added) text += Line("+ " + menu.name + " > " + name);
-  if (menu.reordered) text += Line("~ " + menu.name + ": " + Translated("the items stand in another order"));
+  if (menu.reordered) text += Line("~ " + menu.name + ": " + Translated("the items are in another order"));
   return text;
 }
 

@@ -14,7 +14,7 @@
 namespace orvanta {
 namespace {
 
-/// "1998-03-21", empty for 0.
+/// A date such as "1998-03-21"; empty for 0.
 std::string DateOf(std::int64_t seconds) {
   if (seconds == 0) return {};
   namespace time = std::chrono;

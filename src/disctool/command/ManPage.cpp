@@ -62,9 +62,9 @@ std::string ExitStatus() {
   const auto row = [](const char* status, const std::string& text) {
     return ".TP\n.B " + std::string(status) + "\n" + text + "\n";
   };
-  return Section(Translated("EXIT STATUS")) + row("0", Translated("Everything is well.")) +
+  return Section(Translated("EXIT STATUS")) + row("0", Translated("Success.")) +
          row("1", Translated("Something is wrong with a disc, or nothing was found.")) +
-         row("2", Translated("The arguments make no sense.")) +
+         row("2", Translated("The arguments are wrong.")) +
          row("4", Translated("A disc could not be read; 5 if something is wrong with another one, too."));
 }
 

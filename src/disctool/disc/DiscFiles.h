@@ -9,17 +9,19 @@
 
 namespace orvanta {
 
-/// The files that a disc's settings name: each path is looked up once, and each file tried once.
+/// The files that the settings of a disc name. Each path is looked up only once, and each file is tried only
+/// once.
 class DiscFiles {
  public:
-  /// Both must outlive it.
+  /// Both must outlive this object.
   DiscFiles(const DiscTree& disc, DiscProbe& probe) : disc_(disc), probe_(probe) {}
 
-  /// As `DiscTree::Find`.
+  /// The same as `DiscTree::Find`.
   const FoundPath& Find(const std::string& windowsPath);
 
   DiscTree::Kind KindOf(const std::string& path) const { return disc_.EntryAt(path).kind; }
-  /// As those of the probe, for paths of the disc; what is not a file is none of anything.
+  /// The same as the functions of the probe, for paths on the disc. Whatever is not a file counts as
+  /// unreadable.
   std::optional<Size> PictureSize(const std::string& path);
   std::int64_t MostPixels() const { return probe_.MostPixels(); }
   std::vector<std::string> FontNames(const std::string& path);

@@ -64,12 +64,12 @@ std::vector<std::string> FolderTree::List(const std::string& folder) const {
 
 std::optional<std::string> FolderTree::Read(const std::string& path, std::uintmax_t from,
                                             std::uintmax_t most) const {
-  // A FIFO or a device would be waited for.
+  // Reading a FIFO or a device might wait for ever.
   if (EntryAt(path).kind != Kind::File) return std::nullopt;
   std::ifstream in(OnHost(path), std::ios::binary);
   if (!in || !in.seekg(static_cast<std::streamoff>(from))) return std::nullopt;
   std::string bytes;
-  // Not by the size that the file claims: those of the system claim none.
+  // Read to the end instead of using the size, since special files of the system report none.
   constexpr std::uintmax_t kPart = 256 * 1024;
   while (in && bytes.size() < most) {
     const std::size_t before = bytes.size();

@@ -23,7 +23,7 @@ using Owned = std::unique_ptr<Object, Unref>;
 struct FreeStreams {
   void operator()(GList* streams) const { gst_discoverer_stream_info_list_free(streams); }
 };
-/// Much more than the largest picture that the shell would load.
+/// Much larger than any picture that the shell would load, in bytes.
 constexpr qint64 kLargestPicture = 256 * 1024 * 1024;
 
 std::string BytesOf(const std::filesystem::path& name) {
@@ -44,7 +44,7 @@ using Streams = std::unique_ptr<GList, FreeStreams>;
 std::optional<Size> DesktopProbe::PictureSize(const std::filesystem::path& file) {
   QImageReader reader(QString::fromStdString(file.string()));
   reader.setDecideFormatFromContent(true);
-  // Nearly all art is GIF, and decoding thousands of pictures would take minutes on an old machine.
+  // Nearly all art is GIF; decoding thousands of pictures would take minutes on an old machine.
   if (reader.format() == "gif") return WholeGifSize(BytesOf(file));
   const QSize size = reader.size();
   // Qt refuses to decode what is larger, and says no more than that it failed.
@@ -70,7 +70,7 @@ std::vector<std::string> DesktopProbe::FontNames(const std::filesystem::path& fi
 }
 
 bool DesktopProbe::CanPlay(const std::filesystem::path& file, bool film) {
-  // Opening a FIFO waits for a writer, and a device may have no end.
+  // Opening a FIFO would wait for a writer, and a device may be endless.
   std::error_code noFile;
   if (!std::filesystem::is_regular_file(file, noFile)) return false;
   if (!gst_is_initialized() && !gst_init_check(nullptr, nullptr, nullptr)) return false;

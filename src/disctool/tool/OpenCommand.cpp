@@ -29,7 +29,7 @@ namespace {
 constexpr std::chrono::milliseconds kPatience{500};
 constexpr int kSteps = 1000;
 
-/// Comes when the work has taken half a second; most discs are open by then.
+/// A window that appears after half a second of work; most discs are open by then.
 class ProgressWindow {
  public:
   ProgressWindow(std::optional<int> zoom, int& argc, char** argv) : zoom_(zoom), argc_(argc), argv_(argv) {}
@@ -53,7 +53,7 @@ class ProgressWindow {
     bar_->setMinimumDuration(0);
     bar_->setAutoReset(false);
     MakeReadable(*bar_, ZoomOfScreen(*bar_->screen(), zoom_));
-    // As at a terminal: whoever unpacks tidies up, and the program ends.
+    // The same as interrupting it in a terminal: the unpacking cleans up, and the program ends.
     QObject::connect(&*bar_, &QProgressDialog::canceled, [] { std::raise(SIGTERM); });
   }
 
@@ -86,7 +86,7 @@ std::string RunShell(const std::filesystem::path& disc, std::optional<int> zoom,
   std::filesystem::current_path(root, error);
   if (error) return disc.string() + ": " + error.message();
   DesktopHost host(argc, argv, root, zoom);
-  if (host.PrevInstance()) return Translated("the shell is running already on this display");
+  if (host.PrevInstance()) return Translated("the shell is already running on this display");
   Shell shell(host);
   shell.Run();
   return {};

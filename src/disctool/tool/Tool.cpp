@@ -38,7 +38,7 @@ int Misuse(const Request& request) {
   return kMisuse;
 }
 
-/// Calls `work` with the folder of the disc that the user has named; an image is unpacked for it.
+/// Calls `work` with the folder of the disc that the user has named; an image is unpacked first.
 template <class Work>
 int WithDisc(const Request& request, Work work) {
   const OpenedDisc disc = WithProgress(Translated("Unpacking"), [&](const Progress& progress) {
@@ -58,11 +58,11 @@ int Open(const Request& request, int& argc, char** argv) {
       request, [&](const fs::path& folder) { return Outcome(RunShell(folder, request.Zoom(), argc, argv)); });
 }
 
-/// Writes a page or a script that is named by the value of an option.
+/// Writes a page or a script that the value of an option has named.
 int Written(Request request, const std::string& text) {
   std::cout << text;
   if (!text.empty()) return kGood;
-  request.problem = Translated("there is none of that name");
+  request.problem = Translated("there is nothing of that name");
   return Misuse(request);
 }
 
@@ -136,7 +136,7 @@ struct Runner {
   std::string_view name;
   int (*run)(const Request& request, int& argc, char** argv);
 };
-/// One for each command of the table.
+/// One for each command in the table.
 constexpr Runner kRunners[] = {{"open", Open},       {"info", RunInfo},    {"check", Check},
                                {"tree", RunTree},    {"find", RunFind},    {"diff", RunDiff},
                                {"gallery", Gallery}, {"library", Library}, {"export", Export},
@@ -153,7 +153,7 @@ int Dispatch(const Request& request, int& argc, char** argv) {
   return kMisuse;
 }
 
-/// Translations lie beside the program in the folder that it was built in, else where it was installed.
+/// The translations are beside the program in the build folder, otherwise where they were installed.
 fs::path TranslationFolder() {
   std::error_code error;
   const fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
@@ -167,9 +167,9 @@ int RunTool(int argc, char** argv) {
   UseLanguageOfUser(TranslationFolder());
   const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
   const Request request = ParseArguments(arguments);
-  // What other programs read is the same in every language.
+  // The output for other programs is the same in every language.
   if (request.Has("json") || request.Has("sarif")) UseEnglish();
-  // Qt would take some of the command's words for its own.
+  // Qt would interpret some of the command's arguments as its own.
   argc = std::min(argc, 1);
   const int status = Dispatch(request, argc, argv);
   std::cout.flush();

@@ -11,8 +11,8 @@
 namespace orvanta::test {
 namespace {
 
-/// Changes a disc: "GLOBAL/BackX=500" sets a key, "-GLOBAL/BackX" removes one; "@help.gif=GIF" writes a file
-/// of Data, "-@help.gif" removes it. Several are parted by commas.
+/// Changes a disc: "GLOBAL/BackX=500" sets a key and "-GLOBAL/BackX" removes it; "@help.gif=GIF" writes a
+/// file of Data and "-@help.gif" removes it. Commas separate several changes.
 void Change(GoodDisc& disc, const std::string& changes) {
   std::istringstream list(changes);
   for (std::string change; std::getline(list >> std::ws, change, ',');) {
@@ -26,7 +26,7 @@ void Change(GoodDisc& disc, const std::string& changes) {
   }
 }
 
-/// The findings of a disc: their names, errors with an exclamation mark, and the lines that they are told of.
+/// The findings of a disc: their ids, with an exclamation mark for errors, and the lines that they are in.
 std::string Found(const GoodDisc& disc) {
   std::vector<std::string> lines{""};
   std::istringstream text(disc.MenuIni());
@@ -40,7 +40,7 @@ std::string Found(const GoodDisc& disc) {
   return found;
 }
 
-/// What a maker does wrong, and the findings that this must give: these, at these lines, and no other.
+/// Mistakes of a maker, and the findings that they must cause, at these lines and no others.
 constexpr const char* kFaults[][2] = {
     {"", ""},
     {"MAINMENU/Menu1=\"  Programy\"", ""},
@@ -79,7 +79,7 @@ constexpr const char* kFaults[][2] = {
     {"MENUITEM/LabelPosY=300, SLIDER/YMax=40", "no-travel! YMax=40"},
     {"SLIDER/PosX=472", "knob-outside! YMax=240"},
     {"SLIDER/YMax=300", "knob-partly-outside YMax=300"},
-    {"GLOBAL/ExtX=0, GLOBAL/ExtY=0", "outside! ExtX=0"},  // the corner that the outline cuts off
+    {"GLOBAL/ExtX=0, GLOBAL/ExtY=0", "outside! ExtX=0"},  // in the corner that the outline cuts off
     {"GLOBAL/MinY=900", "outside! MinY=900"},
     {"GLOBAL/ProducerY=-3000", "outside! ProducerY=-3000"},
     {"GLOBAL/S2_Top=773", "outside! S2_Top=773"},
@@ -89,7 +89,7 @@ constexpr const char* kFaults[][2] = {
     {"CINEMA/CStopX=590", "partly-outside CStopX=590"},
 };
 
-TEST(Check, EachFaultOfAMakerIsFoundAtItsLineAndNoOther) {
+TEST(Check, EachMistakeIsFoundAtItsLineAndNothingElse) {
   for (const auto& [changes, found] : kFaults) {
     GoodDisc disc;
     Change(disc, changes);
@@ -111,7 +111,7 @@ TEST(Check, EachFaultOfAMakerIsFoundAtItsLineAndNoOther) {
   EXPECT_EQ(Found(disc), "value-cut Note=" + std::string(255, 'x'));
 }
 
-TEST(Check, TextsThatTheLookupReadsOtherwiseThanTheyLookAreFound) {
+TEST(Check, TextThatTheLookupReadsDifferentlyFromHowItLooksIsFound) {
   const char* const cases[][2] = {{"\xEF\xBB\xBF\r\n", "byte-order-mark!"},
                                   {"Menu1=Gra\r\n", "above-sections"},
                                   {"words\r\n", "no-equals"},
@@ -127,11 +127,12 @@ TEST(Check, TextsThatTheLookupReadsOtherwiseThanTheyLookAreFound) {
   disc.File("Data/Menu.ini", disc.MenuIni() + "[Gra]\r\nNote=x\r\n[Muzyka\r\n");
   EXPECT_EQ(Found(disc), "section-twice [Gra]; no-bracket [Muzyka; section-twice [Muzyka");
   disc.Set("MAINMENU", "Menu4", "\x1B[2Jx");
-  EXPECT_NE(FindingsText(disc.Check()).find("\\x1B[2Jx"), std::string::npos) << "no command to the terminal";
+  EXPECT_NE(FindingsText(disc.Check()).find("\\x1B[2Jx"), std::string::npos)
+      << "no command may reach the terminal";
   EXPECT_EQ(JsonText("\x1B\"\\\xFFł"), "\"\\u001B\\\"\\\\\xEF\xBF\xBDł\"");
 }
 
-TEST(Check, OnlyADeepCheckFindsAFilmThatBreaksOff) {
+TEST(Check, OnlyADeepCheckFindsATruncatedFilm) {
   GoodDisc disc;
   FirstBytesProbe probe;
   disc.File("film.avi", "film cut");
@@ -142,7 +143,7 @@ TEST(Check, OnlyADeepCheckFindsAFilmThatBreaksOff) {
 }
 
 // One fault is one finding, not one for each setting that it hides.
-TEST(Check, AFileInAnotherEncodingOrWithMixedLineEndsIsToldOnce) {
+TEST(Check, AFileInAnotherEncodingOrWithMixedLineBreaksIsReportedOnce) {
   GoodDisc disc;
   const std::string good = disc.MenuIni();
   std::string wide = "\xFF\xFE";
@@ -169,14 +170,14 @@ TEST(Check, LinksThatLeadOffTheDiscAreFound) {
   EXPECT_EQ(findings.List()[0].place.file, disc.Data() / "bonus.gif");
 }
 
-TEST(NearestName, TakesLettersAsTheDiscDoesAndNotTheBytesOfTheirCode) {
+TEST(NearestName, ComparesLettersAndNotTheBytesOfTheirCode) {
   const std::array<std::string_view, 2> known = {"Ryby", "żółć"};
   EXPECT_EQ(NearestName("ŻÓŁĆ", known), "żółć");
   EXPECT_EQ(NearestName("żół", known), "żółć");
   EXPECT_EQ(NearestName("Ptaki", known), "");
 }
 
-TEST(Check, WhatLacksAWholeSectionFileOrDiscIsToldOnce) {
+TEST(Check, AMissingSectionFileOrDiscIsReportedOnce) {
   GoodDisc disc;
   for (const auto& [section, key] : disc.Keys())
     if (section == "CINEMA") disc.Remove(section, key);

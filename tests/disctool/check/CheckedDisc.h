@@ -14,7 +14,7 @@ inline std::string TextOf(const std::filesystem::path& file) {
   return {std::istreambuf_iterator<char>(in), {}};
 }
 
-/// Takes a file for what its first bytes say.
+/// A probe that only looks at the first bytes of a file.
 struct FirstBytesProbe : DiscProbe {
   std::optional<Size> PictureSize(const std::filesystem::path& file) override {
     const PicturePtr picture = ReadPictureFile(file);

@@ -14,8 +14,8 @@ namespace {
 
 using namespace std::string_view_literals;
 
-// The tool has a reader of its own, which must not drift from the shell's: texts made of the characters that
-// decide, in thousands of orders. A key without a name is never asked for.
+// The tool has its own reader, which must not differ from the shell's: texts made of the characters that
+// matter, in thousands of orders. Keys without a name are never looked up.
 TEST(Catalogue, FindsWhatTheShellFindsInWildTexts) {
   constexpr std::string_view kAlphabet = "[]==;\"' \t\x1a\v\r\n\nAaBb\xA3\xB3%:\0"sv;
   const std::vector<std::string> names = {"A", "a", "AB", "b", "\xB3", "A b", " a", ";a", "a]", ""};
@@ -39,7 +39,7 @@ std::string Tree(const TestDisc& disc, bool json = false) {
   return report.text;
 }
 
-TEST(Commands, ListTheTreeFindValuesAndTellFaults) {
+TEST(Commands, ListTheTreeFindValuesAndReportFaults) {
   GoodDisc disc;
   disc.Menu("Programy", {"Gra", "Nic", "MAINMENU"});
   EXPECT_EQ(Tree(disc), R"(MAINMENU [menu]
@@ -61,7 +61,7 @@ TEST(Commands, ListTheTreeFindValuesAndTellFaults) {
   EXPECT_EQ(out.str(), "Płyta próbna\nD:\\setup.exe\n");
 }
 
-TEST(Commands, TakeWarningsForFaultsOnlyIfAskedTo) {
+TEST(Commands, CountWarningsAsFaultsOnlyIfAskedTo) {
   GoodDisc disc;
   FirstBytesProbe probe;
   const auto check = [&](const CheckOptions& options) {
@@ -78,8 +78,8 @@ TEST(Commands, TakeWarningsForFaultsOnlyIfAskedTo) {
             std::string::npos);
 }
 
-// A disc that a careless walk would never come back from: deep, and with more ways than nodes.
-TEST(Commands, TakeAHugeAndHostileDiscInStride) {
+// A disc that a careless walk would never return from: deep, and with more paths than nodes.
+TEST(Commands, FinishOnAHugeAndHostileDisc) {
   GoodDisc disc;
   FirstBytesProbe probe;
   std::ostringstream text;
@@ -90,12 +90,12 @@ TEST(Commands, TakeAHugeAndHostileDiscInStride) {
   const std::clock_t begin = std::clock();
   EXPECT_TRUE(CheckReport(FolderTree(disc.Folder()), probe, {}).faults);
   EXPECT_GT(Tree(disc).size(), 1000U);
-  // The bound is two seconds; the sanitizers take several times as long.
+  // The limit is two seconds; the sanitizers take several times as long.
   EXPECT_LT(static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC, 10);
 }
 
-// One file opens and then cannot be read, as on a scratched disc; another has no end.
-TEST(Commands, TellOfFilesThatCannotBeReadAndReadNoEndlessOne) {
+// One file opens but cannot be read, as on a scratched disc; another is endless.
+TEST(Commands, ReportFilesThatCannotBeReadAndReadNoEndlessOne) {
   GoodDisc disc;
   std::filesystem::create_symlink("/proc/self/mem", disc.Data() / "Param.ini");
   EXPECT_NE(FindingsText(disc.Check()).find("Param.ini: error: the file cannot be read"), std::string::npos);

@@ -7,7 +7,7 @@
 namespace orvanta::test {
 namespace {
 
-TEST(Find, TakesPolishLettersWithAndWithoutMarksAndShowsTheWayThroughTheMenus) {
+TEST(Find, AcceptsPolishLettersWithAndWithoutMarksAndShowsThePathThroughTheMenus) {
   GoodDisc disc;
   disc.Menu("Programy", {"Gra", "Żółw i Łoś"});
   disc.Entry("Żółw i Łoś", {{"Execute", "%:\\Gry\\zolw.exe"}, {"System", "Pamięć 8 MB"}});
@@ -45,11 +45,11 @@ TEST(Diff, ShowsWhatChangedBetweenTwoPressings) {
   const DiscReport report = diff(false);
   EXPECT_TRUE(report.faults);
   for (const char* line : {"settings:\n~ BackX [GLOBAL]: ", " -> 17\n", "menus:\n- MAINMENU > Muzyka\n",
-                           "+ MAINMENU > Nowa\n~ MAINMENU: the items stand in another order\n",
+                           "+ MAINMENU > Nowa\n~ MAINMENU: the items are in another order\n",
                            "texts:\n~ Note [Film]: Opis -> Inny opis\n", "~ setup.exe: 3 bytes, before 2\n",
                            "+ Nowe/plik.txt\n", "~ Data/help.gif: 240000 pixels differ\n"})
     EXPECT_NE(report.text.find(line), std::string::npos) << line << report.text;
-  EXPECT_EQ(report.text.find("FILM.AVI"), std::string::npos) << "only the capitals differ";
+  EXPECT_EQ(report.text.find("FILM.AVI"), std::string::npos) << "the names differ only in case";
   EXPECT_NE(diff(true).text.find(R"({"path": "setup.exe", "before": 2, "after": 3, "pixels": null})"),
             std::string::npos);
 }

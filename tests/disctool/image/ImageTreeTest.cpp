@@ -18,7 +18,7 @@ struct ImageTreeTest : testing::Test {
   std::unique_ptr<DiscTree> Open(const std::string& bytes) {
     return OpenImage(folder.File("disc.iso", bytes), problem);
   }
-  /// All that is said of a disc, with its name left out.
+  /// Everything that is reported about a disc, without its name.
   static std::string SaidOf(const DiscTree& tree) {
     FirstBytesProbe probe;
     std::ostringstream said;
@@ -33,8 +33,8 @@ struct ImageTreeTest : testing::Test {
   std::string problem;
 };
 
-// Whatever a disc's faults are, an image of it has the same ones at the same places.
-TEST_F(ImageTreeTest, SaysTheSameAsItsFolder) {
+// Whatever the faults of a disc, its image has the same ones at the same places.
+TEST_F(ImageTreeTest, IsReportedLikeItsFolder) {
   disc.Set("Gra", "Shot2", "nowhere.gif");
   disc.Set("Muzyka", "Parameters", "%:\\data\\sound\\LOOP.wav");
   const std::string expected = SaidOf(FolderTree(disc.Folder()));
@@ -46,7 +46,7 @@ TEST_F(ImageTreeTest, SaysTheSameAsItsFolder) {
     EXPECT_EQ(SaidOf(*Open(InSectors(iso, stride, userData, userData == 24 ? 150 : 0))), expected) << stride;
 }
 
-// Polish discs have their names in any of three ways, and the settings name files in a fourth.
+// Polish discs have their names in any of three encodings, and the settings name files in a fourth.
 TEST_F(ImageTreeTest, FindsPolishNamesHoweverTheyAreWritten) {
   const std::string name = "Zażółć GĘŚLĄ jaźń.txt";
   const std::string cp852 = "Za\xBE\xA2\x88\x86 G\xA8\x97L\xA4 ja\xAB\xE4.txt";
@@ -76,7 +76,7 @@ TEST_F(ImageTreeTest, FollowsLinksWithinTheImageAlone) {
     EXPECT_EQ(tree->EntryAt(link).kind, DiscTree::Kind::Missing) << link;
 }
 
-// The host gets whole copies that end as the files do, and they go with the disc.
+// The host gets complete copies with the same extensions, which are removed with the disc.
 TEST_F(ImageTreeTest, LendsFilesToTheHost) {
   disc.File("long.bin", std::string(3'000'001, 'x'));
   auto tree = Open(InSectors(IsoImage(disc.Folder()), 2352, 16));
@@ -89,8 +89,8 @@ TEST_F(ImageTreeTest, LendsFilesToTheHost) {
   EXPECT_FALSE(fs::exists(copy.parent_path()));
 }
 
-// An image that is cut, or that claims what cannot be, is read as far as it makes sense.
-TEST_F(ImageTreeTest, ComesBackFromADamagedImage) {
+// A truncated image, or one with impossible values, is read as far as possible.
+TEST_F(ImageTreeTest, SurvivesADamagedImage) {
   const TemporaryFolder small;
   small.File("Data/Menu.ini", "[HEADLINE]\r\nCaption=x\r\n");
   const std::string iso = IsoImage(small.Path(), {true, true});
