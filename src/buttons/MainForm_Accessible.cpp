@@ -1,5 +1,6 @@
 // What a screen reader learns about the ten buttons.
 
+#include "buttons/HoveredButton.h"
 #include "startup/Shell.h"
 
 namespace orvanta {
@@ -12,6 +13,7 @@ void MainForm::AddButtons(Nodes& nodes) const {
     if (!image.Visible) continue;
     AccessibleNode node =
         AccessibleOf(image, AccessibleRole::Button, kBarButtons.at(static_cast<std::size_t>(i)).meaning);
+    node.hovered = IsHovered(shell_.modMouse, 0, *this, image);
     node.unavailable = node.unavailable || DoesNothing(button);
     if (transport && (button == BarButton::Start || button == BarButton::Pause || button == BarButton::Stop))
       node.pressed = PressedButton == button;

@@ -1,5 +1,6 @@
 #include "media/frmKino.h"
 
+#include "buttons/HoveredButton.h"
 #include "buttons/PictureButtons.h"
 #include "media/AccessibleTime.h"
 #include "startup/Design.h"
@@ -86,6 +87,7 @@ AccessibleNode frmKino::Accessible() const {
     if (!ButtonM(i).Visible) continue;
     AccessibleNode node = AccessibleOf(ButtonM(i), AccessibleRole::Button,
                                        kKinoButtons.at(static_cast<std::size_t>(i)).meaning);
+    node.hovered = IsHovered(shell_.modMouse, kSlot, *this, ButtonM(i));
     if (button == KinoButton::Play || button == KinoButton::Pause) node.pressed = PressedButton == button;
     if (button == KinoButton::Pause) node.unavailable = PressedButton != KinoButton::Play;
     if (button == KinoButton::Play) node.unavailable = PressedButton == KinoButton::Play;

@@ -1,5 +1,6 @@
 // What a screen reader learns about each view, and what it can do.
 
+#include "platform/AccessibleChanges.h"
 #include "support/Story.h"
 
 namespace orvanta::test {
@@ -18,6 +19,21 @@ struct Accessible : Story {
     user.host.Invoke(name);
     user.Run(time);
   }
+  /// What a screen reader hears of the main window after the user has done something, and what it is led to.
+  std::string Hears(const std::string& act) {
+    constexpr const char* kWords[] = {"gone", "came", "name", "time", "value", "pressed", "enabled"};
+    const AccessibleNode before = Main().Accessible();
+    user.Do(act);
+    const AccessibleNode now = Main().Accessible();
+    std::string heard;
+    for (const auto& [kind, id] : AccessibleChanges(before, now)) {
+      const AccessibleNode* node = FindAccessible(kind == AccessibleChange::Kind::Gone ? before : now, id);
+      heard += std::string(kWords[static_cast<int>(kind)]) + " " + node->name + ", ";
+    }
+    focus_ = AccessibleFocus(before, focus_, now);
+    return heard + "at " + FindAccessible(now, focus_)->name;
+  }
+  ControlId focus_ = kWholeForm;
   const std::string ways_ = "  button \"Wstecz\"\n  button \"Do menu głównego\"\n  button \"Wyjście\"\n",
                     bar_ = ways_ + "  button \"Wyłącz dźwięk\"\n  button \"Pomoc\"\n",
                     end_ = "  button \"O płycie\"\n  button \"Minimalizuj\"\n";
@@ -66,6 +82,23 @@ TEST_F(Accessible, EveryViewIsDescribedAsItIsSeen) {
   });
   user.Do("press Film");
   EXPECT_EQ(Line("\"Film\""), "\"Film\"");
+}
+
+// Faults: a view, a hover or music that is not reported; a list that is reported anew at each move of the
+// mouse.
+TEST_F(Accessible, ReportsWhatChangesAndNothingElse) {
+  user.Do("start, aside");
+  EXPECT_EQ(Hears("run 1000"), "at Menu główne");
+  EXPECT_EQ(Hears("hover lblPos13"), "at Dalej");
+  EXPECT_EQ(Hears("hover Help"), "at Pomoc");
+  EXPECT_EQ(Hears("choose 3, aside"),
+            "gone Piosenka, gone Film, gone Dalej, name Dalej, name Druga, enabled Wstecz, enabled Do menu "
+            "głównego, at Dalej");
+  user.Do("choose 0, aside");
+  EXPECT_EQ(Hears("run 10"), "at Druga");
+  EXPECT_EQ(Hears("press Start, run 50"),
+            "time Odtwarzanie muzyki, value Odtwarzanie muzyki, enabled Pomoc, pressed Uruchom, enabled "
+            "Uruchom, enabled Pauza, pressed Stop, enabled Stop, enabled O płycie, at Druga");
 }
 
 // Faults: music that is described too late, or with the times of the previous piece.

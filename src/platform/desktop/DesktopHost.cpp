@@ -10,6 +10,7 @@
 #include "platform/desktop/media/GstPlayer.h"
 #include "platform/desktop/media/SoundCard.h"
 #include "platform/desktop/window/DesktopWindow.h"
+#include "platform/desktop/window/ProgramAccess.h"
 #include "platform/desktop/window/QtPicture.h"
 #include "platform/desktop/window/QtScaling.h"
 #include "platform/desktop/window/ShellIcon.h"
@@ -43,6 +44,7 @@ DesktopHost::DesktopHost(int& argc, char** argv, std::filesystem::path discFolde
       zoom_(LookAtScreen()) {
   application_.setQuitOnLastWindowClosed(false);
   clock_.start();
+  OfferAccess();
 }
 
 ScreenZoom DesktopHost::LookAtScreen() const {
@@ -81,6 +83,7 @@ void DesktopHost::Bequeath(Form& heir) {
 }
 
 void DesktopHost::TakeInput() {
+  FollowAccess();
   QCoreApplication::processEvents();
   FollowScreen();
   cursor_.Look(Now());
@@ -91,6 +94,7 @@ void DesktopHost::WaitForQt(Milliseconds deadline) {
     const Milliseconds left = std::clamp<Milliseconds>(deadline - Now(), 0, 3600 * 1000);
     wake_.start(static_cast<int>(left), Qt::PreciseTimer, &alarm_);
   }
+  FollowAccess();
   QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
   wake_.stop();
   FollowScreen();

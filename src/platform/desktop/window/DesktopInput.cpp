@@ -29,6 +29,10 @@ void DesktopWindow::PostMouse(FormEvent::Kind kind, const QMouseEvent& event) {
   Post(kind, Zoom().ToProgram({event.pos().x(), event.pos().y()}), button, BitsOf(event.buttons()));
 }
 
+void DesktopWindow::Assist(FormEvent::Kind kind, ControlId control, double value) {
+  host_.Loop().Post({.kind = kind, .form = &form_, .control = control, .value = value});
+}
+
 void DesktopWindow::SeeCursor(const QSinglePointEvent& event) {
   // Some mice tell parts of a pixel.
   const QPointF place = event.globalPosition();
@@ -56,6 +60,7 @@ void DesktopWindow::leaveEvent(QEvent*) {
 
 void DesktopWindow::changeEvent(QEvent* event) {
   host_.Cursor().Lose();
+  changed_ = true;
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
     host_.Disinherit(form_);
     Post(FormEvent::Kind::Activate);

@@ -8,6 +8,7 @@
 #include "platform/desktop/window/Cursors.h"
 #include "platform/desktop/window/PainterCanvas.h"
 #include "platform/desktop/window/ShellIcon.h"
+#include "platform/desktop/window/WindowAccess.h"
 #include "platform/desktop/window/XWindow.h"
 
 namespace orvanta {
@@ -146,7 +147,20 @@ void DesktopWindow::Raise() {
   if (kind_ != WindowKind::Plain) activateWindow();
 }
 
+QRect DesktopWindow::OnScreen(const Rect& area) const {
+  return ToQt(Zoom().ToScreen(area)).translated(mapToGlobal(QPoint()));
+}
+
+void DesktopWindow::FollowAccess() {
+  // Music and films go on without a visible change.
+  constexpr Milliseconds kGlance = 500;
+  if (!access_ || (!std::exchange(changed_, false) && host_.Now() < lookAgain_)) return;
+  lookAgain_ = host_.Now() + kGlance;
+  access_->Follow();
+}
+
 void DesktopWindow::Invalidate(const Rect& area) {
+  changed_ = true;
   const QRect shown = ToQt(Zoom().ToScreen(area));
   dirty_ += shown;
   update(shown);

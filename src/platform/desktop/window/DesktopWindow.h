@@ -12,6 +12,7 @@ class QSinglePointEvent;
 namespace orvanta {
 
 class DesktopHost;
+class WindowAccess;
 
 /// `text` for Qt, which takes "[*]" for the place of a sign of its own unless it stands there twice.
 QString WindowTitle(const std::string& text);
@@ -27,6 +28,14 @@ class DesktopWindow : public QWidget, public FormWindow {
   /// How often the widget was painted.
   /// The screen has another size, place or zoom.
   void FollowScreen();
+
+  /// The place of an area of the form on the screen, in screen pixels.
+  QRect OnScreen(const Rect& area) const;
+  /// Called when an assistive technology asks for the window: `access` follows it from then on.
+  void SetAccess(WindowAccess* access) { access_ = access; }
+  void FollowAccess();
+  /// Queues what an assistive technology does for the event loop.
+  void Assist(FormEvent::Kind kind, ControlId control, double value = 0);
 
   void SetPlace(const Rect& place) override;
   void SetShape(const Region& shape) override;
@@ -71,6 +80,9 @@ class DesktopWindow : public QWidget, public FormWindow {
   QRegion dirty_;  // in screen pixels
   bool wasMinimised_ = false;
   bool showing_ = false;
+  WindowAccess* access_ = nullptr;  // owned by Qt
+  bool changed_ = false;
+  Milliseconds lookAgain_ = 0;
 };
 
 }  // namespace orvanta
