@@ -62,6 +62,8 @@ void ActiveMovie::FrameChanged() {
   }
 }
 
+bool ActiveMovie::Covers(const Rect& area) const { return Frame() && Intersection(area, Bounds()) == area; }
+
 void ActiveMovie::Paint(Canvas& canvas, Point origin, const Rect&) const {
   if (const PicturePtr frame = player_->Frame()) canvas.Draw(*frame, Bounds().Moved(origin));
 }

@@ -51,6 +51,7 @@ class ActiveMovie : public BoxControl {
   /// A film also hides what it covers from the mouse, and ignores the mouse itself.
   Control* Hit(Point p) override { return Frame() ? BoxControl::Hit(p) : nullptr; }
   void Paint(Canvas& canvas, Point origin, const Rect& area) const override;
+  bool Covers(const Rect& area) const override;
 
  private:
   void ApplyPlayCount();

@@ -41,11 +41,18 @@ class Container {
 
  protected:
   ~Container() = default;
+  /// Paints the children that show in `area`, which is in pixels of the canvas, as `origin` is.
   void PaintChildren(Canvas& canvas, Point origin, const Rect& area) const;
+  /// Whether one of the children covers all of `area`, in pixels of the canvas.
+  bool Covered(Point origin, const Rect& area) const { return Covering(origin, area) != stack_.end(); }
   /// The topmost control at `p`, in pixels of this container, that takes the mouse; null if there is none.
   Control* ChildAt(Point p) const;
 
  private:
+  using Place = std::vector<Control*>::const_iterator;
+  /// The topmost child that covers all of `area`, or the end.
+  Place Covering(Point origin, const Rect& area) const;
+
   const ScaleMode scale_;
   std::vector<Control*> stack_;  // bottom to top
 };

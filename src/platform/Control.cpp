@@ -1,5 +1,6 @@
 #include "platform/Control.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -32,11 +33,19 @@ void Container::Attach(Control& child) {
 void Container::Detach(Control& child) { std::erase(stack_, &child); }
 
 void Container::PaintChildren(Canvas& canvas, Point origin, const Rect& area) const {
-  for (const Control* child : stack_) {
-    if (child->Visible && !Intersection(child->Bounds().Moved(origin), area).Empty()) {
-      child->Paint(canvas, origin, area);
+  const Place covering = Covering(origin, area);
+  for (Place child = covering == stack_.end() ? stack_.begin() : covering; child != stack_.end(); ++child) {
+    if ((*child)->Visible && !Intersection((*child)->Bounds().Moved(origin), area).Empty()) {
+      (*child)->Paint(canvas, origin, area);
     }
   }
+}
+
+Container::Place Container::Covering(Point origin, const Rect& area) const {
+  const Rect own = area.Moved({-origin.x, -origin.y});
+  const auto covers = [&own](const Control* child) { return child->Visible && child->Covers(own); };
+  const auto found = std::find_if(stack_.rbegin(), stack_.rend(), covers);
+  return found == stack_.rend() ? stack_.end() : std::prev(found.base());
 }
 
 Control* Container::ChildAt(Point p) const {

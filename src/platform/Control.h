@@ -40,6 +40,9 @@ class Control : public PropertyOwner {
   /// In pixels of the parent.
   virtual Rect Bounds() const = 0;
   virtual void Paint(Canvas& canvas, Point origin, const Rect& area) const = 0;
+  /// Whether the control hides everything below it in `area`, in pixels of the parent, so that nothing below
+  /// needs to be painted.
+  virtual bool Covers(const Rect&) const { return false; }
   /// The control at `p`, in pixels of the parent, that takes the mouse: this control, one inside it, or null.
   virtual Control* Hit(Point) { return nullptr; }
   virtual Pointer PointerHere() const { return Pointer::Default; }

@@ -137,12 +137,16 @@ void Form::PaintNow() {
   if (Visible) window_->PaintNow();
 }
 
-void Form::Paint(Canvas& canvas, const Rect& area) const {
-  canvas.PushClip(area);
+void Form::PaintGround(Canvas& canvas, const Rect& area) const {
   const Size art = Picture() ? Picture()->PixelSize() : Size{};
   const Rect client = ClientArea();
   if (art.width < client.width || art.height < client.height) canvas.Fill(area, 0);
   if (Picture()) canvas.DrawAt({0, 0}, *Picture());
+}
+
+void Form::Paint(Canvas& canvas, const Rect& area) const {
+  canvas.PushClip(area);
+  if (!Covered({0, 0}, area)) PaintGround(canvas, area);
   PaintChildren(canvas, {0, 0}, area);
   canvas.PopClip();
 }

@@ -97,6 +97,7 @@ class Form : public PropertyOwner, public Container {
 
  private:
   void Centre();
+  void PaintGround(Canvas& canvas, const Rect& area) const;
   void VisibleChanged();
   void MouseMoved(Point place, int held);
   void MousePressed(const FormEvent& event);

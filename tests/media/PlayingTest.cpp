@@ -129,6 +129,14 @@ TEST_F(Cinema, OpensPlayingAndPlacesTheFilmAtTheNextTick) {
   After(1250, [&] {
     // Half of an odd size is rounded to even: 7.5 to 8, and 6.5 to 6.
     EXPECT_EQ(Kino().AM0.Bounds(), (Rect{300 - 8, 200 - 6, 15, 13}));
+    const auto strokes = [this](const Rect& area) {
+      RecordingCanvas canvas;
+      Kino().Paint(canvas, area);
+      return canvas.strokes.size();
+    };
+    const Rect film = Kino().AM0.Bounds();
+    EXPECT_EQ(strokes(film), 1U) << "each picture of the film costs what lies under it";
+    EXPECT_GT(strokes({film.left - 1, film.top, film.width, film.height}), 1U);
     user.host.OnSleep = [&] {
       EXPECT_EQ(Look(), "Stop latched, playing, Play pressed, Stop pressed")
           << "the button is seen pressed before the window closes";
