@@ -8,6 +8,12 @@
 
 namespace orvanta {
 
+namespace {
+
+bool IsShown(const std::unique_ptr<MovieScreen>& screen) { return screen && screen->Visible; }
+
+}  // namespace
+
 ActiveMovie::ActiveMovie(Container& parent, std::string name, MovieKind kind)
     : BoxControl(parent, std::move(name)), player_(parent.OwnerForm().TheHost().MakePlayer(kind)) {
   player_->OnFrame = [this] { FrameChanged(); };
@@ -43,19 +49,20 @@ void ActiveMovie::PlayCount(std::int32_t count) {
 void ActiveMovie::ApplyPlayCount() { player_->SetPlayCount(autoRewind_ ? std::max(1, playCount_) : 1); }
 
 void ActiveMovie::FullScreenMode(bool on) {
-  if (on == (screen_ != nullptr)) return;
+  if (on == IsShown(screen_)) return;
   if (on) {
     Parent().OwnerForm().ExpectReturn();
-    screen_ = std::make_unique<MovieScreen>(Parent().OwnerForm(), *this);
-    screen_->Visible = true;
+    if (!screen_) screen_ = std::make_unique<MovieScreen>(Parent().OwnerForm(), *this);
+    screen_->Cover();
     return;
   }
   screen_->Visible = false;
-  screen_->TheHost().Loop().DeleteLater(std::move(screen_));
+  // The picture has changed meanwhile.
+  FrameChanged();
 }
 
 void ActiveMovie::FrameChanged() {
-  if (screen_) {
+  if (IsShown(screen_)) {
     screen_->Invalidate(screen_->ClientArea());
   } else if (Visible) {
     Parent().Invalidate(Bounds());

@@ -29,10 +29,14 @@ MovieScreen::MovieScreen(Form& owner, const ActiveMovie& movie)
                              .window = WindowKind::FullScreen,
                              .centred = false}),
       movie_(movie) {
+  SetOwner(owner);
+}
+
+void MovieScreen::Cover() {
   const Size screen = TheHost().ScreenSize();
   Width = screen.width * kTwipsPerPixel;
   Height = screen.height * kTwipsPerPixel;
-  SetOwner(owner);
+  Visible = true;
 }
 
 void MovieScreen::Paint(Canvas& canvas, const Rect& area) const {
@@ -51,8 +55,7 @@ AccessibleNode MovieScreen::Accessible() const {
 }
 
 void MovieScreen::Form_Click() {
-  // A copy, since the handler destroys this window.
-  if (const auto handler = movie_.ScreenClick) handler();
+  if (movie_.ScreenClick) movie_.ScreenClick();
 }
 
 }  // namespace orvanta

@@ -10,6 +10,8 @@ class ActiveMovie;
 class MovieScreen : public Form {
  public:
   MovieScreen(Form& owner, const ActiveMovie& movie);
+  /// Shows it over the whole screen as it is now.
+  void Cover();
   void Paint(Canvas& canvas, const Rect& area) const override;
   AccessibleNode Accessible() const override;
 

@@ -165,6 +165,22 @@ TEST_F(Cinema, PausesResumesFillsTheScreenAndStopsAtTheEnd) {
       << "it is played again without being opened again";
 }
 
+// Faults: the art keeps an old picture of the film, and each visit another hidden window.
+TEST_F(Cinema, ComesBackFromItsOneWholeScreenToTheFilmAsItIsNow) {
+  user.Do("start, choose 2");
+  for (const int delay : {2000, 3000}) {
+    After(delay, [this] { Kino().ButtonM_Click(KinoButton::FullScreen); });
+    After(delay + 500, [this] {
+      ASSERT_TRUE(WholeScreen());
+      Kino().ButtonM_Click(KinoButton::Window);
+      const Rect dirty = user.host.WindowOf(Kino()).dirty;
+      EXPECT_EQ(Union(dirty, Kino().AM0.Bounds()), dirty);
+      EXPECT_EQ(user.host.windows.size(), 8U);
+    });
+  }
+  Watch({{4000, "kinoPause", "Pause latched, paused, Pause pressed"}});
+}
+
 TEST_F(Cinema, ALargeFilmTakesTheClicksAboveTheButtonsAndFillsTheScreenInOneDimension) {
   user.host.screen = {1920, 1080};
   user.host.media["film.avi"].film = {854, 480};
