@@ -69,11 +69,8 @@ Rect PictureBox::ClientArea() const {
 void PictureBox::Paint(Canvas& canvas, Point origin, const Rect& area) const {
   const Rect box = Bounds().Moved(origin);
   canvas.PushClip(box);
-  if (Picture()) {
-    canvas.DrawAt({box.left, box.top}, *Picture());
-  } else {
-    canvas.Fill(box, BackColor);
-  }
+  canvas.Fill(box, BackColor);
+  if (Picture()) canvas.DrawAt({box.left, box.top}, *Picture());
   PaintChildren(canvas, {box.left, box.top}, Intersection(area, box));
   canvas.PopClip();
 }

@@ -138,9 +138,8 @@ void Form::PaintNow() {
 }
 
 void Form::PaintGround(Canvas& canvas, const Rect& area) const {
-  const Size art = Picture() ? Picture()->PixelSize() : Size{};
-  const Rect client = ClientArea();
-  if (art.width < client.width || art.height < client.height) canvas.Fill(area, 0);
+  // The art may be smaller than the form, and it may have transparent pixels.
+  canvas.Fill(area, 0);
   if (Picture()) canvas.DrawAt({0, 0}, *Picture());
 }
 

@@ -1,5 +1,7 @@
 // From the start screen to the farewell: the windows, their positions and their order.
 
+#include <algorithm>
+
 #include "support/Story.h"
 
 namespace orvanta::test {
@@ -47,6 +49,19 @@ TEST_F(MainWindow, FollowsTheStartScreenAtItsSecondTickWhenTheVoiceHasEnded) {
     EXPECT_EQ(shell.shell.frmReklama.Loaded(), nullptr);
     EXPECT_TRUE(shell.host.WindowOf(shell.Main()).visible);
     EXPECT_EQ(shell.host.Now(), handOver + 500 + 500 + 1000) << "pauses for two fonts and the menu";
+  }
+}
+
+// Fault: the transparent pixels of a picture show what was painted there before, such as the marker's trail.
+TEST_F(MainWindow, PaintsAGroundUnderTransparentArt) {
+  user.Do("start, choose 3");
+  const auto strokes = user.host.WindowOf(Main()).Painted().strokes;
+  for (const std::string art : {"MainGfx", "BackgroundPic", "LinePic"}) {
+    const auto picture =
+        std::ranges::find(strokes, disc.Value("GLOBAL", art), &RecordingCanvas::Stroke::text);
+    ASSERT_TRUE(picture != strokes.end() && picture != strokes.begin()) << art;
+    EXPECT_EQ(std::prev(picture)->kind, RecordingCanvas::Stroke::Kind::Fill) << art;
+    EXPECT_EQ(std::prev(picture)->seen, picture->seen) << art;
   }
 }
 
