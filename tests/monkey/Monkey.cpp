@@ -94,8 +94,23 @@ class Monkey : TestShell {
     held_ &= ~kLeftButton;
   }
   void Hold(int button) {
-    held_& button ? host.Release(button) : host.Press(button);
+    if (!(held_ & button)) {
+      host.Press(button);
+    } else if (Dice(4) != 0) {
+      host.Release(button);
+    } else {
+      host.ReleaseUntold(button);
+    }
     held_ ^= button;
+  }
+  /// A click that was on its way when its window was hidden or minimised.
+  void ClickHidden() {
+    const auto& window = *host.windows[random_() % host.windows.size()];
+    if (window.visible && !window.minimised) return;
+    const Point place{Dice(window.place.width + 1), Dice(window.place.height + 1)};
+    for (const auto kind : {FormEvent::Kind::MousePress, FormEvent::Kind::MouseRelease})
+      host.Loop().Post({kind, &window.form, place, kLeftButton,
+                        kind == FormEvent::Kind::MousePress ? kLeftButton : 0});
   }
   void Drag(const Image& knob) {
     if (!knob.Visible) return;
@@ -104,7 +119,7 @@ class Monkey : TestShell {
     if (Dice(3) == 0 && (held_ & kLeftButton)) Hold(kLeftButton);
   }
   void Act() {
-    const int what = Dice(97);
+    const int what = Dice(104);
     Form* const strip = shell.frmDociagGora.Loaded();
     const Point label = MiddleOf(Main().lblPos1(Dice(Main().lblPos1.UBound() + 1)));
     // While an entry is shown, prefer its transport buttons.
@@ -125,6 +140,10 @@ class Monkey : TestShell {
     if (what < 95) return host.Activate(strip && strip->Visible && Dice(4) == 0 ? *strip : Front());
     if (what == 95) host.startResult = Dice(2) ? 33 : Dice(36) - 1;
     if (what == 96) Click(MiddleOf(Main().picShot(0)));
+    if (what == 97) host.messageHold = Dice(4) * 150;
+    if (what == 98 || what == 99) host.RestartSoundServer();
+    if (what == 100 || what == 101) Hold(kRightButton), Click(OnControl());
+    if (what > 101) ClickHidden();
   }
 
   void Must(bool holds, const char* what) {
