@@ -180,7 +180,8 @@ bool GstTransport::BeginRepetition() {
 
 /// Whether a player that plays silently because there was no sound server could be heard now.
 bool GstTransport::SoundIsBack() const {
-  return playbin_ && output_ == SoundOutput::None && FindSoundOutput() != SoundOutput::None;
+  const bool hasPlayed = startedAt_ != Clock::time_point{};
+  return playbin_ && hasPlayed && output_ == SoundOutput::None && FindSoundOutput() != SoundOutput::None;
 }
 
 /// The position at which the next start begins, in seconds.
