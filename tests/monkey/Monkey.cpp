@@ -109,8 +109,8 @@ class Monkey : TestShell {
     if (window.visible && !window.minimised) return;
     const Point place{Dice(window.place.width + 1), Dice(window.place.height + 1)};
     for (const auto kind : {FormEvent::Kind::MousePress, FormEvent::Kind::MouseRelease})
-      host.Loop().Post({kind, &window.form, place, kLeftButton,
-                        kind == FormEvent::Kind::MousePress ? kLeftButton : 0});
+      host.Loop().Post(
+          {kind, &window.form, place, kLeftButton, kind == FormEvent::Kind::MousePress ? kLeftButton : 0});
   }
   void Drag(const Image& knob) {
     if (!knob.Visible) return;
