@@ -66,20 +66,21 @@ Point DesktopHost::CursorPos() const { return zoom_.ToProgram(cursor_.Place(cloc
 Form* DesktopHost::ActiveForm() const {
   const auto* window = dynamic_cast<const DesktopWindow*>(QApplication::activeWindow());
   if (!window) {
-    const bool waiting = heir_ && clock_.elapsed() < heirUntil_ && heir_->WindowState != Form::kMinimised;
-    return waiting ? heir_ : nullptr;
+    const bool waiting =
+        expected_ && clock_.elapsed() < expectedUntil_ && expected_->WindowState != Form::kMinimised;
+    return waiting ? expected_ : nullptr;
   }
   return window->isMinimized() ? nullptr : &window->TheForm();
 }
 
-void DesktopHost::Disinherit(const Form& form) {
-  if (heir_ == &form) heir_ = nullptr;
+void DesktopHost::StopExpecting(const Form& form) {
+  if (expected_ == &form) expected_ = nullptr;
 }
 
-void DesktopHost::Bequeath(Form& heir) {
+void DesktopHost::ExpectActivation(Form& next) {
   constexpr Milliseconds kPatience = 500;
-  heir_ = &heir;
-  heirUntil_ = Now() + kPatience;
+  expected_ = &next;
+  expectedUntil_ = Now() + kPatience;
 }
 
 void DesktopHost::TakeInput() {

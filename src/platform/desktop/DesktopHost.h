@@ -35,11 +35,11 @@ class DesktopHost : public Host {
   void SetMainWindow(const QWidget* window) { mainWindow_ = window; }
   /// Lets Qt wait for an event, to `deadline` at the longest, and handle it.
   void WaitForQt(Milliseconds deadline);
-  /// The active window goes, and the window manager, who may be slow, has not yet named another one: until
-  /// then `heir` counts as active, for half a second at the longest.
-  void Bequeath(Form& heir);
-  /// `form` is active by itself now, or goes.
-  void Disinherit(const Form& form);
+  /// The active window goes away, and the window manager, which may be slow, will activate `next`. Until it
+  /// does, `next` counts as active, for half a second at most.
+  void ExpectActivation(Form& next);
+  /// `form` has become active, or goes away.
+  void StopExpecting(const Form& form);
   /// What the program's windows are told of the cursor.
   CursorWatch& Cursor() const { return cursor_; }
 
@@ -80,8 +80,8 @@ class DesktopHost : public Host {
   QObject alarm_;  // who is woken: a timer's event needs somebody to go to
   QBasicTimer wake_;
   mutable CursorWatch cursor_;
-  Form* heir_ = nullptr;
-  Milliseconds heirUntil_ = 0;
+  Form* expected_ = nullptr;  // counts as active until `expectedUntil_`
+  Milliseconds expectedUntil_ = 0;
 };
 
 }  // namespace orvanta

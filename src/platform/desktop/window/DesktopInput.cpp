@@ -62,7 +62,7 @@ void DesktopWindow::changeEvent(QEvent* event) {
   host_.Cursor().Lose();
   changed_ = true;
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
-    host_.Disinherit(form_);
+    host_.StopExpecting(form_);
     Post(FormEvent::Kind::Activate);
   }
   if (event->type() == QEvent::WindowStateChange && isMinimized() != wasMinimised_) {

@@ -41,7 +41,7 @@ DesktopWindow::DesktopWindow(DesktopHost& host, Form& form, WindowKind kind)
 }
 
 DesktopWindow::~DesktopWindow() {
-  host_.Disinherit(form_);
+  host_.StopExpecting(form_);
   if (kind_ == WindowKind::Main) host_.SetMainWindow(nullptr);
 }
 
@@ -100,7 +100,7 @@ void DesktopWindow::SetOwner(Form& owner) {
 void DesktopWindow::SetVisible(bool visible) {
   if (visible == isVisible()) return;
   if (!visible) {
-    if (isActiveWindow() && form_.Owner()) host_.Bequeath(*form_.Owner());
+    if (isActiveWindow() && form_.Owner()) host_.ExpectActivation(*form_.Owner());
     return hide();
   }
   SetPlace(form_.Place());
