@@ -6,6 +6,7 @@
 #include <chrono>
 #include <thread>
 #include <utility>
+#include <vector>
 
 #include "platform/desktop/media/GstPlayer.h"
 #include "platform/desktop/media/SoundCard.h"
@@ -19,6 +20,14 @@
 namespace orvanta {
 
 namespace {
+
+/// Those of the program that exist now.
+std::vector<DesktopWindow*> Windows() {
+  std::vector<DesktopWindow*> windows;
+  for (QWidget* widget : QApplication::topLevelWidgets())
+    if (auto* window = dynamic_cast<DesktopWindow*>(widget)) windows.push_back(window);
+  return windows;
+}
 
 /// Before Qt starts: a pixel is one of the screen, and windows can say where they stand, which Wayland alone
 /// does not let them.
@@ -57,8 +66,15 @@ void DesktopHost::FollowScreen() {
   const ScreenZoom now = LookAtScreen();
   if (now == zoom_) return;
   zoom_ = now;
-  for (QWidget* widget : QApplication::topLevelWidgets())
-    if (auto* window = dynamic_cast<DesktopWindow*>(widget)) window->FollowScreen();
+  for (DesktopWindow* window : Windows()) window->FollowScreen();
+}
+
+void DesktopHost::PutMainWindowOnTop() {
+  if (auto* window = dynamic_cast<DesktopWindow*>(mainWindow_)) window->ComeToTop();
+}
+
+void DesktopHost::FollowWorkspace(std::uint32_t workspace) {
+  for (DesktopWindow* window : Windows()) window->FollowWorkspace(workspace);
 }
 
 Point DesktopHost::CursorPos() const { return zoom_.ToProgram(cursor_.Place(clock_.elapsed())); }

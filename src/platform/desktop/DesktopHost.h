@@ -32,7 +32,11 @@ class DesktopHost : public Host {
   /// The art of all windows, enlarged.
   EnlargedPictures& Pictures() { return pictures_; }
   /// The window whose screen is the program's; null if there is none.
-  void SetMainWindow(const QWidget* window) { mainWindow_ = window; }
+  void SetMainWindow(QWidget* window) { mainWindow_ = window; }
+  /// If it is on the screen, without activating it.
+  void PutMainWindowOnTop();
+  /// The main window has been sent to another workspace.
+  void FollowWorkspace(std::uint32_t workspace);
   /// Lets Qt wait for an event, to `deadline` at the longest, and handle it.
   void WaitForQt(Milliseconds deadline);
   /// The active window goes away, and the window manager, which may be slow, will activate `next`. Until it
@@ -72,7 +76,7 @@ class DesktopHost : public Host {
   const std::filesystem::path discFolder_;
   const std::optional<InstanceLock> instance_;
   const std::optional<int> chosenZoom_;
-  const QWidget* mainWindow_ = nullptr;
+  QWidget* mainWindow_ = nullptr;
   ScreenZoom zoom_;
   EnlargedPictures pictures_;
   PrivateFonts fonts_;

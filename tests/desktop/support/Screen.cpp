@@ -47,6 +47,16 @@ int Look::Count(Rgb colour) const {
       std::ranges::count_if(pixels, [&](Rgb pixel) { return (pixel & ~kMixed) == colour; }));
 }
 
+bool Look::IsAll(Rgb colour, int tolerance) const {
+  return std::ranges::all_of(pixels, [&](Rgb pixel) {
+    for (const int shift : {0, 8, 16})
+      if (std::abs(static_cast<int>(pixel >> shift & 0xFF) - static_cast<int>(colour >> shift & 0xFF)) >
+          tolerance)
+        return false;
+    return true;
+  });
+}
+
 std::string Difference(const Look& expected, const Look& seen) {
   for (std::size_t i = 0; i < seen.pixels.size(); ++i) {
     const Rgb wanted = expected.pixels.at(i), there = seen.pixels[i];
@@ -125,7 +135,26 @@ std::vector<T> Screen::Property(WindowId window, const std::string& name) const 
 }
 
 std::vector<WindowId> Screen::Windows() const {
-  return Property<WindowId>(root_, "_NET_CLIENT_LIST_STACKING");
+  if (HasManager()) return Property<WindowId>(root_, "_NET_CLIENT_LIST_STACKING");
+  const auto asked = xcb_query_tree(connection_.get(), root_);
+  const auto reply = Owned(xcb_query_tree_reply(connection_.get(), asked, nullptr));
+  const WindowId* first = xcb_query_tree_children(reply.get());
+  std::vector<WindowId> windows(first, first + reply->children_len);
+  std::erase_if(windows, [&](WindowId window) { return !IsMapped(window); });
+  return windows;
+}
+
+bool Screen::IsMapped(WindowId window) const {
+  const auto asked = xcb_get_window_attributes(connection_.get(), window);
+  const auto reply = Owned(xcb_get_window_attributes_reply(connection_.get(), asked, nullptr));
+  return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
+}
+
+WindowId Screen::Active() const {
+  if (HasManager()) return Number(root_, "_NET_ACTIVE_WINDOW");
+  const auto asked = xcb_get_input_focus(connection_.get());
+  const auto reply = Owned(xcb_get_input_focus_reply(connection_.get(), asked, nullptr));
+  return reply ? reply->focus : 0;
 }
 
 std::string Screen::TitleOf(WindowId window) const {
@@ -186,6 +215,19 @@ void Screen::Hand(const std::string& command) {
   if (std::system(("xdotool " + command).c_str()) != 0) throw std::runtime_error(command);
 }
 
+void Screen::Ask(WindowId window, const std::string& message, std::uint32_t first) const {
+  xcb_client_message_event_t event{};
+  event.response_type = XCB_CLIENT_MESSAGE;
+  event.format = 32;
+  event.window = window ? window : root_;
+  event.type = Atom(message);
+  event.data.data32[0] = first;
+  xcb_send_event(connection_.get(), 0, root_,
+                 XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                 reinterpret_cast<const char*>(&event));
+  xcb_flush(connection_.get());
+}
+
 void Screen::SetResources(const std::string& lines) const {
   xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, root_, XCB_ATOM_RESOURCE_MANAGER,
                       XCB_ATOM_STRING, 8, static_cast<std::uint32_t>(lines.size()), lines.data());
@@ -216,7 +258,7 @@ bool Screen::AwaitAppearance() const {
   }
 }
 
-OtherWindow::OtherWindow(const Rect& place, Rgb colour) {
+OtherWindow::OtherWindow(const Rect& place, Rgb colour, const std::string& type) {
   xcb_connection_t* connection = screen_.connection_.get();
   const int zoom = screen_.zoom_;
   window_ = xcb_generate_id(connection);
@@ -230,9 +272,23 @@ OtherWindow::OtherWindow(const Rect& place, Rgb colour) {
   xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window_, hints, hints, 32, 5, bare);
   xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window_, XCB_ATOM_WM_NORMAL_HINTS,
                       XCB_ATOM_WM_SIZE_HINTS, 32, 18, chosen);
+  if (!type.empty()) {
+    const std::uint32_t types[]{screen_.Atom("_NET_WM_WINDOW_TYPE_" + type)};
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window_, screen_.Atom("_NET_WM_WINDOW_TYPE"),
+                        XCB_ATOM_ATOM, 32, 1, types);
+  }
+  if (type == "DOCK") {
+    // Left, right, top, bottom; then where each begins and ends.
+    const auto height = static_cast<std::uint32_t>(place.height * zoom);
+    const std::uint32_t strut[12]{0, 0, height, 0, 0, 0, 0, 0, 0, Wide(place.width * zoom - 1)};
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window_, screen_.Atom("_NET_WM_STRUT_PARTIAL"),
+                        XCB_ATOM_CARDINAL, 32, 12, strut);
+  }
   xcb_map_window(connection, window_);
+  if (!screen_.HasManager())
+    xcb_set_input_focus(connection, XCB_INPUT_FOCUS_PARENT, window_, XCB_CURRENT_TIME);
   xcb_flush(connection);
-  Soon([&] { return screen_.Active() == window_; });
+  Soon([&] { return screen_.IsMapped(window_) && (!type.empty() || screen_.Active() == window_); });
 }
 
 }  // namespace orvanta::test

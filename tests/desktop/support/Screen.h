@@ -33,6 +33,8 @@ struct Look {
   void Frame(const Rect& area, Rgb colour);
   /// How many pixels have a colour, or have it in their upper left corner.
   int Count(Rgb colour) const;
+  /// Whether every pixel has a colour, as exactly as films and compositors keep it.
+  bool IsAll(Rgb colour, int tolerance = 2) const;
 
   Size size;
   std::vector<Rgb> pixels;
@@ -63,9 +65,10 @@ class Screen {
   /// Its hot spot is in program pixels, its pixels are the screen's.
   CursorLook Cursor() const;
 
-  /// The windows that the window manager knows, from the bottom to the top.
+  /// The windows that the window manager knows, from the bottom to the top. Without one, those on the screen.
   std::vector<WindowId> Windows() const;
-  WindowId Active() const { return Number(root_, "_NET_ACTIVE_WINDOW"); }
+  /// Without a window manager, the one with the focus.
+  WindowId Active() const;
   Rect Whole() const { return PlaceOf(root_); }
   Rect PlaceOf(WindowId window) const;
   std::string TitleOf(WindowId window) const;
@@ -81,6 +84,9 @@ class Screen {
   void Rest() const;  ///< long enough for a tick of the program
   /// Does what a command of xdotool says.
   static void Hand(const std::string& command);
+  /// Asks the window manager for something about a window, or about the whole screen if that is 0 (Extended
+  /// Window Manager Hints: a message to the root window).
+  void Ask(WindowId window, const std::string& message, std::uint32_t first) const;
   /// What a task bar does when its entry is clicked.
   static void Activate(WindowId window) { Hand("windowactivate " + std::to_string(window)); }
 
@@ -100,6 +106,8 @@ class Screen {
   std::vector<T> Property(WindowId window, const std::string& name) const;
   Rect ScreenPlaceOf(WindowId window) const;
   Look SeeScreen(const Rect& area) const;
+  bool IsMapped(WindowId window) const;
+  bool HasManager() const { return Number(root_, "_NET_SUPPORTING_WM_CHECK") != 0; }
   void Fake(int type, int detail, Point place = {}) const;
 
   std::shared_ptr<xcb_connection_t> connection_;
@@ -108,10 +116,13 @@ class Screen {
 };
 
 /// A window of another program, in one colour and without a frame.
+///
+/// `type` is one of the Extended Window Manager Hints' (_NET_WM_WINDOW_TYPE): the desktop, or a dock, which
+/// keeps its part of the screen's upper edge for itself.
 class OtherWindow {
  public:
-  /// Waits until it is active.
-  OtherWindow(const Rect& place, Rgb colour);
+  /// Waits until it is seen, and active if it is of no type.
+  OtherWindow(const Rect& place, Rgb colour, const std::string& type = "");
   WindowId Id() const { return window_; }
 
  private:

@@ -58,27 +58,12 @@ void DesktopWindow::leaveEvent(QEvent*) {
   Post(FormEvent::Kind::MouseLeave);
 }
 
-void DesktopWindow::changeEvent(QEvent* event) {
-  host_.Cursor().Lose();
-  changed_ = true;
-  if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
-    host_.StopExpecting(form_);
-    Post(FormEvent::Kind::Activate);
-  }
-  if (event->type() == QEvent::WindowStateChange && isMinimized() != wasMinimised_) {
-    wasMinimised_ = isMinimized();
-    Post(wasMinimised_ ? FormEvent::Kind::Minimise : FormEvent::Kind::Restore);
-    // Restored so soon that Qt has not noticed the loss of the activation, it tells of no new one either.
-    if (!wasMinimised_ && isActiveWindow()) Post(FormEvent::Kind::Activate);
-  }
-  QWidget::changeEvent(event);
-}
-
 void DesktopWindow::moveEvent(QMoveEvent* event) {
   if (isVisible() && !isMinimized() && !showing_) NoteMove(event->pos());
 }
 
 void DesktopWindow::NoteMove(const QPoint& corner) {
+  if (kind_ == WindowKind::Plain) return StayInPlace();
   const Point place = host_.Zoom().ToProgram({corner.x(), corner.y()});
   if (place == Point{place_.left, place_.top}) return;
   place_.left = place.x;

@@ -16,7 +16,8 @@ namespace orvanta {
 namespace {
 
 Qt::WindowFlags FlagsOf(WindowKind kind) {
-  return (kind == WindowKind::Modal ? Qt::Dialog : Qt::Window) | Qt::FramelessWindowHint;
+  return (kind == WindowKind::Modal ? Qt::Dialog : Qt::Window) | Qt::FramelessWindowHint |
+         (kind == WindowKind::Plain ? Qt::WindowDoesNotAcceptFocus : Qt::WindowFlags{});
 }
 
 QRect ToQt(const Rect& r) { return {r.left, r.top, r.width, r.height}; }
@@ -35,7 +36,6 @@ DesktopWindow::DesktopWindow(DesktopHost& host, Form& form, WindowKind kind)
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAttribute(Qt::WA_NoSystemBackground);
   setMouseTracking(true);
-  if (kind == WindowKind::Plain) setAttribute(Qt::WA_ShowWithoutActivating);
   if (kind == WindowKind::Modal || kind == WindowKind::FullScreen) setWindowModality(Qt::ApplicationModal);
   if (kind == WindowKind::Main) host_.SetMainWindow(this);
 }
@@ -51,6 +51,7 @@ void DesktopWindow::SetPlace(const Rect& place) {
   const Rect shown = Shown();
   setFixedSize(shown.width, shown.height);
   move(shown.left, shown.top);
+  if (kind_ == WindowKind::Plain) StayInPlace();
 }
 
 Rect DesktopWindow::Shown() const {
@@ -83,6 +84,16 @@ void DesktopWindow::SetShape(const Region& shape) {
   setMask(mask);
 }
 
+// A window manager may keep a strip off a panel, over the main window, or make it larger.
+void DesktopWindow::StayInPlace() {
+  setMask(ToQt(Shown()).translated(-pos()));
+  update();
+}
+
+QPoint DesktopWindow::Pushed() const {
+  return kind_ == WindowKind::Plain ? pos() - ToQt(Shown()).topLeft() : QPoint();
+}
+
 void DesktopWindow::SetCaption(const std::string& caption) { setWindowTitle(WindowTitle(caption)); }
 
 void DesktopWindow::SetPointer(Pointer pointer) {
@@ -107,13 +118,18 @@ void DesktopWindow::SetVisible(bool visible) {
   ShowNow();
 }
 
+void DesktopWindow::SetHints() {
+  if (kind_ != WindowKind::Main) SkipTaskBar(*this);
+  if (kind_ == WindowKind::Main || kind_ == WindowKind::Plain) ForbidMoving(*this);
+  if (kind_ == WindowKind::Plain) RefuseFocus(*this);
+  // Decoding the icon is slow; windows that no list of windows shows skip it.
+  if (kind_ != WindowKind::Plain && kind_ != WindowKind::Splash) setWindowIcon(ShellIcon());
+}
+
 void DesktopWindow::ShowNow() {
-  // Four pictures of it are decoded, so that the start screen comes sooner without.
-  if (kind_ == WindowKind::Plain || kind_ == WindowKind::Splash) {
-    SkipTaskBar(*this);
-  } else {
-    setWindowIcon(ShellIcon());
-  }
+  // Shown while Qt takes it for minimised, it would come up so.
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  SetHints();
   // A window manager that frames the window takes it to the screen's corner for a moment.
   showing_ = true;
   if (kind_ == WindowKind::FullScreen) {
@@ -123,28 +139,15 @@ void DesktopWindow::ShowNow() {
   }
   // Painting reaches the screen only from the exposure on.
   const Milliseconds end = host_.Now() + kExposurePatience;
-  while (host_.Now() < end && !(windowHandle() && windowHandle()->isExposed())) host_.WaitForQt(end);
+  while (host_.Now() < end && !isMinimized() && !(windowHandle() && windowHandle()->isExposed()))
+    host_.WaitForQt(end);
   showing_ = false;
+  if (kind_ == WindowKind::Plain) host_.PutMainWindowOnTop();
   const QPoint wanted = ToQt(Shown()).topLeft();
   if (pos() == wanted) return;
   // Some window managers move a window that is larger than the screen.
   if (kind_ == WindowKind::Modal) return move(wanted);
   NoteMove(pos());
-}
-
-void DesktopWindow::SetMinimised(bool minimised) {
-  wasMinimised_ = minimised;
-  if (minimised) {
-    showMinimized();
-  } else {
-    showNormal();
-  }
-}
-
-void DesktopWindow::Raise() {
-  raise();
-  // The strips are lifted with the main window, which alone takes the activation.
-  if (kind_ != WindowKind::Plain) activateWindow();
 }
 
 QRect DesktopWindow::OnScreen(const Rect& area) const {
@@ -173,6 +176,8 @@ void DesktopWindow::PaintNow() {
 void DesktopWindow::paintEvent(QPaintEvent* event) {
   dirty_ -= event->region();
   QPainter painter(this);
+  painter.translate(-Pushed());
+  const QRegion dirty = event->region().translated(Pushed());
   const WindowZoom zoom = Zoom();
   PainterCanvas canvas(painter, zoom, host_.Pictures());
   const auto paint = [&](const QRect& r) {
@@ -180,8 +185,8 @@ void DesktopWindow::paintEvent(QPaintEvent* event) {
   };
   // Many small parts cost more than the rectangle around them.
   constexpr int kMostParts = 8;
-  if (event->region().rectCount() > kMostParts) return paint(event->rect());
-  for (const QRect& part : event->region()) paint(part);
+  if (dirty.rectCount() > kMostParts) return paint(dirty.boundingRect());
+  for (const QRect& part : dirty) paint(part);
 }
 
 }  // namespace orvanta

@@ -25,9 +25,13 @@ class DesktopWindow : public QWidget, public FormWindow {
   ~DesktopWindow() override;
 
   Form& TheForm() const { return form_; }
-  /// How often the widget was painted.
   /// The screen has another size, place or zoom.
   void FollowScreen();
+  /// Comes in front of the strips, without asking for the activation: soon if it is active, else when it
+  /// next is.
+  void ComeToTop();
+  /// The main window is on another workspace; its strips go there too.
+  void FollowWorkspace(std::uint32_t workspace);
 
   /// The place of an area of the form on the screen, in screen pixels.
   QRect OnScreen(const Rect& area) const;
@@ -59,13 +63,24 @@ class DesktopWindow : public QWidget, public FormWindow {
   void changeEvent(QEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  bool nativeEvent(const QByteArray& kind, void* message, qintptr* result) override;
 
  private:
   void Post(FormEvent::Kind kind, Point place = {}, int button = 0, int held = 0);
   void PostMouse(FormEvent::Kind kind, const QMouseEvent& event);
   void SeeCursor(const QSinglePointEvent& event);
   void NoteMove(const QPoint& corner);
+  void SetHints();
   void ShowNow();
+  void StayInPlace();
+  /// How far the window manager has pushed a strip from its place, in screen pixels.
+  QPoint Pushed() const;
+  void StateChanged();
+  void TopIfActive();
+  /// A strip: by any other program's window that is in front of it. The main window: by a strip.
+  bool IsCovered() const;
+  void TakeBackMinimising();
+  void ComeBack();
   /// The window's place among all screens.
   Rect Shown() const;
   WindowZoom Zoom() const;
@@ -83,6 +98,7 @@ class DesktopWindow : public QWidget, public FormWindow {
   WindowAccess* access_ = nullptr;  // owned by Qt
   bool changed_ = false;
   Milliseconds lookAgain_ = 0;
+  bool topDue_ = false;
 };
 
 }  // namespace orvanta
