@@ -187,7 +187,7 @@ TEST_F(DiscImage, IsOpenedInTheShellOnce) {
   const std::string line = " open " + disc.Folder().string() + " 2>&1 | cat";
   Program second({"bash", "-o", "pipefail", "-c", DiscToolProgram() + line});
   EXPECT_EQ(second.Ended(), 1);
-  EXPECT_NE(second.Printed().find("running already"), std::string::npos) << second.Printed();
+  EXPECT_NE(second.Printed().find("already running"), std::string::npos) << second.Printed();
 }
 
 }  // namespace orvanta::test
