@@ -48,8 +48,8 @@ Findings CheckDisc(const DiscTree& disc, DiscProbe& probe, bool deep) {
   DiscFiles files(disc, probe);
   CheckJob job{disc, catalogue, tree, files, findings, deep};
   if (!CheckEncoding(job)) return findings;
-  for (auto* part :
-       {CheckLines, CheckSettings, CheckTree, CheckUnread, CheckFiles, CheckFonts, CheckLinks, CheckLayout})
+  for (auto* part : {CheckLines, CheckSettings, CheckTree, CheckUnread, CheckFiles, CheckPrograms, CheckFonts,
+                     CheckLinks, CheckLayout})
     part(job);
   findings.Sort();
   return findings;

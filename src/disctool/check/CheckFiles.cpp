@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include "config/DiscDrive.h"
 #include "config/NumberedKey.h"
 #include "config/Windows1250.h"
 #include "disctool/check/CheckJob.h"
@@ -97,7 +98,7 @@ void CheckMedia(CheckJob& job, const NamedFile& file, bool film) {
 /// Reports a path that leads off the disc, or that depends on where the shell was started.
 bool LiesOnDisc(CheckJob& job, const NamedFile& file) {
   const std::string& path = file.path;
-  const bool hasDrive = path.size() >= 2 && path[1] == ':';
+  const bool hasDrive = HasDrive(path);
   const bool network = path.starts_with("\\\\") || path.starts_with("//");
   if (network || (hasDrive && !EqualNoCase(path.substr(0, 1), std::string(1, kDrive)))) {
     job.findings.Warning(
@@ -118,9 +119,8 @@ bool LiesOnDisc(CheckJob& job, const NamedFile& file) {
 
 /// A sound with a drive is used as it is; any other is in its folder.
 void CheckSound(CheckJob& job, const std::string& naming, const Setting& found) {
-  const bool hasDrive = found.value.size() >= 2 && found.value[1] == ':';
   NamedFile file{found.place, naming, found.value, found.value};
-  if (!hasDrive) file.path = PicturePath("Sound\\" + found.value);
+  if (!HasDrive(found.value)) file.path = PicturePath("Sound\\" + found.value);
   if (LiesOnDisc(job, file)) CheckMedia(job, file, false);
 }
 

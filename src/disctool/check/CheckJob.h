@@ -48,6 +48,8 @@ void CheckTree(CheckJob& job);
 void CheckUnread(CheckJob& job);
 /// Finds files that are missing, spelled differently, or not usable.
 void CheckFiles(CheckJob& job);
+/// Finds programs of entries that cannot run, and files in their parameters that are missing.
+void CheckPrograms(CheckJob& job);
 /// Finds names of fonts that are not in the disc's files, and links that lead off the disc.
 void CheckFonts(CheckJob& job);
 void CheckLinks(CheckJob& job);

@@ -7,13 +7,15 @@
 #include "disctool/OutputText.h"
 
 namespace orvanta {
-namespace {
 
 const char* NameOf(Finding::Severity severity) {
-  return severity == Finding::Severity::Error ? Translatable("error") : Translatable("warning");
+  switch (severity) {
+    case Finding::Severity::Error: return Translatable("error");
+    case Finding::Severity::Warning: return Translatable("warning");
+    case Finding::Severity::Note: break;
+  }
+  return Translatable("note");
 }
-
-}  // namespace
 
 void Findings::Sort() {
   std::ranges::stable_sort(list_, {}, [](const Finding& finding) {
@@ -21,8 +23,8 @@ void Findings::Sort() {
   });
 }
 
-std::size_t Findings::Errors() const {
-  return static_cast<std::size_t>(std::ranges::count(list_, Finding::Severity::Error, &Finding::severity));
+std::size_t Findings::Count(Finding::Severity severity) const {
+  return static_cast<std::size_t>(std::ranges::count(list_, severity, &Finding::severity));
 }
 
 std::string FindingsText(const Findings& findings) {

@@ -112,7 +112,8 @@ constexpr CommandInfo kCommands[] = {
      kInfoOptions, kInfoExamples},
     {"check", "DISC...", Translatable("List everything that is wrong with discs"),
      Translatable("Lists everything that is wrong with each disc, one finding per line, as FILE:LINE: "
-                  "error|warning: TEXT. Without a line the whole file is meant."),
+                  "error|warning|note: TEXT. Without a line the whole file is meant. A note says what this "
+                  "machine lacks; it is not a fault of the disc."),
      kCheckOptions, kCheckExamples},
     {"tree", "DISC...", Translatable("Show the menu tree"),
      Translatable("Lists the menu tree with the kind of each item: menu, program, music, film, or inert for "

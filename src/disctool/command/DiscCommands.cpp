@@ -12,11 +12,12 @@ namespace orvanta {
 
 DiscReport CheckReport(const DiscTree& disc, DiscProbe& probe, const CheckOptions& options) {
   const Findings findings = CheckDisc(disc, probe, options.deep);
-  const std::size_t faults = options.strict ? findings.List().size() : findings.Errors();
+  const std::size_t faults = findings.Errors() + (options.strict ? findings.Warnings() : 0);
   if (options.sarif) return {SarifResults(findings), {}, faults > 0};
   if (!options.json) return {FindingsText(findings), {}, faults > 0};
   JsonObject json = JsonLine(disc.Name().native());
   json.Number("errors", findings.Errors()).Number("warnings", findings.Warnings());
+  json.Number("notes", findings.Notes());
   return {json.Value("findings", FindingsJson(findings)).Done() + "\n", {}, faults > 0};
 }
 

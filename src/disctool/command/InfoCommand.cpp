@@ -37,29 +37,6 @@ void CountFiles(DiscInfo& info, const DiscTree& disc) {
   }
 }
 
-const char* NameOf(const EntryTarget& target) {
-  switch (target.place) {
-    case EntryTarget::Place::Address: return Translatable("address");
-    case EntryTarget::Place::OffTheDisc: return Translatable("not on the disc");
-    case EntryTarget::Place::Missing: return Translatable("missing");
-    case EntryTarget::Place::Special: return Translatable("not a file");
-    case EntryTarget::Place::Folder: return Translatable("folder");
-    case EntryTarget::Place::File: break;
-  }
-  switch (target.facts.kind) {
-    case FileKind::Document: return Translatable("document");
-    case FileKind::Native: return Translatable("native program");
-    case FileKind::Script: return Translatable("script");
-    case FileKind::Dos: return Translatable("DOS program");
-    case FileKind::Windows16: return Translatable("16-bit Windows program");
-    case FileKind::Windows32: return Translatable("32-bit Windows program");
-    case FileKind::Windows64: return Translatable("64-bit Windows program");
-    case FileKind::WindowsFile: return Translatable("file for Windows");
-    case FileKind::Broken: break;
-  }
-  return Translatable("broken program");
-}
-
 std::string CountOf(NodeKind kind, std::size_t count) {
   switch (kind) {
     case NodeKind::Menu: return TranslatedCount("%1 menu", "%1 menus", count);

@@ -51,8 +51,7 @@ std::string SarifResults(const Findings& findings) {
   std::string lines;
   for (const Finding& finding : findings.List()) {
     JsonObject result;
-    result.Text("ruleId", finding.id);
-    result.Text("level", finding.severity == Finding::Severity::Error ? "error" : "warning");
+    result.Text("ruleId", finding.id).Text("level", NameOf(finding.severity));
     result.Value("message", Message(finding.text));
     const std::string location = Location(finding.place);
     lines += result.Value("locations", JsonArray({&location, 1})).Done() + "\n";

@@ -27,6 +27,7 @@ class DiscFiles {
   std::vector<std::string> FontNames(const std::string& path);
   bool CanPlay(const std::string& path, bool film);
   std::string DecodingProblem(const std::string& path);
+  Runner RunnerOf(const FileFacts& facts) const { return probe_.RunnerOf(facts); }
 
  private:
   template <class Value, class Try>

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/Geometry.h"
+#include "platform/Runner.h"
 
 namespace orvanta {
 
@@ -25,6 +26,8 @@ class DiscProbe {
   /// Decodes a sound or film completely, which takes as long as reading it. Returns what is wrong, in the
   /// user's language; empty if nothing is.
   virtual std::string DecodingProblem(const std::filesystem::path& file) = 0;
+  /// What runs a program on this machine. A probe that does not look for it reports nothing as missing.
+  virtual Runner RunnerOf(const FileFacts&) { return {}; }
   /// How many pixels of two pictures differ; nothing if one cannot be read or their sizes differ.
   virtual std::optional<std::uintmax_t> DifferentPixels(const std::filesystem::path& a,
                                                         const std::filesystem::path& b) = 0;

@@ -16,9 +16,8 @@ namespace fs = std::filesystem;
 }  // namespace
 
 FoundPath DiscTree::Find(std::string_view windowsPath) const {
-  const bool hasDrive = windowsPath.size() >= 2 && windowsPath[1] == ':';
   const bool rooted = windowsPath.starts_with('\\') || windowsPath.starts_with('/');
-  return hasDrive || rooted ? DiscDrive(fs::path()).Find(windowsPath, *this) : FoundPath();
+  return HasDrive(windowsPath) || rooted ? DiscDrive(fs::path()).Find(windowsPath, *this) : FoundPath();
 }
 
 bool DiscTree::Exists(const fs::path& path) const { return EntryAt(path.native()).kind != Kind::Missing; }

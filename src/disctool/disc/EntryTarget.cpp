@@ -1,6 +1,8 @@
 #include "disctool/disc/EntryTarget.h"
 
+#include "config/DiscDrive.h"
 #include "config/Windows1250.h"
+#include "disctool/Translation.h"
 #include "disctool/disc/Catalogue.h"
 
 namespace orvanta {
@@ -36,8 +38,7 @@ bool IsAddress(std::string_view value) {
 }
 
 std::string OnDrive(const std::string& path) {
-  const bool hasDrive = path.size() >= 2 && path[1] == ':';
-  return hasDrive ? path : std::string(Catalogue::kDiscRoot.substr(0, 2)) + path;
+  return HasDrive(path) ? path : std::string(Catalogue::kDiscRoot.substr(0, 2)) + path;
 }
 
 EntryTarget TargetOf(const DiscTree& disc, const std::string& value) {
@@ -66,6 +67,29 @@ std::string_view IdOf(const EntryTarget& target) {
     case EntryTarget::Place::File: break;
   }
   return IdOf(target.facts.kind);
+}
+
+const char* NameOf(const EntryTarget& target) {
+  switch (target.place) {
+    case EntryTarget::Place::Address: return Translatable("address");
+    case EntryTarget::Place::OffTheDisc: return Translatable("not on the disc");
+    case EntryTarget::Place::Missing: return Translatable("missing");
+    case EntryTarget::Place::Special: return Translatable("not a file");
+    case EntryTarget::Place::Folder: return Translatable("folder");
+    case EntryTarget::Place::File: break;
+  }
+  switch (target.facts.kind) {
+    case FileKind::Document: return Translatable("document");
+    case FileKind::Native: return Translatable("native program");
+    case FileKind::Script: return Translatable("script");
+    case FileKind::Dos: return Translatable("DOS program");
+    case FileKind::Windows16: return Translatable("16-bit Windows program");
+    case FileKind::Windows32: return Translatable("32-bit Windows program");
+    case FileKind::Windows64: return Translatable("64-bit Windows program");
+    case FileKind::WindowsFile: return Translatable("file for Windows");
+    case FileKind::Broken: break;
+  }
+  return Translatable("broken program");
 }
 
 }  // namespace orvanta

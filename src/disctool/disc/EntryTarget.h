@@ -24,6 +24,9 @@ struct EntryTarget {
 
 EntryTarget TargetOf(const DiscTree& disc, const std::string& value);
 
+/// The kind of a target in English, to be translated: "16-bit Windows program".
+const char* NameOf(const EntryTarget& target);
+
 /// The id of the kind of a target, which is the same in every language: "windows-16", "folder", "missing" and
 /// so on.
 std::string_view IdOf(const EntryTarget& target);

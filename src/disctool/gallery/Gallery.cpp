@@ -44,6 +44,8 @@ void AddFindings(GalleryContents& contents, const Catalogue& catalogue, const Me
                  const Findings& findings) {
   const SectionPlaces places(catalogue, tree);
   for (const Finding& finding : findings.List()) {
+    // A gallery is the same wherever it is made.
+    if (finding.severity == Finding::Severity::Note) continue;
     const MenuNode* node = places.NodeAt(finding.place);
     const std::size_t entry = node ? contents.root + static_cast<std::size_t>(node - tree.nodes.data()) : 0;
     auto& list =

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFontDatabase>
 #include <QImageReader>
+#include <cstdlib>
 #include <memory>
 #include <system_error>
 
@@ -67,6 +68,11 @@ std::vector<std::string> DesktopProbe::FontNames(const std::filesystem::path& fi
     names.push_back(family.toStdString());
   QFontDatabase::removeApplicationFont(id);
   return names;
+}
+
+Runner DesktopProbe::RunnerOf(const FileFacts& facts) {
+  const char* path = std::getenv("PATH");
+  return FindRunner(facts, path ? path : "");
 }
 
 bool DesktopProbe::CanPlay(const std::filesystem::path& file, bool film) {

@@ -11,6 +11,7 @@ class DesktopProbe : public DiscProbe {
   std::optional<Size> PictureSize(const std::filesystem::path& file) override;
   std::int64_t MostPixels() const override;
   std::vector<std::string> FontNames(const std::filesystem::path& file) override;
+  Runner RunnerOf(const FileFacts& facts) override;
   /// Opens the file without playing it. If GStreamer takes longer than five seconds, the file counts as not
   /// playable.
   bool CanPlay(const std::filesystem::path& file, bool film) override;

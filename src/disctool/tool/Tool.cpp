@@ -132,15 +132,15 @@ int New(const Request& request, int& argc, char** argv) {
   return Outcome(MakeNewDisc(request.words[0]));
 }
 
-struct Runner {
+struct Handler {
   std::string_view name;
   int (*run)(const Request& request, int& argc, char** argv);
 };
 /// One for each command in the table.
-constexpr Runner kRunners[] = {{"open", Open},       {"info", RunInfo},    {"check", Check},
-                               {"tree", RunTree},    {"find", RunFind},    {"diff", RunDiff},
-                               {"gallery", Gallery}, {"library", Library}, {"export", Export},
-                               {"get", Get},         {"tracks", Tracks},   {"new", New}};
+constexpr Handler kHandlers[] = {{"open", Open},       {"info", RunInfo},    {"check", Check},
+                                 {"tree", RunTree},    {"find", RunFind},    {"diff", RunDiff},
+                                 {"gallery", Gallery}, {"library", Library}, {"export", Export},
+                                 {"get", Get},         {"tracks", Tracks},   {"new", New}};
 
 int Dispatch(const Request& request, int& argc, char** argv) {
   if (!request.problem.empty()) return Misuse(request);
@@ -148,8 +148,8 @@ int Dispatch(const Request& request, int& argc, char** argv) {
   if (request.Has("completion")) return Written(request, Completion(request.Option("completion")));
   if (request.Has("man")) return Written(request, ManPage(request.Option("man"), ORVANTA_VERSION));
   if (request.Has("help")) return Written(request, request.command ? HelpText(*request.command) : HelpText());
-  for (const Runner& runner : kRunners)
-    if (runner.name == request.command->name) return runner.run(request, argc, argv);
+  for (const Handler& handler : kHandlers)
+    if (handler.name == request.command->name) return handler.run(request, argc, argv);
   return kMisuse;
 }
 

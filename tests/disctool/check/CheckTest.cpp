@@ -63,6 +63,13 @@ constexpr const char* kFaults[][2] = {
     {"Film/Parameters=%:\\setup.exe", "not-playable! Parameters=%:\\setup.exe"},
     {"Gra/Execute=C:\\setup.exe", "off-the-disc Execute=C:\\setup.exe"},
     {"Gra/Execute=setup.exe", "no-drive Execute=setup.exe"},
+    {"@x.exe=MZ, Gra/Execute=%:\\Data\\x.exe", "no-program! Execute=%:\\Data\\x.exe"},
+    {"@x.sh=#!/bin/sh, Gra/Execute=%:\\Data\\x.sh", "not-executable Execute=%:\\Data\\x.sh"},
+    {"@a.url=[InternetShortcut]\nURL=file:///E:/x.htm, Gra/Execute=%:\\Data\\a.url",
+     "dead-shortcut Execute=%:\\Data\\a.url"},
+    {"Gra/Parameters=%:\\x D:\\setup.EXE D:\\*.txt C:\\x /x",
+     "no-parameter-file Parameters=%:\\x D:\\setup.EXE D:\\*.txt C:\\x /x"},
+    {"Gra/Parameters=/s %:\\setup.exe", "late-drive Parameters=/s %:\\setup.exe"},
     {"-Gra/Shot1", "no-screenshot [Gra]"},
     {"Gra/Shot3=shot.gif", "behind-the-end Shot3=shot.gif"},
     {"-Muzyka/Parameters", "nothing-to-play! PlayAs=music"},
@@ -95,6 +102,11 @@ TEST(Check, EachMistakeIsFoundAtItsLineAndNothingElse) {
     Change(disc, changes);
     EXPECT_EQ(Found(disc), found) << changes << "\n" << FindingsText(disc.Check());
   }
+  GoodDisc script;
+  script.File("start.sh", "#!/bin/sh\r\n");
+  std::filesystem::permissions(script.Folder() / "start.sh", std::filesystem::perms::owner_all);
+  script.Set("Gra", "Execute", "%:\\start.sh");
+  EXPECT_EQ(Found(script), "script-line-ends! Execute=%:\\start.sh");
   GoodDisc button;
   button.Picture("ext1.gif", 40, 24);
   EXPECT_EQ(Found(button), "looks-differ ExtB=ext");

@@ -39,12 +39,16 @@ struct FirstBytesProbe : DiscProbe {
   }
 };
 
+/// The least that DOS runs: one page with a header of two paragraphs.
+inline const std::string kDosProgram("MZ\x20\0\1\0\0\0\2\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\x1C\0\0\0\0\0\0\0",
+                                     32);
+
 /// A disc without a fault: a program, a piece of music and a film.
 struct GoodDisc : TestDisc {
   GoodDisc() {
     File("Data/title.ttf", "font");
     File("Data/menu.ttf", "font");
-    File("setup.exe", "MZ");
+    File("setup.exe", kDosProgram);
     File("film.avi", "film");
     Menu("MAINMENU", {"Programy", "Muzyka", "Film"});
     Menu("Programy", {"Gra"});

@@ -61,6 +61,22 @@ TEST(Commands, ListTheTreeFindValuesAndReportFaults) {
   EXPECT_EQ(out.str(), "Płyta próbna\nD:\\setup.exe\n");
 }
 
+// Fault: a good disc that fails on a machine without DOSBox.
+TEST(Commands, NoteWhatThisMachineLacksAndDoNotBlameTheDisc) {
+  struct : FirstBytesProbe {
+    Runner RunnerOf(const FileFacts& facts) override {
+      return facts.kind == FileKind::Dos ? Runner{"dosbox", {}, "dosbox"} : Runner{};
+    }
+  } probe;
+  const GoodDisc disc;
+  const DiscReport report = CheckReport(FolderTree(disc.Folder()), probe, {.strict = true});
+  EXPECT_FALSE(report.faults);
+  EXPECT_NE(report.text.find(": note: Execute of [Gra] cannot be started on this machine: D:\\setup.exe (DOS "
+                             "program) needs dosbox"),
+            std::string::npos)
+      << report.text;
+}
+
 TEST(Commands, CountWarningsAsFaultsOnlyIfAskedTo) {
   GoodDisc disc;
   FirstBytesProbe probe;
@@ -73,7 +89,7 @@ TEST(Commands, CountWarningsAsFaultsOnlyIfAskedTo) {
   disc.Remove("GLOBAL", "S2_Top");
   const DiscReport json = check({.json = true});
   EXPECT_TRUE(json.faults);
-  EXPECT_NE(json.text.find(R"(, "errors": 1, "warnings": 0, "findings": [)"), std::string::npos);
+  EXPECT_NE(json.text.find(R"(, "errors": 1, "warnings": 0, "notes": 0, "findings": [)"), std::string::npos);
   EXPECT_NE(json.text.find(R"("severity": "error", "id": "missing-key", "text": "S2_Top of)"),
             std::string::npos);
 }

@@ -39,18 +39,18 @@ TEST(Diff, ShowsWhatChangedBetweenTwoPressings) {
   second.Menu("MAINMENU", {"Film", "Programy", "Nowa"});
   second.Set("Film", "Note", "Inny opis");
   second.Picture("help.gif", 400, 600, 0);
-  second.File("setup.exe", "MZ2");
+  second.File("setup.exe", kDosProgram + "2");
   second.File("Nowe/plik.txt", "x");
   std::filesystem::rename(second.Folder() / "film.avi", second.Folder() / "FILM.AVI");
   const DiscReport report = diff(false);
   EXPECT_TRUE(report.faults);
   for (const char* line : {"settings:\n~ BackX [GLOBAL]: ", " -> 17\n", "menus:\n- MAINMENU > Muzyka\n",
                            "+ MAINMENU > Nowa\n~ MAINMENU: the items are in another order\n",
-                           "texts:\n~ Note [Film]: Opis -> Inny opis\n", "~ setup.exe: 3 bytes, before 2\n",
+                           "texts:\n~ Note [Film]: Opis -> Inny opis\n", "~ setup.exe: 33 bytes, before 32\n",
                            "+ Nowe/plik.txt\n", "~ Data/help.gif: 240000 pixels differ\n"})
     EXPECT_NE(report.text.find(line), std::string::npos) << line << report.text;
   EXPECT_EQ(report.text.find("FILM.AVI"), std::string::npos) << "the names differ only in case";
-  EXPECT_NE(diff(true).text.find(R"({"path": "setup.exe", "before": 2, "after": 3, "pixels": null})"),
+  EXPECT_NE(diff(true).text.find(R"({"path": "setup.exe", "before": 32, "after": 33, "pixels": null})"),
             std::string::npos);
 }
 
