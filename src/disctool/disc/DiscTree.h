@@ -48,6 +48,8 @@ class DiscTree : public PathLookup {
   virtual bool LeadsOff(const std::string&) const { return false; }
   /// The label of an image's volume; empty without one.
   virtual std::string Label() const { return {}; }
+  /// The serial number that Windows shows for an image; nothing without one.
+  virtual std::optional<std::uint32_t> Serial() const { return std::nullopt; }
   /// The names in a folder, in any order; none if it cannot be read.
   virtual std::vector<std::string> List(const std::string& folder) const = 0;
   /// At most `most` bytes, starting at `from`; fewer at the end of the file. Nothing if it is not a file or

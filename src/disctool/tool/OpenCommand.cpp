@@ -17,6 +17,7 @@
 #include "disctool/Translation.h"
 #include "disctool/disc/Catalogue.h"
 #include "disctool/image/DiscCache.h"
+#include "disctool/image/VolumeFiles.h"
 #include "platform/desktop/DesktopHost.h"
 #include "platform/desktop/Display.h"
 #include "platform/desktop/window/QtScaling.h"
@@ -73,7 +74,9 @@ std::string Open(const Request& request, int& argc, char** argv) {
   const OpenedDisc disc = cache.Open(
       request.words[0], [&window](std::uintmax_t done, std::uintmax_t all) { window->Show(done, all); });
   window.reset();
-  return disc.problem.empty() ? RunShell(disc.folder, zoom, argc, argv) : disc.problem;
+  if (!disc.problem.empty()) return disc.problem;
+  WriteVolumeFiles(request.words[0], disc.folder);
+  return RunShell(disc.folder, zoom, argc, argv);
 }
 
 }  // namespace

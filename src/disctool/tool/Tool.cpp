@@ -17,6 +17,7 @@
 #include "disctool/gallery/Library.h"
 #include "disctool/image/DiscCache.h"
 #include "disctool/image/OpenTree.h"
+#include "disctool/image/VolumeFiles.h"
 #include "disctool/image/sectors/AudioTracks.h"
 #include "disctool/making/NewDisc.h"
 #include "disctool/tool/CommandSupport.h"
@@ -54,8 +55,10 @@ int Open(const Request& request, int& argc, char** argv) {
     if (status != kGood || request.words.empty()) return status;
   }
   if (!ErrorsAreRead()) return Outcome(OpenInWindows(request, argc, argv));
-  return WithDisc(
-      request, [&](const fs::path& folder) { return Outcome(RunShell(folder, request.Zoom(), argc, argv)); });
+  return WithDisc(request, [&](const fs::path& folder) {
+    WriteVolumeFiles(request.words[0], folder);
+    return Outcome(RunShell(folder, request.Zoom(), argc, argv));
+  });
 }
 
 /// Writes a page or a script that the value of an option has named.

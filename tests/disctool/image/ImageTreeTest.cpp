@@ -46,6 +46,20 @@ TEST_F(ImageTreeTest, IsReportedLikeItsFolder) {
     EXPECT_EQ(SaidOf(*Open(InSectors(iso, stride, userData, userData == 24 ? 150 : 0))), expected) << stride;
 }
 
+// Installers recognise their disc by it.
+TEST_F(ImageTreeTest, HasTheSerialNumberThatWindowsWouldShow) {
+  constexpr std::size_t kBlock = 2048, kPrimary = 16 * kBlock, kJoliet = 17 * kBlock;
+  for (const bool joliet : {false, true}) {
+    std::string iso = IsoImage(disc.Folder(), {.joliet = joliet});
+    const std::size_t at = joliet ? kJoliet : kPrimary;
+    const std::uint32_t before = Open(iso)->Serial().value();
+    iso[at + 1201] = static_cast<char>(iso[at + 1201] + 1);
+    EXPECT_EQ(Open(iso)->Serial().value() >> 16 & 0xFF, ((before >> 16) + 1) & 0xFF);
+    iso[at + 1204] = static_cast<char>(iso[at + 1204] + 0xFF);
+    EXPECT_EQ(Open(iso)->Serial().value() >> 24, ((before >> 24) + 0xFF) & 0xFF) << "no carry";
+  }
+}
+
 // Polish discs have their names in any of three encodings, and the settings name files in a fourth.
 TEST_F(ImageTreeTest, FindsPolishNamesHoweverTheyAreWritten) {
   const std::string name = "Zażółć GĘŚLĄ jaźń.txt";

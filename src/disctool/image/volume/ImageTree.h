@@ -22,6 +22,7 @@ class ImageTree : public DiscTree {
   bool IsLink(const std::string& path) const override;
   bool LeadsOff(const std::string& path) const override { return IsLink(path) && !Locate(path); }
   std::string Label() const override { return volume_->Label(); }
+  std::optional<std::uint32_t> Serial() const override { return volume_->Serial(); }
   std::vector<std::string> List(const std::string& folder) const override;
   std::optional<std::string> Read(const std::string& path, std::uintmax_t from = 0,
                                   std::uintmax_t most = kAll) const override;

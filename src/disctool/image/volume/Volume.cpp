@@ -1,6 +1,7 @@
 #include "disctool/image/volume/Volume.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <set>
 #include <unordered_set>
@@ -108,6 +109,16 @@ EntryKind KindOfMode(std::uint32_t mode) {
   }
 }
 
+/// Adds up every fourth byte, four times; the first sum is the highest byte.
+std::uint32_t SerialOf(std::string_view descriptor) {
+  std::array<std::uint8_t, 4> sums{};
+  for (std::size_t i = 0; i < descriptor.size(); ++i)
+    sums[i % 4] = static_cast<std::uint8_t>(sums[i % 4] + static_cast<unsigned char>(descriptor[i]));
+  std::uint32_t serial = 0;
+  for (const std::uint8_t sum : sums) serial = serial << 8 | sum;
+  return serial;
+}
+
 std::string Trimmed(std::string label) {
   while (label.ends_with(' ') || label.ends_with('\0')) label.pop_back();
   return label;
@@ -137,6 +148,7 @@ bool Volume::ReadDescriptors(std::size_t run) {
         primary.substr(kDatesAt, kDatesBytes);
   sectors_.runs[0].first = FindRoot(ExtentOf(primary.substr(kRootAt, kRootBytes)).block);
   UseNames(primary, joliet);
+  serial_ = SerialOf(joliet.empty() ? primary : joliet);
   return true;
 }
 

@@ -30,6 +30,9 @@ class Volume {
   const std::string& Label() const { return label_; }
   /// Its label, size and dates as they are written on it: different for two discs in one drive.
   const std::string& Id() const { return id_; }
+  /// The serial number that Windows NT and its successors, and Wine, show for the disc: a checksum of the
+  /// descriptor of its Joliet names, or else of the primary one.
+  std::uint32_t Serial() const { return serial_; }
 
  private:
   enum class Names { Plain, RockRidge, Joliet };
@@ -47,6 +50,7 @@ class Volume {
   Names names_ = Names::Plain;
   std::size_t skip_ = 0;  // bytes before those of Rock Ridge
   std::string label_, id_;
+  std::uint32_t serial_ = 0;
 };
 
 }  // namespace orvanta
