@@ -12,7 +12,7 @@ orvanta_compile_apart(orvanta_core src/launcher/modExec.cpp src/platform/DosBox.
 orvanta_compile_apart(orvanta_disctool
   src/disctool/check/CheckLines.cpp src/disctool/check/CheckSettings.cpp src/disctool/check/CheckTree.cpp
   src/disctool/check/CheckUnread.cpp src/disctool/command/DiscDiff.cpp src/disctool/command/ManyDiscs.cpp
-  src/disctool/disc/IniFile.cpp src/disctool/disc/MenuTree.cpp src/disctool/image/sectors/ByteSource.cpp)
+  src/disctool/disc/DiscTree.cpp src/disctool/disc/IniFile.cpp src/disctool/disc/MenuTree.cpp src/disctool/image/sectors/ByteSource.cpp)
 orvanta_compile_apart(orvanta_desktop
   src/platform/desktop/InstanceLock.cpp src/platform/desktop/ShellFolder.cpp
   src/platform/desktop/start/DefaultApplication.cpp)

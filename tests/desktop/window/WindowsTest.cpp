@@ -90,6 +90,7 @@ TEST_F(WindowsStory, StripsAndMainWindowComeAndGoTogether) {
   MinimiseAndRestore();
   EXPECT_TRUE(MainIsActive()) << "a strip stays away";
   ExpectWindows(main, strips);
+  EXPECT_TRUE(Soon([&] { return screen_.Windows().back() == Main(); })) << "lifted last";
   const std::vector<WindowId> before = screen_.Windows();
   Program second({disc_.Folder() / "orvanta"});
   EXPECT_EQ(second.Ended(), 0);
