@@ -7,6 +7,7 @@
 
 #include "config/Fold1250.h"
 #include "platform/AsciiText.h"
+#include "platform/Utf8.h"
 
 namespace orvanta {
 namespace {
@@ -50,20 +51,6 @@ std::optional<char16_t> TakeCharacter(std::string_view& utf8) {
   if (character < least) return std::nullopt;
   utf8.remove_prefix(length);
   return static_cast<char16_t>(character);
-}
-
-void AppendUtf8(std::string& text, char16_t character) {
-  const auto put = [&text](int byte) { text.push_back(static_cast<char>(byte)); };
-  if (character < 0x80) {
-    put(character);
-  } else if (character < 0x800) {
-    put(0xC0 | character >> 6);
-    put(0x80 | (character & 0x3F));
-  } else {
-    put(0xE0 | character >> 12);
-    put(0x80 | (character >> 6 & 0x3F));
-    put(0x80 | (character & 0x3F));
-  }
 }
 
 }  // namespace

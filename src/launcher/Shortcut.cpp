@@ -5,6 +5,7 @@
 #include "config/DiscDrive.h"
 #include "config/Windows1250.h"
 #include "platform/AsciiText.h"
+#include "platform/Utf8.h"
 
 namespace orvanta {
 namespace {
@@ -27,22 +28,6 @@ std::string OnDisc(std::string path) {
   return path;
 }
 
-void AddUtf8(std::string& text, char32_t c) {
-  const auto add = [&text](char32_t byte) { text += static_cast<char>(byte); };
-  if (c < 0x80) return add(c);
-  if (c < 0x800) {
-    add(0xC0 | c >> 6);
-  } else if (c < 0x10000) {
-    add(0xE0 | c >> 12);
-    add(0x80 | (c >> 6 & 0x3F));
-  } else {
-    add(0xF0 | c >> 18);
-    add(0x80 | (c >> 12 & 0x3F));
-    add(0x80 | (c >> 6 & 0x3F));
-  }
-  add(0x80 | (c & 0x3F));
-}
-
 /// Two bytes are a unit; half of a surrogate pair becomes the replacement character.
 std::string FromUtf16(std::string_view bytes) {
   constexpr char32_t Replacement = 0xFFFD;
@@ -59,7 +44,7 @@ std::string FromUtf16(std::string_view bytes) {
       c = pair ? 0x10000 + ((c - 0xD800) << 10) + (low - 0xDC00) : Replacement;
       if (pair) i += 2;
     }
-    AddUtf8(text, c);
+    AppendUtf8(text, c);
   }
   return text;
 }

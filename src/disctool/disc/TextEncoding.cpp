@@ -3,26 +3,12 @@
 #include <array>
 #include <cstdint>
 
+#include "platform/Utf8.h"
+
 namespace orvanta {
 namespace {
 
 constexpr std::string_view kLittleMark = "\xFF\xFE", kBigMark = "\xFE\xFF";
-
-void AppendUtf8(std::string& text, std::uint32_t character) {
-  const auto add = [&](std::uint32_t byte) { text += static_cast<char>(byte); };
-  if (character < 0x80) return add(character);
-  if (character < 0x800) {
-    add(0xC0 | character >> 6);
-  } else if (character < 0x10000) {
-    add(0xE0 | character >> 12);
-    add(0x80 | (character >> 6 & 0x3F));
-  } else {
-    add(0xF0 | character >> 18);
-    add(0x80 | (character >> 12 & 0x3F));
-    add(0x80 | (character >> 6 & 0x3F));
-  }
-  add(0x80 | (character & 0x3F));
-}
 
 }  // namespace
 

@@ -7,6 +7,7 @@
 #include "config/Windows1250.h"
 #include "disctool/OutputText.h"
 #include "disctool/image/sectors/Fields.h"
+#include "platform/Utf8.h"
 
 namespace orvanta {
 namespace {
@@ -30,30 +31,11 @@ constexpr std::string_view kPolish1250 =
 constexpr std::string_view kPolish852 =
     "\xA4\x8F\xA8\x9D\xE3\xE0\x97\x8D\xBD\xA5\x86\xA9\x88\xE4\xA2\x98\xAB\xBE";
 
-void Append(std::string& utf8, std::uint32_t character) {
-  const auto tail = [&](unsigned shift) { utf8 += static_cast<char>(0x80 | (character >> shift & 0x3F)); };
-  if (character < 0x80) {
-    utf8 += static_cast<char>(character);
-  } else if (character < 0x800) {
-    utf8 += static_cast<char>(0xC0 | character >> 6);
-    tail(0);
-  } else if (character < 0x10000) {
-    utf8 += static_cast<char>(0xE0 | character >> 12);
-    tail(6);
-    tail(0);
-  } else {
-    utf8 += static_cast<char>(0xF0 | character >> 18);
-    tail(12);
-    tail(6);
-    tail(0);
-  }
-}
-
 std::string FromCp852(std::string_view bytes) {
   std::string utf8;
   for (const char c : bytes) {
     const auto byte = static_cast<unsigned char>(c);
-    Append(utf8, byte < 0x80 ? byte : kCp852[byte - 0x80]);
+    AppendUtf8(utf8, byte < 0x80 ? byte : kCp852[byte - 0x80]);
   }
   return utf8;
 }
@@ -80,7 +62,7 @@ std::string JolietNameInUtf8(std::string_view bytes) {
       character = 0x10000 + ((character - kHigh) << 10) + (next - kLow);
       i += 2;
     }
-    Append(utf8, character >= kHigh && character < kAfter ? kReplacement : character);
+    AppendUtf8(utf8, character >= kHigh && character < kAfter ? kReplacement : character);
   }
   return utf8;
 }
